@@ -1,0 +1,38 @@
+# Settings shared by every target of ours, and the two shapes of target: a folder's static library
+# and a test program.
+
+add_library(ostrel_options INTERFACE)
+target_compile_definitions(ostrel_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH)
+target_include_directories(ostrel_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(MSVC)
+    target_compile_options(ostrel_options INTERFACE /W4 /WX /utf-8 /permissive-)
+else()
+    target_compile_options(ostrel_options INTERFACE -Wall -Wextra -Wconversion -Werror)
+endif()
+if(OSTREL_SANITIZE)
+    target_compile_options(ostrel_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(ostrel_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# ostrel_library(name [MOC] SOURCES file... LINK target...): the link line is the architecture. MOC for
+# folders with QObject classes of their own.
+function(ostrel_library name)
+    cmake_parse_arguments(ARG "MOC" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC})
+    target_link_libraries(${name} PUBLIC ostrel_options ${ARG_LINK})
+endfunction()
+
+# ostrel_test(name LINK target...): one program from tests/<name>.cpp, run without a display.
+function(ostrel_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${name}.cpp ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    target_link_libraries(${name} PRIVATE ostrel_options Qt6::Test ${ARG_LINK})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 120
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+endfunction()

@@ -1,0 +1,35 @@
+#include "core/FiltroTeclas.h"
+
+static constexpr QStringView Admitidos = u"0123456789"
+                                         u"ABCDEFGHIJKLMNÑOPQRSTUVWXYZ"
+                                         u" !$%&()*+,-./:;<=>?\\_ºª¿¡çÇ";
+static constexpr QStringView Acentuadas = u"ÁÉÍÓÚÀÈÌÒÙÄËÏÖÜÂÊÎÔÛ";
+
+QChar filtrarCifra(QChar tecla)
+{
+    return tecla == TeclaRetroceso || (tecla >= u'0' && tecla <= u'9') ? tecla : QChar();
+}
+
+QChar filtrarTexto(QChar tecla)
+{
+    if (tecla == TeclaRetroceso)
+        return tecla;
+    const QChar mayuscula = tecla.toUpper();
+    return Admitidos.contains(mayuscula) ? mayuscula : QChar();
+}
+
+QString filtrarTexto(const QString &texto)
+{
+    QString limpio;
+    for (const QChar c : texto) {
+        const QChar tomado = filtrarTexto(c);
+        if (!tomado.isNull() && tomado != TeclaRetroceso)
+            limpio += tomado;
+    }
+    return limpio;
+}
+
+bool admitidoEnFichero(QChar c)
+{
+    return Admitidos.contains(c) || Acentuadas.contains(c);
+}

@@ -1,0 +1,28 @@
+#include "core/Periodos.h"
+
+#include "core/Textos.h"
+
+static constexpr QStringView Meses[12][2] = {
+    {u"ENERO", u"URTARRILA"}, {u"FEBRERO", u"OTSAILA"},  {u"MARZO", u"MARTXOA"},
+    {u"ABRIL", u"APIRILA"},   {u"MAYO", u"MAIATZA"},     {u"JUNIO", u"EKAINA"},
+    {u"JULIO", u"UZTAILA"},   {u"AGOSTO", u"ABUZTUA"},   {u"SEPTIEMBRE", u"IRAILA"},
+    {u"OCTUBRE", u"URRIA"},   {u"NOVIEMBRE", u"AZAROA"}, {u"DICIEMBRE", u"ABENDUA"},
+};
+
+QString nombreMes(int mes)
+{
+    if (mes < 1 || mes > 12)
+        return {};
+    return elegir(Meses[mes - 1][0].toString(), Meses[mes - 1][1].toString());
+}
+
+QString palabraPeriodicidad(int periodicidad)
+{
+    return periodicidad == PeriodicidadAnual ? elegir(u"ANUAL"_qs, u"URTEKOA"_qs) : QString();
+}
+
+QString textoPeriodo(int periodicidad, int periodo)
+{
+    return periodicidad == PeriodicidadAnual ? palabraPeriodicidad(periodicidad)
+                                             : nombreMes(periodo);
+}

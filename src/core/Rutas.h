@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+/// Where this session's files are. Set once at start-up, before anything else is used.
+struct Rutas
+{
+    QString
+        programa; ///< folder of the executable, or the one given with --carpeta; no final separator
+    QString tablas; ///< folder of the databases, with final separator
+    QString lectura; ///< lookup database
+    QString modelo; ///< model database
+
+    /// The tables folder is "Tablas" under the program folder; but a program folder whose path
+    /// contains "cliente" (any letter case, also inside a longer name) has it beside: the path
+    /// before that word less the separator in front of it, then "Tablas".
+    static Rutas desde(const QString &carpetaPrograma);
+};
+
+/// The session's paths.
+const Rutas &rutas();
+void fijarRutas(const Rutas &nuevas);

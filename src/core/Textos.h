@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+#include <Msj.h>
+
+/// The texts that users see, in the session's language.
+
+/// 0 for Castilian, 10000 for Basque.
+qint16 desplazamientoIdioma();
+void fijarDesplazamientoIdioma(qint16 desplazamiento);
+
+/// The text of the table, its placeholders %1, %2… not yet filled.
+QString msj(Msj cual);
+
+/// The same, filled in. Arguments are replaced in one pass, so that a "%2" inside a value stays.
+template <class... Textos> QString msj(Msj cual, const QString &primero, const Textos &...otros)
+{
+    return msj(cual).arg(primero, otros...);
+}
+
+/// The k-th text after `primera` (0 is `primera` itself), for runs of consecutive numbers.
+QString msjDesde(Msj primera, int k);
+
+/// Two-language chooser for texts that are not in the table.
+QString elegir(const QString &castellano, const QString &euskera);

@@ -1,0 +1,123 @@
+#pragma once
+
+#include "dataservice/Fabrica.h"
+#include "dataservice/Registros.h"
+
+/// The data service of the program: declarants, returns, settings and lookups in two databases.
+///
+/// Use: servicio::crear<...>(), set the database path(s), call one method, release. A call that
+/// cannot be carried out throws ErrorDatos and has changed nothing; validation outcomes are
+/// results. `idioma` is 0 (Castilian) or 10000 (Basque).
+namespace SvrOstr {
+
+/// General lookups and settings.
+class cDatosGeneral : public servicio::Objeto
+{
+public:
+    static constexpr QStringView ID = u"SvrOstr.cDatosGeneral";
+
+    virtual void mdbname(const QString &ruta) = 0; ///< path of the database that the call needs
+
+    // Model database.
+    virtual qint32 NumeroDeclarantes() = 0;
+    virtual void CambiarIdioma(const QString &codigo) = 0; ///< "C" or "E"
+    virtual QString ObtenerIdioma() = 0; ///< empty while none was chosen
+    virtual void GuardarActOnline(qint16 valor) = 0;
+    virtual qint16 ObtenerActOnline() = 0; ///< 0 while it was never stored
+
+    // Lookup database.
+    virtual void DameEjerPerMinMax(Registro &limites) = 0; ///< RegLimites
+    /// Name of province `codigo` ("20"); empty when there is none.
+    virtual void ObtenerNombreProvincia(const QString &codigo, QString &nombre, qint16 idioma) = 0;
+    virtual void ObtenerNombreMunicipio(const QString &codigo, QString &nombre) = 0;
+    /// Rows (code, name) for a pick list; `sql` is one of the texts in ListasSql.h.
+    virtual void CargarProvincias(const QString &sql, Filas &filas) = 0;
+    virtual void CargarMunicipios(const QString &sql, Filas &filas) = 0;
+    virtual void CargarVias(const QString &sql, Filas &filas) = 0;
+    /// The rates (percent) in force during a year, in time order: one, or two when it changed.
+    virtual void ObtenerTipoAnual(Registro &tipos, qint16 ejercicio) = 0;
+    /// The rate (percent) of a month; 0 before the first rate known.
+    virtual float ObtenerTipoImpositivo(qint16 ejercicio, quint8 periodo) = 0;
+    virtual QString URLAct() = 0;
+};
+
+/// Declarants.
+class cDeclarante : public servicio::Objeto
+{
+public:
+    static constexpr QStringView ID = u"SvrOstr.cDeclarante";
+
+    virtual void mdbnameM(const QString &ruta) = 0; ///< model database
+    virtual void mdbnameL(const QString &ruta) = 0; ///< lookup database
+
+    virtual void CargarDeclarante(qint32 &CSCO, Registro &registro) = 0; ///< RegDeclarante
+    /// Inserts (CSCO 0) or updates a RegDeclarante: 0 saved, 1 a new one's DNI exists already,
+    /// 2 another declarant has that DNI.
+    virtual qint16 GuardarDeclarante(const Registro &registro) = 0;
+    virtual void BorrarDeclarante(qint32 CSCO) = 0;
+    /// First broken rule (1 to 12) of a RegValidacion, 0 when valid. Needs no database.
+    virtual qint16 ValidarDatosDeclarante(const Registro &datos) = 0;
+    /// Key stored under a tax identifier, 0 when there is none.
+    virtual qint32 ObtenerCodigoDeclarante(const QString &DNI) = 0;
+    /// Findings on a RegDeclarante read from a file: no row when it can be accepted, else one row
+    /// (text) a finding, in the given language. The lookup database is needed.
+    virtual Filas ValidarDatosImportar(const Registro &registro, qint16 idioma) = 0;
+    /// FilaDeclarante rows and their number; `orden` 1 by DNI, 2 by name. Needs both databases.
+    virtual qint32 dameResultado(Filas &filas, quint8 orden, qint16 idioma) = 0;
+    /// RegDeclarante rows of every declarant, in the same orders.
+    virtual qint32 dameResultadoExportar(Filas &filas, quint8 orden) = 0;
+    /// FilaReciente rows: up to four, the last saved first.
+    virtual void ObtenerUltimosDeclarantes(Filas &filas) = 0;
+    /// Fila430 rows of a declarant's 430 returns of a year, by month; false when there is none.
+    virtual bool ObtListDecl430(Filas &filas, qint16 ejercicio, qint32 CSCO) = 0;
+};
+
+/// Returns of models 430 and 480.
+class cDeclaracion : public servicio::Objeto
+{
+public:
+    static constexpr QStringView ID = u"SvrOstr.cDeclaracion";
+
+    virtual void mdbname(const QString &ruta) = 0; ///< model database
+
+    /// FilaDeclaracion rows of a declarant, oldest first, and their number.
+    virtual qint32 dameResultado(Filas &filas, qint32 CSCO) = 0;
+    /// Whether a RegCabecera (first seven elements) lies within its bounds.
+    virtual bool EjerPerValidos(const Registro &cabecera) = 0;
+    /// Fills a RegUltima for the declarant in its element 0 and the return's key; false when the
+    /// declarant has none. The latest is the highest exercise and period, a 480 after its December.
+    virtual bool ObtenerUltimaDeclaracion(Registro &cabecera, qint32 &CSDE) = 0;
+    /// A RegCabecera: 1, 2, 3 empty exercise, period, model; 4 out of bounds; 5 stored already; 0
+    /// valid.
+    virtual qint16 ValidarDatosComunes(const Registro &cabecera) = 0;
+    virtual void Cargar430(qint32 &CSDE, Registro &figuras) = 0; ///< Reg430
+    virtual void Cargar480(qint32 &CSDE, Registro &figuras) = 0; ///< Reg480
+    /// A RegValidar430: 1 rectification marked and its base 0, 2 its quota 0, else 0. No database.
+    virtual qint16 ValidarDatos430(const Registro &datos) = 0;
+    /// A RegValidar480: 2 when box 70 is not 73 + 76, else 0. No database.
+    virtual qint16 ValidarDatos480(const Registro &datos) = 0;
+    /// Saves header and figures in one transaction: the return's key, or 0 when it was refused
+    /// (another return of that declarant, exercise, period and model is stored already).
+    virtual qint32 Guardar430(const Registro &datos) = 0;
+    virtual qint32 Guardar480(const Registro &datos) = 0;
+    /// Deletes the figures; the deletion holds once BorrarDeclaracion has followed on this object,
+    /// and is undone when the object is released before.
+    virtual void BorrarDatosNoComunes(qint32 CSDE, const QString &modelo) = 0;
+    virtual void BorrarDeclaracion(qint32 CSDE) = 0;
+};
+
+/// Preparation of the databases at start-up and after a restore.
+class cTraspaso : public servicio::Objeto
+{
+public:
+    static constexpr QStringView ID = u"SvrOstr.cTraspaso";
+
+    virtual void mdbmod(const QString &ruta) = 0; ///< model database
+    virtual void mdbPath(const QString &carpeta) = 0; ///< tables folder
+    /// Creates what is missing and brings older files up to date; true when the program must end.
+    /// Throws ErrorDatos naming the first file that cannot be used; such a file is left untouched
+    /// and the other one is prepared all the same.
+    virtual bool Traspaso() = 0;
+};
+
+} // namespace SvrOstr

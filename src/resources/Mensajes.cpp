@@ -1,0 +1,43 @@
+#include "resources/Mensajes.h"
+
+#include <QFile>
+#include <QTextStream>
+
+#include <algorithm>
+
+static void leer(const QString &ruta, QList<Mensaje> &tabla)
+{
+    QFile fichero(ruta);
+    if (!fichero.open(QIODevice::ReadOnly | QIODevice::Text))
+        return;
+    QTextStream texto(&fichero);
+    for (QString linea; texto.readLineInto(&linea);) {
+        if (linea.startsWith(u'#'))
+            continue;
+        auto campos = linea.replace(u"\\n"_qs, u"\n"_qs).split(u'|');
+        if (campos.size() == 4)
+            tabla.append({campos[0].toInt(), campos[1], campos[2], campos[3]});
+    }
+}
+
+const QList<Mensaje> &mensajes()
+{
+    static const QList<Mensaje> tabla = [] {
+        QList<Mensaje> leidos;
+        leer(u":/textos/mensajes.txt"_qs, leidos);
+        leer(u":/textos/textos_propios.txt"_qs, leidos);
+        std::ranges::sort(leidos, {}, &Mensaje::numero);
+        return leidos;
+    }();
+    return tabla;
+}
+
+QString mensajeNumero(int numero)
+{
+    const bool basque = numero >= 10000;
+    const int base = basque ? numero - 10000 : numero;
+    const auto hallado = std::ranges::lower_bound(mensajes(), base, {}, &Mensaje::numero);
+    if (hallado == mensajes().end() || hallado->numero != base)
+        return {};
+    return basque ? hallado->euskera : hallado->castellano;
+}
