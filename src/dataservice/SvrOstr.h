@@ -7,7 +7,9 @@
 ///
 /// Use: servicio::crear<...>(), set the database path(s), call one method, release. A call that
 /// cannot be carried out throws ErrorDatos and has changed nothing; validation outcomes are
-/// results. `idioma` is 0 (Castilian) or 10000 (Basque).
+/// results. A record of the wrong length, or with a field of the wrong kind, is the caller's
+/// mistake and throws std::invalid_argument (Guardar430 and Guardar480 return 0). `idioma` is 0
+/// (Castilian) or 10000 (Basque).
 namespace SvrOstr {
 
 /// General lookups and settings.
@@ -34,7 +36,8 @@ public:
     virtual void CargarProvincias(const QString &sql, Filas &filas) = 0;
     virtual void CargarMunicipios(const QString &sql, Filas &filas) = 0;
     virtual void CargarVias(const QString &sql, Filas &filas) = 0;
-    /// The rates (percent) in force during a year, in time order: one, or two when it changed.
+    /// The rates (percent) in force during a year, in time order: one (0 before the first
+    /// rate known), or two when it changed.
     virtual void ObtenerTipoAnual(Registro &tipos, qint16 ejercicio) = 0;
     /// The rate (percent) of a month; 0 before the first rate known.
     virtual float ObtenerTipoImpositivo(qint16 ejercicio, quint8 periodo) = 0;
@@ -52,8 +55,10 @@ public:
 
     virtual void CargarDeclarante(qint32 &CSCO, Registro &registro) = 0; ///< RegDeclarante
     /// Inserts (CSCO 0) or updates a RegDeclarante: 0 saved, 1 a new one's DNI exists already,
-    /// 2 another declarant has that DNI.
+    /// 2 another declarant has that DNI. Texts are stored trimmed and in upper case; the counters
+    /// of the record are ignored.
     virtual qint16 GuardarDeclarante(const Registro &registro) = 0;
+    /// Throws ErrorDatos (Fallo::EnUso) while the declarant has returns.
     virtual void BorrarDeclarante(qint32 CSCO) = 0;
     /// First broken rule (1 to 12) of a RegValidacion, 0 when valid. Needs no database.
     virtual qint16 ValidarDatosDeclarante(const Registro &datos) = 0;
@@ -97,7 +102,10 @@ public:
     /// A RegValidar480: 2 when box 70 is not 73 + 76, else 0. No database.
     virtual qint16 ValidarDatos480(const Registro &datos) = 0;
     /// Saves header and figures in one transaction: the return's key, or 0 when it was refused
-    /// (another return of that declarant, exercise, period and model is stored already).
+    /// (another return of that declarant, exercise, period and model is stored already; the record
+    /// is malformed; its header is not the stored return's, or not its model's: a 430 has
+    /// periodicity and typology 1, a 480 has 2 and period 12). NoEncontrado: unknown declarant or
+    /// return.
     virtual qint32 Guardar430(const Registro &datos) = 0;
     virtual qint32 Guardar480(const Registro &datos) = 0;
     /// Deletes the figures; the deletion holds once BorrarDeclaracion has followed on this object,

@@ -1,0 +1,151 @@
+#include "server/AlmacenDeclaraciones.h"
+
+#include "server/AlmacenDeclarantes.h"
+#include "server/LectorRegistro.h"
+
+namespace servidor {
+
+namespace {
+
+using namespace RegGuardar;
+
+constexpr qint32 ClaveMaxima = std::numeric_limits<qint32>::max();
+constexpr qint32 Diciembre = 12;
+
+struct Cabecera
+{
+    qint32 csde, csco, ejercicio, periodicidad, periodo, tipologia;
+    QString modelo;
+};
+
+Cabecera leerCabecera(LectorRegistro &lector)
+{
+    return {.csde = lector.entero(CSDE, 0, ClaveMaxima),
+            .csco = lector.entero(CSCO, 1, ClaveMaxima),
+            .ejercicio = lector.entero(EJERCICIO, 1, 9999),
+            .periodicidad = lector.entero(PERIODICIDAD, 1, 2),
+            .periodo = lector.entero(PERIODO, 1, Diciembre),
+            .tipologia = lector.entero(TIPOLOGIA, 1, 2),
+            .modelo = lector.texto(MODELO)};
+}
+
+bool esDelModelo(const Cabecera &cabecera, const Modelo &modelo)
+{
+    const bool anual = modelo.periodicidad == 2;
+    return cabecera.modelo == modelo.codigo && cabecera.periodicidad == modelo.periodicidad
+        && cabecera.tipologia == modelo.periodicidad && (!anual || cabecera.periodo == Diciembre);
+}
+
+QVariantList leerFiguras(LectorRegistro &lector, const Modelo &modelo)
+{
+    QVariantList figuras;
+    qsizetype campo = Figuras;
+    for (const auto &columna : modelo.columnas) {
+        switch (columna.clase) {
+        case Modelo::Clase::Marca:
+            figuras += lector.texto(campo);
+            break;
+        case Modelo::Clase::Importe:
+            figuras += lector.importe(campo);
+            break;
+        case Modelo::Clase::Tipo:
+            figuras += lector.tipo(campo);
+            break;
+        }
+        ++campo;
+    }
+    return figuras;
+}
+
+/// The key of the new header, 0 when there is such a return already.
+qint32 insertarCabecera(const PConexion &conexion, const Cabecera &cabecera, qint64 importe)
+{
+    Sentencia sentencia(
+        conexion,
+        "INSERT INTO DECLARACIONES (CSCO, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, "
+        "TIPOLOGIA, IMPORTE) SELECT ?, ?, ?, ?, ?, ?, ? WHERE true "
+        "ON CONFLICT (CSCO, EJERCICIO, PERIODO, MODELO) DO NOTHING");
+    sentencia.con(cabecera.csco, cabecera.ejercicio, cabecera.periodicidad, cabecera.periodo,
+                  cabecera.modelo, cabecera.tipologia, importe);
+    return sentencia.ejecutar() == 0 ? 0 : conexion->ultimaClave();
+}
+
+/// The key of the return, 0 when its stored header is another one than `cabecera`.
+qint32 actualizarCabecera(const PConexion &conexion, const Cabecera &cabecera, qint64 importe)
+{
+    if (!Sentencia(conexion, "SELECT 1 FROM DECLARACIONES WHERE CSDE = ?")
+             .con(cabecera.csde)
+             .fila())
+        noEncontrado(QStringLiteral("CSDE"), cabecera.csde);
+    Sentencia sentencia(conexion,
+                        "UPDATE DECLARACIONES SET IMPORTE = ? WHERE CSDE = ? AND CSCO = ? "
+                        "AND EJERCICIO = ? AND PERIODO = ? AND MODELO = ?");
+    sentencia.con(importe, cabecera.csde, cabecera.csco, cabecera.ejercicio, cabecera.periodo,
+                  cabecera.modelo);
+    return sentencia.ejecutar() == 0 ? 0 : cabecera.csde;
+}
+
+void guardarFiguras(const PConexion &conexion, const Modelo &modelo, qint32 CSDE,
+                    const QVariantList &figuras)
+{
+    Sentencia sentencia(conexion, modelo.guardar);
+    int indice = 1;
+    sentencia.ligar(indice, CSDE);
+    for (const QVariant &figura : figuras) {
+        ++indice;
+        if (figura.typeId() == QMetaType::QString)
+            sentencia.ligar(indice, figura.toString());
+        else
+            sentencia.ligar(indice, figura.toLongLong());
+    }
+    sentencia.ejecutar();
+}
+
+} // namespace
+
+qint32 guardarDeclaracion(const QString &ruta, const Modelo &modelo, const Registro &datos)
+{
+    LectorRegistro lector(datos, Figuras + static_cast<qsizetype>(modelo.columnas.size()));
+    const Cabecera cabecera = leerCabecera(lector);
+    const QVariantList figuras = leerFiguras(lector, modelo);
+    if (!lector.valido() || !esDelModelo(cabecera, modelo))
+        return 0;
+
+    Transaccion transaccion(Conexion::modelo(ruta));
+    const PConexion &conexion = transaccion.conexion();
+    marcarReciente(conexion, cabecera.csco);
+    const qint64 importe = figuras[modelo.listado].toLongLong();
+    const qint32 clave = cabecera.csde == 0 ? insertarCabecera(conexion, cabecera, importe)
+                                            : actualizarCabecera(conexion, cabecera, importe);
+    if (clave == 0)
+        return 0;
+    guardarFiguras(conexion, modelo, clave, figuras);
+    transaccion.confirmar();
+    return clave;
+}
+
+Registro cargarFiguras(const PConexion &conexion, const Modelo &modelo, qint32 CSDE)
+{
+    Sentencia sentencia(conexion, modelo.leer);
+    if (!sentencia.con(CSDE).fila())
+        noEncontrado(QStringLiteral("CSDE"), CSDE);
+    Registro figuras;
+    int columna = 0;
+    for (const auto &definicion : modelo.columnas) {
+        switch (definicion.clase) {
+        case Modelo::Clase::Marca:
+            figuras += sentencia.texto(columna);
+            break;
+        case Modelo::Clase::Importe:
+            figuras += static_cast<double>(sentencia.entero(columna));
+            break;
+        case Modelo::Clase::Tipo:
+            figuras += static_cast<float>(static_cast<double>(sentencia.entero(columna)) / 100);
+            break;
+        }
+        ++columna;
+    }
+    return figuras;
+}
+
+} // namespace servidor

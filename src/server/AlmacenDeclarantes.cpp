@@ -1,0 +1,151 @@
+#include "server/AlmacenDeclarantes.h"
+
+#include "dataservice/ErrorDatos.h"
+#include "server/LectorRegistro.h"
+#include "server/Orden.h"
+
+namespace servidor {
+
+namespace {
+
+using namespace RegDeclarante;
+
+constexpr qint32 ClaveMaxima = std::numeric_limits<qint32>::max();
+
+// Parameters 1 to 15 are CSCO to TELEFONO of the record, 16 the sort key.
+constexpr const char *Alta = R"(
+INSERT INTO DECLARANTES (DNI, NOMBRE, VIA, DOMICILIO, NUMERO, LETRA, ESCALERA, PISO, MANO, CODPROV,
+    CODPOS, CODMUN, NOMMUN, TELEFONO, CLAVE)
+SELECT ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, ?15, ?16 WHERE ?1 = 0
+ON CONFLICT (DNI) DO NOTHING)";
+
+constexpr const char *Cambio = R"(
+UPDATE DECLARANTES SET DNI = ?2, NOMBRE = ?3, VIA = ?4, DOMICILIO = ?5, NUMERO = ?6, LETRA = ?7,
+    ESCALERA = ?8, PISO = ?9, MANO = ?10, CODPROV = ?11, CODPOS = ?12, CODMUN = ?13, NOMMUN = ?14,
+    TELEFONO = ?15, CLAVE = ?16 WHERE CSCO = ?1)";
+
+QVariantList leerCampos(const Registro &registro)
+{
+    LectorRegistro lector(registro, Total);
+    QVariantList campos;
+    for (qsizetype campo = CSCO; campo <= TELEFONO; ++campo) {
+        switch (campo) {
+        case CSCO:
+            campos += lector.entero(campo, 0, ClaveMaxima);
+            break;
+        case NUMERO:
+            campos += lector.codigo(campo, 99'999);
+            break;
+        case CODPROV:
+            campos += lector.codigo(campo, 99);
+            break;
+        case CODMUN:
+            campos += lector.codigo(campo, 999);
+            break;
+        default:
+            campos += lector.texto(campo);
+        }
+    }
+    lector.exigirValido();
+    return campos;
+}
+
+void ligarCampos(Sentencia &sentencia, const QVariantList &campos)
+{
+    int indice = 0;
+    for (const QVariant &campo : campos) {
+        ++indice;
+        if (campo.typeId() == QMetaType::QString)
+            sentencia.ligar(indice, campo.toString());
+        else
+            sentencia.ligar(indice, campo.toLongLong());
+    }
+    sentencia.ligar(++indice, claveOrden(campos[NOMBRE].toString()));
+}
+
+bool dniDeOtro(const PConexion &conexion, const QVariantList &campos)
+{
+    return Sentencia(conexion, "SELECT 1 FROM DECLARANTES WHERE DNI = ? AND CSCO <> ?")
+        .con(campos[DNI].toString(), campos[CSCO].toLongLong())
+        .fila();
+}
+
+// A code with its figures, empty when there is none.
+QString codigo(qint64 valor, int cifras)
+{
+    return valor == 0 ? QString() : QString::number(valor).rightJustified(cifras, u'0');
+}
+
+} // namespace
+
+qint16 guardarDeclarante(const PConexion &conexion, const Registro &registro, Recientes recientes)
+{
+    const QVariantList campos = leerCampos(registro);
+    qint32 clave = campos[CSCO].toInt();
+    const bool nuevo = clave == 0;
+    if (!nuevo && dniDeOtro(conexion, campos))
+        return 2;
+    Sentencia sentencia(conexion, nuevo ? Alta : Cambio);
+    ligarCampos(sentencia, campos);
+    if (sentencia.ejecutar() == 0) {
+        if (nuevo)
+            return 1;
+        noEncontrado(QStringLiteral("CSCO"), clave);
+    }
+    if (nuevo)
+        clave = conexion->ultimaClave();
+    if (recientes == Recientes::Contar)
+        marcarReciente(conexion, clave);
+    return 0;
+}
+
+void marcarReciente(const PConexion &conexion, qint32 CSCO)
+{
+    Sentencia sentencia(conexion,
+                        "UPDATE DECLARANTES SET RECIENTE = 1 + (SELECT max(RECIENTE) FROM "
+                        "DECLARANTES) WHERE CSCO = ?");
+    if (sentencia.con(CSCO).ejecutar() == 0)
+        noEncontrado(QStringLiteral("CSCO"), CSCO);
+}
+
+std::string seleccionDeclarante(std::string_view resto)
+{
+    return std::string("SELECT CSCO, DNI, NOMBRE, VIA, DOMICILIO, NUMERO, LETRA, ESCALERA, PISO, "
+                       "MANO, CODPROV, CODPOS, CODMUN, NOMMUN, TELEFONO, NUM430, NUM480 "
+                       "FROM DECLARANTES ")
+        .append(resto);
+}
+
+Registro registroDeclarante(const Sentencia &fila)
+{
+    Registro registro;
+    registro.reserve(Total);
+    for (int campo = CSCO; campo < Total; ++campo) {
+        switch (campo) {
+        case CSCO:
+        case NUMERO:
+            registro += fila.clave(campo);
+            break;
+        case CODPROV:
+            registro += codigo(fila.entero(campo), 2);
+            break;
+        case CODMUN:
+            registro += codigo(fila.entero(campo), 3);
+            break;
+        case NUM430:
+        case NUM480:
+            registro += static_cast<double>(fila.entero(campo));
+            break;
+        default:
+            registro += fila.texto(campo);
+        }
+    }
+    return registro;
+}
+
+void noEncontrado(const QString &que, qint64 clave)
+{
+    throw ErrorDatos(Fallo::NoEncontrado, QStringLiteral("%1 %2").arg(que).arg(clave));
+}
+
+} // namespace servidor

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "dataservice/Registros.h"
+#include "server/Sentencia.h"
+
+#include <string>
+
+namespace servidor {
+
+enum class Recientes { Contar, NoContar };
+
+/// Inserts or updates a RegDeclarante within the caller's transaction: 0, 1 or 2 as
+/// cDeclarante::GuardarDeclarante tells. With a code other than 0 nothing has been written.
+qint16 guardarDeclarante(const PConexion &conexion, const Registro &registro, Recientes recientes);
+
+/// Makes a declarant the most recent one. Throws NoEncontrado when it is not stored.
+void marcarReciente(const PConexion &conexion, qint32 CSCO);
+
+/// SELECT of all a declarant's columns, to be followed by a condition or an order, and the
+/// RegDeclarante of a row of it.
+std::string seleccionDeclarante(std::string_view resto);
+Registro registroDeclarante(const Sentencia &fila);
+
+[[noreturn]] void noEncontrado(const QString &que, qint64 clave);
+
+} // namespace servidor

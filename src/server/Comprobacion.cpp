@@ -1,0 +1,92 @@
+#include "server/Comprobacion.h"
+
+#include "server/ErroresSqlite.h"
+#include "server/Ficheros.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
+
+#include <SQLiteCpp/Statement.h>
+
+namespace servidor {
+
+namespace {
+
+constexpr qsizetype TamanoCabecera = 100;
+
+quint32 numero32(const QByteArray &cabecera, qsizetype posicion)
+{
+    return qFromBigEndian<quint32>(cabecera.constData() + posicion);
+}
+
+qint64 tamanoDeclarado(const QByteArray &cabecera)
+{
+    const auto pagina = qFromBigEndian<quint16>(cabecera.constData() + 16);
+    const qint64 bytes = pagina == 1 ? 65536 : pagina; // 65536 does not fit in its two bytes
+    return bytes * numero32(cabecera, 28);
+}
+
+QByteArray leerCabecera(const QString &ruta)
+{
+    if (!identidad(ruta))
+        throw ErrorDatos(Fallo::NoExiste, ruta, QStringLiteral("no such file"));
+    QFile fichero(ruta);
+    if (!fichero.open(QIODevice::ReadOnly))
+        throw ErrorDatos(Fallo::LecturaEscritura, ruta, fichero.errorString());
+    return fichero.read(TamanoCabecera);
+}
+
+// With a journal beside it the file may be half-way through a commit that SQLite is about to undo.
+bool tieneDiario(const QString &ruta)
+{
+    return QFileInfo(ruta + QStringLiteral("-journal")).size() > 0;
+}
+
+void comprobarVersion(qint32 actual, const Formato &formato, Version version, const QString &ruta)
+{
+    const auto detalle = QStringLiteral("schema %1").arg(actual);
+    if (actual > formato.esquema)
+        throw ErrorDatos(Fallo::MasNueva, ruta, detalle);
+    if (actual < 1 || (version == Version::Actual && actual < formato.esquema))
+        throw ErrorDatos(Fallo::Danada, ruta, detalle);
+}
+
+void comprobarContenido(SQLite::Database &base, const QString &ruta)
+{
+    SQLite::Statement consulta(base, "PRAGMA quick_check(1)");
+    consulta.executeStep();
+    const std::string resultado = consulta.getColumn(0).getString();
+    if (resultado != "ok")
+        throw ErrorDatos(Fallo::Danada, ruta, QString::fromStdString(resultado));
+}
+
+} // namespace
+
+qint32 comprobarCabecera(const QString &ruta, const Formato &formato, Version version)
+{
+    const QByteArray cabecera = leerCabecera(ruta);
+    if (cabecera.size() < TamanoCabecera
+        || !cabecera.startsWith(QByteArray("SQLite format 3\0", 16)))
+        throw ErrorDatos(Fallo::Danada, ruta, QStringLiteral("not a database"));
+    if (static_cast<qint32>(numero32(cabecera, 68)) != formato.aplicacion)
+        throw ErrorDatos(Fallo::Ajena, ruta, QStringLiteral("application_id"));
+    const auto esquema = static_cast<qint32>(numero32(cabecera, 60));
+    comprobarVersion(esquema, formato, version, ruta);
+    if (!tieneDiario(ruta) && QFileInfo(ruta).size() < tamanoDeclarado(cabecera))
+        throw ErrorDatos(Fallo::Danada, ruta, QStringLiteral("truncated"));
+    return esquema;
+}
+
+SQLite::Database abrirComprobada(const QString &ruta, const Formato &formato, Version version)
+{
+    comprobarCabecera(ruta, formato, version);
+    return conErrores(ruta, [&] {
+        const int modo = formato.soloLectura ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
+        SQLite::Database base(ruta.toStdString(), modo, EsperaMs);
+        comprobarContenido(base, ruta);
+        return base;
+    });
+}
+
+} // namespace servidor

@@ -1,0 +1,91 @@
+#include "server/Conexion.h"
+
+#include "server/Comprobacion.h"
+#include "server/ErroresSqlite.h"
+#include "server/Sentencia.h"
+
+#include <QHash>
+
+#include <sqlite3.h>
+
+namespace servidor {
+
+namespace {
+
+QHash<QString, PConexion> &abiertas()
+{
+    static QHash<QString, PConexion> conexiones;
+    return conexiones;
+}
+
+// EXTRA: the removal of the journal is what commits, and it too has to survive a power cut.
+constexpr const char *Ajustes
+    = "PRAGMA foreign_keys = ON; PRAGMA journal_mode = DELETE; PRAGMA synchronous = EXTRA";
+
+} // namespace
+
+Conexion::Conexion(const QString &ruta, const Formato &formato)
+    : m_ruta(ruta)
+    , m_identidad(identidad(ruta).value_or(Identidad{}))
+    , m_aplicacion(formato.aplicacion)
+    , m_base(abrirComprobada(ruta, formato))
+{
+    conErrores(ruta, [&] { m_base.exec(Ajustes); });
+}
+
+PConexion Conexion::de(const QString &ruta, const Formato &formato)
+{
+    const PConexion abierta = abiertas().value(ruta);
+    if (abierta && abierta->m_identidad == identidad(ruta)
+        && abierta->m_aplicacion == formato.aplicacion)
+        return abierta;
+    olvidar(ruta);
+    return abiertas()[ruta] = std::make_shared<Conexion>(ruta, formato);
+}
+
+void Conexion::olvidar(const QString &ruta)
+{
+    abiertas().remove(ruta);
+}
+
+bool Conexion::enTransaccion() const
+{
+    return sqlite3_get_autocommit(m_base.getHandle()) == 0;
+}
+
+std::unique_ptr<SQLite::Statement> Conexion::tomar(std::string_view sql)
+{
+    const auto hallada = m_sentencias.find(sql);
+    if (hallada != m_sentencias.end() && hallada->second)
+        return std::move(hallada->second);
+    return conErrores(
+        m_ruta, [&] { return std::make_unique<SQLite::Statement>(m_base, std::string(sql)); });
+}
+
+void Conexion::devolver(std::unique_ptr<SQLite::Statement> sentencia)
+{
+    sentencia->tryReset();
+    m_sentencias[sentencia->getQuery()] = std::move(sentencia);
+}
+
+Transaccion::Transaccion(PConexion conexion)
+    : m_conexion(std::move(conexion))
+{
+    if (m_conexion->enTransaccion())
+        throw ErrorDatos(Fallo::EnUso, m_conexion->ruta(), QStringLiteral("deletion not finished"));
+    Sentencia(m_conexion, "BEGIN IMMEDIATE").ejecutar();
+}
+
+Transaccion::~Transaccion()
+{
+    // SQLite has undone it already after some errors, and there is nothing to do about a failure.
+    if (m_conexion->enTransaccion())
+        m_conexion->base().tryExec("ROLLBACK");
+}
+
+void Transaccion::confirmar()
+{
+    Sentencia(m_conexion, "COMMIT").ejecutar();
+}
+
+} // namespace servidor

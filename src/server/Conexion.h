@@ -1,0 +1,69 @@
+#pragma once
+
+#include "server/Ficheros.h"
+#include "server/Formato.h"
+
+#include <QString>
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace servidor {
+
+class Conexion;
+using PConexion = std::shared_ptr<Conexion>;
+
+/// An open, checked database with its prepared statements. Connections are kept between calls, so
+/// that a service object costs nothing to make; one whose file was replaced or removed is dropped.
+/// For one thread, as the whole service is.
+class Conexion
+{
+public:
+    static PConexion modelo(const QString &ruta) { return de(ruta, FormatoModelo); }
+    static PConexion consulta(const QString &ruta) { return de(ruta, FormatoConsulta); }
+
+    /// Closes what is kept open of that file, before it is replaced.
+    static void olvidar(const QString &ruta);
+
+    Conexion(const QString &ruta, const Formato &formato);
+
+    const QString &ruta() const { return m_ruta; }
+    SQLite::Database &base() { return m_base; }
+    bool enTransaccion() const;
+    qint32 ultimaClave() const { return static_cast<qint32>(m_base.getLastInsertRowid()); }
+
+    /// A prepared statement, taken out of the store until it is given back.
+    std::unique_ptr<SQLite::Statement> tomar(std::string_view sql);
+    void devolver(std::unique_ptr<SQLite::Statement> sentencia);
+
+private:
+    static PConexion de(const QString &ruta, const Formato &formato);
+
+    QString m_ruta;
+    Identidad m_identidad;
+    qint32 m_aplicacion;
+    SQLite::Database m_base;
+    std::map<std::string, std::unique_ptr<SQLite::Statement>, std::less<>> m_sentencias;
+};
+
+/// Everything until confirmar() happens wholly or not at all.
+class Transaccion
+{
+public:
+    explicit Transaccion(PConexion conexion);
+    ~Transaccion();
+    Transaccion(const Transaccion &) = delete;
+    Transaccion &operator=(const Transaccion &) = delete;
+
+    void confirmar();
+    const PConexion &conexion() const { return m_conexion; }
+
+private:
+    PConexion m_conexion;
+};
+
+} // namespace servidor

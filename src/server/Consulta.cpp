@@ -1,0 +1,106 @@
+#include "server/Consulta.h"
+
+#include "dataservice/ErrorDatos.h"
+#include "server/Comprobacion.h"
+#include "server/FicheroNuevo.h"
+
+#include <QFile>
+#include <QStringList>
+
+#include <SQLiteCpp/Statement.h>
+#include <cmath>
+
+namespace servidor {
+
+namespace {
+
+constexpr const char *Tablas = R"(
+CREATE TABLE T05_PROVINCIAS (
+    T05_PRO_ID INTEGER PRIMARY KEY, T05_PRO_CAS TEXT NOT NULL, T05_PRO_EUS TEXT NOT NULL) STRICT;
+CREATE TABLE T06_MUNICIPIOS (T06_CODMUN INTEGER PRIMARY KEY, T06_NOMMUN TEXT NOT NULL) STRICT;
+CREATE TABLE T07_SIGLASVIA (
+    T07_CODIGO TEXT PRIMARY KEY, T07_CAS TEXT NOT NULL, T07_EUS TEXT NOT NULL) STRICT;
+CREATE TABLE T08_GENERAL (
+    T08_EJERMIN INTEGER NOT NULL, T08_PERMIN INTEGER NOT NULL, T08_EJERMAX INTEGER NOT NULL,
+    T08_PERMAX INTEGER NOT NULL, T08_URLACT TEXT NOT NULL, T08_BACKUP_TVC INTEGER NOT NULL) STRICT;
+CREATE TABLE T09_TIPOS (
+    T09_DESDE INTEGER PRIMARY KEY, -- exercise * 100 + period
+    T09_TIPO INTEGER NOT NULL      -- hundredths of a percent
+) STRICT;
+)";
+
+using Linea = QStringList;
+
+QList<Linea> leer(const QString &nombre, qsizetype campos)
+{
+    QFile fichero(QStringLiteral(":/consulta/%1.txt").arg(nombre));
+    if (!fichero.open(QIODevice::ReadOnly))
+        throw ErrorDatos(Fallo::NoExiste, fichero.fileName());
+    QList<Linea> lineas;
+    for (const QString &linea : QString::fromUtf8(fichero.readAll()).split(u'\n')) {
+        if (linea.trimmed().isEmpty() || linea.startsWith(u'#'))
+            continue;
+        lineas += linea.trimmed().split(u'|');
+        if (lineas.last().size() != campos)
+            throw ErrorDatos(Fallo::Danada, fichero.fileName(), linea);
+    }
+    return lineas;
+}
+
+// A STRICT column takes a text of digits as the number it is and refuses any other.
+void insertar(SQLite::Database &base, const char *sql, const QList<Linea> &lineas)
+{
+    SQLite::Statement sentencia(base, sql);
+    for (const Linea &linea : lineas) {
+        for (qsizetype i = 0; i < linea.size(); ++i)
+            sentencia.bind(static_cast<int>(i) + 1, linea[i].trimmed().toStdString());
+        sentencia.exec();
+        sentencia.reset();
+    }
+}
+
+QList<Linea> tipos()
+{
+    QList<Linea> filas;
+    for (const Linea &linea : leer(QStringLiteral("tipos"), 3)) {
+        const int desde = linea[0].toInt() * 100 + linea[1].toInt();
+        filas.append(
+            {QString::number(desde), QString::number(std::lround(linea[2].toDouble() * 100))});
+    }
+    return filas;
+}
+
+// Keys in the order of the columns of T08_GENERAL.
+Linea general()
+{
+    Linea fila(6);
+    const QStringList claves{QStringLiteral("EJERMIN"), QStringLiteral("PERMIN"),
+                             QStringLiteral("EJERMAX"), QStringLiteral("PERMAX"),
+                             QStringLiteral("URLACT"),  QStringLiteral("BACKUP_TVC")};
+    for (const Linea &linea : leer(QStringLiteral("general"), 2))
+        if (const qsizetype columna = claves.indexOf(linea[0]); columna >= 0)
+            fila[columna] = linea[1];
+    return fila;
+}
+
+} // namespace
+
+void prepararConsulta(const QString &ruta, const Formato &formato)
+{
+    if (QFile::exists(ruta)
+        && comprobarCabecera(ruta, formato, Version::ActualOMenor) == formato.esquema)
+        return;
+    crearFichero(ruta, formato, [](SQLite::Database &base) {
+        base.exec(Tablas);
+        insertar(base, "INSERT INTO T05_PROVINCIAS VALUES (?, ?, ?)",
+                 leer(QStringLiteral("provincias"), 3));
+        insertar(base, "INSERT INTO T06_MUNICIPIOS VALUES (?, ?)",
+                 leer(QStringLiteral("municipios"), 2));
+        insertar(base, "INSERT INTO T07_SIGLASVIA VALUES (?, ?, ?)",
+                 leer(QStringLiteral("siglasvia"), 3));
+        insertar(base, "INSERT INTO T08_GENERAL VALUES (?, ?, ?, ?, ?, ?)", {general()});
+        insertar(base, "INSERT INTO T09_TIPOS VALUES (?, ?)", tipos());
+    });
+}
+
+} // namespace servidor

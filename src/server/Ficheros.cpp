@@ -1,0 +1,124 @@
+#include "server/Ficheros.h"
+
+#include "dataservice/ErrorDatos.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <filesystem>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#else
+#include <fcntl.h>
+#include <io.h>
+#endif
+
+namespace servidor {
+
+namespace {
+
+Fallo falloDeSistema(int codigo)
+{
+    switch (codigo) {
+    case ENOSPC:
+    case EFBIG:
+        return Fallo::SinEspacio;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return Fallo::SoloLectura;
+    case ENOENT:
+        return Fallo::NoExiste;
+    default:
+        return Fallo::LecturaEscritura;
+    }
+}
+
+#ifdef Q_OS_UNIX
+void sincronizar(const QString &ruta)
+{
+    const int fd = ::open(QFile::encodeName(ruta).constData(), O_RDONLY | O_CLOEXEC);
+    const bool bien = fd >= 0 && ::fsync(fd) == 0;
+    const int codigo = errno;
+    if (fd >= 0)
+        ::close(fd);
+    if (!bien)
+        throw ErrorDatos(falloDeSistema(codigo), ruta, QStringLiteral("sync failed"));
+}
+
+void sincronizarCarpeta(const QString &ruta)
+{
+    sincronizar(QFileInfo(ruta).absolutePath());
+}
+#else
+void sincronizar(const QString &ruta)
+{
+    QFile fichero(ruta);
+    if (!fichero.open(QIODevice::ReadWrite) || _commit(fichero.handle()) != 0)
+        throw ErrorDatos(Fallo::LecturaEscritura, ruta, QStringLiteral("sync failed"));
+}
+
+void sincronizarCarpeta(const QString &) {}
+#endif
+
+} // namespace
+
+#ifdef Q_OS_UNIX
+std::optional<Identidad> identidad(const QString &ruta)
+{
+    struct stat datos;
+    if (::stat(QFile::encodeName(ruta).constData(), &datos) != 0 || !S_ISREG(datos.st_mode))
+        return {};
+    return Identidad{datos.st_dev, datos.st_ino};
+}
+#else
+// An open database cannot be replaced here, so that being there is enough.
+std::optional<Identidad> identidad(const QString &ruta)
+{
+    return QFileInfo(ruta).isFile() ? std::optional(Identidad{}) : std::nullopt;
+}
+#endif
+
+Provisional::Provisional(const QString &destino)
+    : m_destino(destino)
+    , m_ruta(destino + QStringLiteral(".nuevo"))
+{
+    QFile::remove(m_ruta); // left behind by a run that was cut short
+}
+
+Provisional::~Provisional()
+{
+    QFile::remove(m_ruta);
+}
+
+void Provisional::colocar()
+{
+    sincronizar(m_ruta);
+    // SQLite would replay a journal left behind by an earlier file of that name into the new one.
+    const QString diario = m_destino + QStringLiteral("-journal");
+    if (QFile::exists(diario))
+        renombrar(diario, diario + QStringLiteral(".apartado"));
+    renombrar(m_ruta, m_destino);
+}
+
+void renombrar(const QString &origen, const QString &destino)
+{
+    std::error_code error;
+    std::filesystem::rename(origen.toStdU16String(), destino.toStdU16String(), error);
+    if (error)
+        throw ErrorDatos(falloDeSistema(error.value()), destino, QStringLiteral("rename failed"));
+    sincronizarCarpeta(destino);
+}
+
+void crearCarpeta(const QString &carpeta)
+{
+    if (!QDir().mkpath(carpeta))
+        throw ErrorDatos(Fallo::SoloLectura, carpeta, QStringLiteral("cannot create folder"));
+}
+
+} // namespace servidor

@@ -1,0 +1,60 @@
+#include "server/Migracion.h"
+
+#include "server/Comprobacion.h"
+#include "server/Conexion.h"
+#include "server/ErroresSqlite.h"
+#include "server/FicheroNuevo.h"
+
+#include <SQLiteCpp/Statement.h>
+#include <SQLiteCpp/Transaction.h>
+#include <algorithm>
+
+namespace servidor {
+
+namespace {
+
+const char *sqlDesde(qint32 esquema, std::span<const Paso> pasos, const QString &ruta)
+{
+    const auto paso = std::find_if(pasos.begin(), pasos.end(),
+                                   [&](const Paso &p) { return p.desde == esquema; });
+    if (paso == pasos.end())
+        throw ErrorDatos(Fallo::Danada, ruta,
+                         QStringLiteral("no way up from schema %1").arg(esquema));
+    return paso->sql;
+}
+
+void comprobarReferencias(SQLite::Database &base, const QString &ruta)
+{
+    SQLite::Statement huerfanas(base, "PRAGMA foreign_key_check");
+    if (huerfanas.executeStep())
+        throw ErrorDatos(Fallo::Danada, ruta, QStringLiteral("rows without their parent"));
+}
+
+} // namespace
+
+QString copiaAnterior(const QString &ruta, qint32 esquema)
+{
+    return ruta + QStringLiteral(".v") + QString::number(esquema);
+}
+
+void migrar(const QString &ruta, const Formato &formato, std::span<const Paso> pasos)
+{
+    Conexion::olvidar(ruta); // it would go on as if nothing had changed
+    const qint32 desde = comprobarCabecera(ruta, formato, Version::ActualOMenor);
+    if (desde == formato.esquema)
+        return;
+    auto base = abrirComprobada(ruta, formato, Version::ActualOMenor);
+    copiarFichero(base, copiaAnterior(ruta, desde));
+    conErrores(ruta, [&] {
+        // Foreign keys stay off meanwhile, so that a step may build a table anew.
+        base.exec("PRAGMA foreign_keys = OFF; PRAGMA synchronous = EXTRA");
+        SQLite::Transaction transaccion(base, SQLite::TransactionBehavior::IMMEDIATE);
+        for (qint32 esquema = desde; esquema < formato.esquema; ++esquema)
+            base.exec(sqlDesde(esquema, pasos, ruta));
+        comprobarReferencias(base, ruta);
+        base.exec("PRAGMA user_version = " + std::to_string(formato.esquema));
+        transaccion.commit();
+    });
+}
+
+} // namespace servidor

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "server/Formato.h"
+
+#include <QString>
+
+#include <span>
+
+namespace servidor {
+
+/// Takes a model database from schema `desde` to the next one.
+struct Paso
+{
+    qint32 desde;
+    const char *sql;
+};
+
+/// The steps of this program, in order. Schema 1 is the first, so that there is none yet.
+inline constexpr std::span<const Paso> PasosModelo{};
+
+/// Path of the copy kept of a database of schema `esquema` before it is brought up.
+QString copiaAnterior(const QString &ruta, qint32 esquema);
+
+/// Brings the file up to `formato` in one transaction, after keeping a copy of it beside it. Does
+/// nothing when it is there already. Throws ErrorDatos, and the file is as it was.
+void migrar(const QString &ruta, const Formato &formato, std::span<const Paso> pasos);
+
+} // namespace servidor

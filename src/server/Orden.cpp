@@ -1,0 +1,42 @@
+#include "server/Orden.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace servidor {
+
+namespace {
+
+constexpr QChar TildeDeLaEne(0x0303);
+constexpr QChar DetrasDeTodaLetra(u'\x7f'); // "N" followed by it sorts after "NZ", before "O"
+
+} // namespace
+
+QString claveOrden(const QString &texto)
+{
+    const QString partido = texto.toUpper().normalized(QString::NormalizationForm_D);
+    QString clave;
+    clave.reserve(partido.size());
+    for (const QChar letra : partido) {
+        if (letra.category() != QChar::Mark_NonSpacing)
+            clave += letra;
+        else if (letra == TildeDeLaEne && clave.endsWith(u'N'))
+            clave += DetrasDeTodaLetra;
+    }
+    return clave;
+}
+
+void ordenarPorTexto(Filas &filas, qsizetype columna)
+{
+    std::vector<std::pair<QString, QVariant>> conClave;
+    conClave.reserve(static_cast<std::size_t>(filas.size()));
+    for (const QVariant &fila : std::as_const(filas))
+        conClave.emplace_back(claveOrden(fila.toList().value(columna).toString()), fila);
+    std::stable_sort(conClave.begin(), conClave.end(),
+                     [](const auto &una, const auto &otra) { return una.first < otra.first; });
+    std::transform(conClave.cbegin(), conClave.cend(), filas.begin(),
+                   [](const auto &par) { return par.second; });
+}
+
+} // namespace servidor

@@ -1,0 +1,62 @@
+#include "server/Sentencia.h"
+
+#include "server/ErroresSqlite.h"
+
+namespace servidor {
+
+Sentencia::Sentencia(const PConexion &conexion, std::string_view sql)
+    : m_conexion(conexion)
+    , m_sentencia(conexion->tomar(sql))
+{
+}
+
+Sentencia::~Sentencia()
+{
+    m_conexion->devolver(std::move(m_sentencia));
+}
+
+void Sentencia::ligar(int indice, qint64 valor)
+{
+    m_sentencia->bind(indice, static_cast<std::int64_t>(valor));
+}
+
+void Sentencia::ligar(int indice, const QString &valor)
+{
+    m_sentencia->bind(indice, valor.toStdString());
+}
+
+bool Sentencia::fila()
+{
+    try {
+        return conErrores(m_conexion->ruta(), [&] { return m_sentencia->executeStep(); });
+    } catch (const ErrorDatos &error) {
+        if (error.fallo() == Fallo::Danada)
+            Conexion::olvidar(m_conexion->ruta()); // the next call checks the file again
+        throw;
+    }
+}
+
+int Sentencia::ejecutar()
+{
+    while (fila()) {}
+    return m_sentencia->getChanges();
+}
+
+qint64 Sentencia::entero(int columna) const
+{
+    return m_sentencia->getColumn(columna).getInt64();
+}
+
+QString Sentencia::texto(int columna) const
+{
+    const auto valor = m_sentencia->getColumn(columna);
+    const char *texto = valor.getText();
+    return QString::fromUtf8(texto, valor.getBytes());
+}
+
+bool Sentencia::esEntero(int columna) const
+{
+    return m_sentencia->getColumn(columna).isInteger();
+}
+
+} // namespace servidor

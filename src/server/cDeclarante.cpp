@@ -1,0 +1,127 @@
+#include "server/cDeclarante.h"
+
+#include "server/AlmacenDeclarantes.h"
+#include "server/LectorRegistro.h"
+#include "server/ValidacionDeclarante.h"
+#include "server/ValidacionImportar.h"
+
+#include <QHash>
+
+namespace servidor {
+
+namespace {
+
+constexpr quint8 PorNombre = 2;
+
+std::string orderBy(quint8 orden)
+{
+    return orden == PorNombre ? "ORDER BY CLAVE, DNI" : "ORDER BY DNI";
+}
+
+QHash<qint64, QString> nombresProvincias(const PConexion &consulta, qint16 idioma)
+{
+    Sentencia sentencia(consulta,
+                        "SELECT T05_PRO_ID, T05_PRO_CAS, T05_PRO_EUS FROM T05_PROVINCIAS");
+    QHash<qint64, QString> nombres;
+    while (sentencia.fila())
+        nombres.insert(sentencia.entero(0), sentencia.texto(idioma == 0 ? 1 : 2));
+    return nombres;
+}
+
+} // namespace
+
+void cDeclarante::CargarDeclarante(qint32 &CSCO, Registro &registro)
+{
+    Sentencia sentencia(Conexion::modelo(m_modelo), seleccionDeclarante("WHERE CSCO = ?"));
+    if (!sentencia.con(CSCO).fila())
+        noEncontrado(QStringLiteral("CSCO"), CSCO);
+    registro = registroDeclarante(sentencia);
+}
+
+qint16 cDeclarante::GuardarDeclarante(const Registro &registro)
+{
+    Transaccion transaccion(Conexion::modelo(m_modelo));
+    const qint16 resultado = guardarDeclarante(transaccion.conexion(), registro, Recientes::Contar);
+    if (resultado == 0)
+        transaccion.confirmar();
+    return resultado;
+}
+
+void cDeclarante::BorrarDeclarante(qint32 CSCO)
+{
+    Transaccion transaccion(Conexion::modelo(m_modelo));
+    Sentencia sentencia(transaccion.conexion(), "DELETE FROM DECLARANTES WHERE CSCO = ?");
+    if (sentencia.con(CSCO).ejecutar() == 0)
+        noEncontrado(QStringLiteral("CSCO"), CSCO);
+    transaccion.confirmar();
+}
+
+qint16 cDeclarante::ValidarDatosDeclarante(const Registro &datos)
+{
+    return reglasRotas(datos, Telefono::Obligatorio).value(0, 0);
+}
+
+qint32 cDeclarante::ObtenerCodigoDeclarante(const QString &DNI)
+{
+    Sentencia sentencia(Conexion::modelo(m_modelo), "SELECT CSCO FROM DECLARANTES WHERE DNI = ?");
+    return sentencia.con(normalizado(DNI)).fila() ? sentencia.clave(0) : 0;
+}
+
+Filas cDeclarante::ValidarDatosImportar(const Registro &registro, qint16 idioma)
+{
+    return hallazgosImportar(Conexion::consulta(m_consulta), registro, idioma);
+}
+
+qint32 cDeclarante::dameResultado(Filas &filas, quint8 orden, qint16 idioma)
+{
+    const auto provincias = nombresProvincias(Conexion::consulta(m_consulta), idioma);
+    Sentencia sentencia(
+        Conexion::modelo(m_modelo),
+        "SELECT CSCO, DNI, NOMBRE, NOMMUN, CODPROV, NUM430, NUM480 FROM DECLARANTES "
+            + orderBy(orden));
+    Filas leidas;
+    while (sentencia.fila())
+        leidas.append(QVariant(QVariantList{
+            sentencia.clave(0), sentencia.texto(1), sentencia.texto(2), sentencia.texto(3),
+            provincias.value(sentencia.entero(4)), static_cast<double>(sentencia.entero(5)),
+            static_cast<double>(sentencia.entero(6))}));
+    filas = std::move(leidas);
+    return static_cast<qint32>(filas.size());
+}
+
+qint32 cDeclarante::dameResultadoExportar(Filas &filas, quint8 orden)
+{
+    Sentencia sentencia(Conexion::modelo(m_modelo), seleccionDeclarante(orderBy(orden)));
+    Filas leidas;
+    while (sentencia.fila())
+        leidas.append(QVariant(registroDeclarante(sentencia)));
+    filas = std::move(leidas);
+    return static_cast<qint32>(filas.size());
+}
+
+void cDeclarante::ObtenerUltimosDeclarantes(Filas &filas)
+{
+    Sentencia sentencia(Conexion::modelo(m_modelo),
+                        "SELECT CSCO, DNI, NOMBRE FROM DECLARANTES WHERE RECIENTE > 0 "
+                        "ORDER BY RECIENTE DESC LIMIT 4");
+    Filas leidas;
+    while (sentencia.fila())
+        leidas.append(
+            QVariant(QVariantList{sentencia.clave(0), sentencia.texto(1), sentencia.texto(2)}));
+    filas = std::move(leidas);
+}
+
+bool cDeclarante::ObtListDecl430(Filas &filas, qint16 ejercicio, qint32 CSCO)
+{
+    Sentencia sentencia(Conexion::modelo(m_modelo),
+                        "SELECT CSDE, PERIODO FROM DECLARACIONES WHERE CSCO = ? AND EJERCICIO = ? "
+                        "AND MODELO = '430' ORDER BY PERIODO");
+    sentencia.con(CSCO, ejercicio);
+    Filas leidas;
+    while (sentencia.fila())
+        leidas.append(QVariant(QVariantList{sentencia.clave(0), sentencia.clave(1)}));
+    filas = std::move(leidas);
+    return !filas.isEmpty();
+}
+
+} // namespace servidor

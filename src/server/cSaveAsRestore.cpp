@@ -1,0 +1,124 @@
+#include "server/cSaveAsRestore.h"
+
+#include "server/Comprobacion.h"
+#include "server/ErroresSqlite.h"
+#include "server/FicheroNuevo.h"
+#include "server/Ficheros.h"
+#include "server/Sentencia.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <optional>
+
+namespace servidor {
+
+namespace {
+
+constexpr int CopiasPorOmision = 5;
+
+QString unir(const QString &carpeta, const QString &archivo)
+{
+    return QDir::cleanPath(QDir(QDir::fromNativeSeparators(carpeta)).filePath(archivo));
+}
+
+// "OstrMod_bak.mdb" was "OstrMod_bak.1.mdb" one backup ago, and so on.
+QString anterior(const QString &ruta, int numero)
+{
+    const QFileInfo fichero(ruta);
+    return fichero.dir().filePath(QStringLiteral("%1.%2.%3")
+                                      .arg(fichero.completeBaseName())
+                                      .arg(numero)
+                                      .arg(fichero.suffix()));
+}
+
+void rotar(const QString &ruta, int anteriores)
+{
+    for (int numero = anteriores; numero > 0; --numero) {
+        const QString masNueva = numero == 1 ? ruta : anterior(ruta, numero - 1);
+        if (QFile::exists(masNueva))
+            renombrar(masNueva, anterior(ruta, numero));
+    }
+}
+
+// Nothing when the file is missing or no database that this program can write into.
+std::optional<SQLite::Database> abrirSiSirve(const QString &ruta)
+{
+    try {
+        return abrirComprobada(ruta, FormatoModelo, Version::ActualOMenor);
+    } catch (const ErrorDatos &error) {
+        switch (error.fallo()) {
+        case Fallo::NoExiste:
+        case Fallo::Danada:
+        case Fallo::Ajena:
+        case Fallo::MasNueva:
+            return {};
+        default:
+            throw;
+        }
+    }
+}
+
+// A file that cannot be used is never destroyed: it takes another name, its journal with it.
+void apartar(const QString &ruta)
+{
+    const QString marca = QDateTime::currentDateTime().toString(u".yyyyMMddHHmmsszzz");
+    for (const QString &cola : {QString(), QStringLiteral("-journal")})
+        if (QFile::exists(ruta + cola))
+            renombrar(ruta + cola, ruta + marca + cola);
+}
+
+} // namespace
+
+QString cSaveAsRestore::origen() const
+{
+    return unir(m_rutaOrigen, m_archivoOrigen);
+}
+
+QString cSaveAsRestore::destino() const
+{
+    return unir(m_rutaDestino, m_archivoDestino);
+}
+
+// A backup matters more than how many old ones are kept: without that figure it is made all the
+// same.
+int cSaveAsRestore::copiasAnteriores() const
+{
+    if (m_tabla != u"T08_GENERAL" || m_campo != u"T08_BACKUP_TVC")
+        return CopiasPorOmision;
+    try {
+        Sentencia sentencia(Conexion::consulta(m_lectura),
+                            "SELECT T08_BACKUP_TVC FROM T08_GENERAL");
+        return sentencia.fila() ? sentencia.clave(0) : CopiasPorOmision;
+    } catch (const ErrorDatos &) {
+        return CopiasPorOmision;
+    }
+}
+
+void cSaveAsRestore::CrearBackup()
+{
+    const PConexion modelo = Conexion::modelo(origen());
+    crearCarpeta(QFileInfo(destino()).path());
+    copiarFichero(modelo->base(), destino(), [&] { rotar(destino(), copiasAnteriores()); });
+}
+
+bool cSaveAsRestore::CrearRestore()
+{
+    Formato formato = FormatoModelo;
+    formato.soloLectura = true;
+    auto copia = abrirComprobada(origen(), formato, Version::ActualOMenor);
+    Conexion::olvidar(destino());
+    if (auto base = abrirSiSirve(destino())) {
+        // Through SQLite, so that a journal left by a crash is dealt with, not replayed over it.
+        conErrores(destino(), [&] { base->exec("PRAGMA synchronous = EXTRA"); });
+        copiarContenido(copia, *base, destino());
+    } else {
+        apartar(destino());
+        copiarFichero(copia, destino());
+    }
+    return true;
+}
+
+} // namespace servidor

@@ -1,0 +1,135 @@
+#pragma once
+
+#include "dataservice/ErrorDatos.h"
+#include "dataservice/SvrKtComunLib.h"
+#include "dataservice/SvrOstr.h"
+#include "server/Registro.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <functional>
+#include <optional>
+
+/// The real data service on files of its own, and the records that its tests start from.
+class ServidorPrueba
+{
+public:
+    ServidorPrueba() { registrarServidor(); }
+
+    QString carpeta() const { return m_carpeta.filePath(QStringLiteral("Tablas")); }
+    QString modelo() const { return carpeta() + QStringLiteral("/OstrMod.mdb"); }
+    QString consulta() const { return carpeta() + QStringLiteral("/OstrLec.mdb"); }
+
+    bool traspaso() const
+    {
+        auto objeto = servicio::crear<SvrOstr::cTraspaso>();
+        objeto->mdbmod(modelo());
+        objeto->mdbPath(carpeta());
+        return objeto->Traspaso();
+    }
+    std::unique_ptr<SvrOstr::cDatosGeneral> generales(const QString &ruta) const
+    {
+        auto objeto = servicio::crear<SvrOstr::cDatosGeneral>();
+        objeto->mdbname(ruta);
+        return objeto;
+    }
+    std::unique_ptr<SvrOstr::cDeclarante> declarantes() const
+    {
+        auto objeto = servicio::crear<SvrOstr::cDeclarante>();
+        objeto->mdbnameM(modelo());
+        objeto->mdbnameL(consulta());
+        return objeto;
+    }
+    std::unique_ptr<SvrOstr::cDeclaracion> declaraciones() const
+    {
+        auto objeto = servicio::crear<SvrOstr::cDeclaracion>();
+        objeto->mdbname(modelo());
+        return objeto;
+    }
+    /// Saves a new declarant; its key.
+    qint32 alta(const QString &dni, const QString &nombre) const
+    {
+        declarantes()->GuardarDeclarante(registro(dni, nombre));
+        return declarantes()->ObtenerCodigoDeclarante(dni);
+    }
+
+    static Registro registro(const QString &dni, const QString &nombre)
+    {
+        return {0,
+                dni,
+                nombre,
+                QStringLiteral("CL"),
+                QStringLiteral("MAYOR"),
+                7,
+                QString(),
+                QString(),
+                QStringLiteral("2"),
+                QStringLiteral("DCH"),
+                QStringLiteral("20"),
+                QStringLiteral("20123"),
+                QStringLiteral("001"),
+                QStringLiteral("MUNICIPIO"),
+                QStringLiteral("943123456"),
+                9.0,
+                9.0};
+    }
+    static Registro datos430(qint32 CSCO, int ejercicio, int periodo, double cuota, qint32 CSDE = 0)
+    {
+        return {CSDE,      CSCO,
+                ejercicio, 1,
+                periodo,   QStringLiteral("430"),
+                1,         QStringLiteral("X"),
+                123456.0,  8.0F,
+                9876.0,    -100.0,
+                -8.0,      123356.0,
+                6.01F,     cuota};
+    }
+    /// Box i of the record holds i + 1 cents; the rates are 8 and 6.
+    static Registro datos480(qint32 CSCO, int ejercicio, qint32 CSDE = 0)
+    {
+        Registro datos{CSDE, CSCO, ejercicio, 2, 12, QStringLiteral("480"), 2};
+        for (int i = 0; i < Reg480::Total; ++i)
+            datos += static_cast<double>(i + 1);
+        datos[int(RegGuardar::Figuras) + Reg480::C74_TI1] = 8.0F;
+        datos[int(RegGuardar::Figuras) + Reg480::C77_TI2] = 6.0F;
+        return datos;
+    }
+
+private:
+    QTemporaryDir m_carpeta;
+};
+
+/// The kind of ErrorDatos that `f` ends with; nothing when it ends well.
+inline std::optional<Fallo> falloDe(const std::function<void()> &f)
+{
+    try {
+        f();
+        return {};
+    } catch (const ErrorDatos &error) {
+        return error.fallo();
+    }
+}
+
+/// One column of the rows of a list.
+inline QVariantList columna(const Filas &filas, qsizetype numero)
+{
+    QVariantList valores;
+    for (const QVariant &fila : filas)
+        valores += fila.toList().value(numero);
+    return valores;
+}
+
+inline QByteArray bytes(const QString &ruta)
+{
+    QFile fichero(ruta);
+    return fichero.open(QIODevice::ReadOnly) ? fichero.readAll() : QByteArray();
+}
+
+inline void escribir(const QString &ruta, const QByteArray &contenido)
+{
+    QFile fichero(ruta);
+    QVERIFY(fichero.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    QCOMPARE(fichero.write(contenido), contenido.size());
+}

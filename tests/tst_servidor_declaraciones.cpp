@@ -1,0 +1,184 @@
+#include "support/ServidorPrueba.h"
+
+class TstServidorDeclaraciones : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_servidor.emplace();
+        QVERIFY(!m_servidor->traspaso());
+        m_declarante = m_servidor->alta(QStringLiteral("12345678Z"), QStringLiteral("ANA"));
+        QVERIFY(m_declarante > 0);
+    }
+
+    void guardaYCarga()
+    {
+        const auto objeto = m_servidor->declaraciones();
+        const Registro datos430
+            = ServidorPrueba::datos430(m_declarante, 2026, 3, 999'999'999'999'999.0);
+        const Registro datos480 = ServidorPrueba::datos480(m_declarante, 2026);
+        qint32 mensual = objeto->Guardar430(datos430);
+        qint32 anual = objeto->Guardar480(datos480);
+        QVERIFY(mensual > 0 && anual > 0);
+        Registro figuras;
+        objeto->Cargar430(mensual, figuras);
+        QCOMPARE(figuras, datos430.mid(RegGuardar::Figuras));
+        objeto->Cargar480(anual, figuras);
+        QCOMPARE(figuras, datos480.mid(RegGuardar::Figuras));
+        Filas filas;
+        QCOMPARE(objeto->dameResultado(filas, m_declarante), 2);
+        QCOMPARE(
+            filas[0].toList(),
+            (QVariantList{mensual, 2026, 1, 3, QStringLiteral("430"), 1, 999'999'999'999'999.0}));
+        QCOMPARE(filas[1].toList(),
+                 (QVariantList{anual, 2026, 2, 12, QStringLiteral("480"), 2, 56.0}));
+        QCOMPARE(contadores(), (QVariantList{1.0, 1.0}));
+    }
+
+    void cambioYDuplicado()
+    {
+        const auto objeto = m_servidor->declaraciones();
+        qint32 clave = objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2026, 3, 1.0));
+        QCOMPARE(objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2026, 3, 2.0)), 0);
+        QCOMPARE(objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2026, 4, 2.0, clave)),
+                 0);
+        QCOMPARE(importes(), QVariantList{1.0});
+        const Registro nuevo = ServidorPrueba::datos430(m_declarante, 2026, 3, 7.0, clave);
+        QCOMPARE(objeto->Guardar430(nuevo), clave);
+        QCOMPARE(importes(), QVariantList{7.0});
+        Registro figuras;
+        objeto->Cargar430(clave, figuras);
+        QCOMPARE(figuras, nuevo.mid(RegGuardar::Figuras));
+        QCOMPARE(contadores(), (QVariantList{1.0, 0.0}));
+        QCOMPARE(objeto->ValidarDatosComunes(
+                     {2026, 1, 3, 2002, 1, 2030, 12, QStringLiteral("430"), m_declarante}),
+                 5);
+        QCOMPARE(falloDe([&] { objeto->Guardar430(ServidorPrueba::datos430(999, 2026, 1, 1.0)); }),
+                 Fallo::NoEncontrado);
+        QCOMPARE(falloDe([&] {
+                     objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2026, 3, 1.0, 999));
+                 }),
+                 Fallo::NoEncontrado);
+    }
+
+    void rechazados_data()
+    {
+        using namespace RegGuardar;
+        QTest::addColumn<int>("campo");
+        QTest::addColumn<QVariant>("valor");
+        QTest::newRow("short") << -1 << QVariant();
+        QTest::newRow("half a cent") << int(Figuras) + Reg430::BASELIQ << QVariant(1.5);
+        QTest::newRow("not a number") << int(Figuras) + Reg430::BASELIQ << QVariant(qQNaN());
+        QTest::newRow("infinite") << int(Figuras) + Reg430::CUOTATOT << QVariant(qInf());
+        QTest::newRow("16 digits") << int(Figuras) + Reg430::CUOTATOT << QVariant(1e15);
+        QTest::newRow("text") << int(Figuras) + Reg430::BASELIQ << QVariant(QStringLiteral("1"));
+        QTest::newRow("rate") << int(Figuras) + Reg430::TIPOLIQ << QVariant(8.123F);
+        QTest::newRow("period 13") << int(PERIODO) << QVariant(13);
+        QTest::newRow("other model") << int(MODELO) << QVariant(QStringLiteral("480"));
+        QTest::newRow("periodicity") << int(PERIODICIDAD) << QVariant(2);
+        QTest::newRow("no declarant") << int(CSCO) << QVariant(0);
+    }
+    void rechazados()
+    {
+        QFETCH(int, campo);
+        QFETCH(QVariant, valor);
+        Registro datos = ServidorPrueba::datos430(m_declarante, 2026, 3, 1.0);
+        if (campo < 0)
+            datos.removeLast();
+        else
+            datos[campo] = valor;
+        QCOMPARE(m_servidor->declaraciones()->Guardar430(datos), 0);
+        QCOMPARE(importes(), QVariantList());
+    }
+
+    void ultima()
+    {
+        const auto objeto = m_servidor->declaraciones();
+        Registro cabecera{m_declarante};
+        qint32 clave = 77;
+        QVERIFY(!objeto->ObtenerUltimaDeclaracion(cabecera, clave));
+        QCOMPARE(clave, 77);
+        const auto esperar = [&](qint32 guardada, const Registro &comunes) {
+            QVERIFY(objeto->ObtenerUltimaDeclaracion(cabecera, clave));
+            QCOMPARE(clave, guardada);
+            QCOMPARE(cabecera, Registro{m_declarante} + comunes);
+        };
+        const QString m430 = QStringLiteral("430");
+        const qint32 anual = objeto->Guardar480(ServidorPrueba::datos480(m_declarante, 2025));
+        const qint32 noviembre
+            = objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2024, 11, 1.0));
+        QVERIFY(noviembre > 0);
+        esperar(anual, {2025, 2, 12, QStringLiteral("480"), 2});
+        QVERIFY(objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2025, 12, 1.0)) > 0);
+        esperar(anual, {2025, 2, 12, QStringLiteral("480"), 2});
+        const qint32 enero
+            = objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2026, 1, 1.0));
+        esperar(enero, {2026, 1, 1, m430, 1});
+    }
+
+    void mensualesDelAnio()
+    {
+        const auto objeto = m_servidor->declaraciones();
+        const qint32 mayo
+            = objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2025, 5, 1.0));
+        const qint32 enero
+            = objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2025, 1, 1.0));
+        QVERIFY(objeto->Guardar480(ServidorPrueba::datos480(m_declarante, 2025)) > 0);
+        Filas filas;
+        QVERIFY(m_servidor->declarantes()->ObtListDecl430(filas, 2025, m_declarante));
+        QCOMPARE(filas, (Filas{QVariantList{enero, 1}, QVariantList{mayo, 5}}));
+        QVERIFY(!m_servidor->declarantes()->ObtListDecl430(filas, 2024, m_declarante));
+        QVERIFY(filas.isEmpty());
+    }
+
+    void borradoEnDosPasos()
+    {
+        qint32 clave
+            = m_servidor->declaraciones()->Guardar480(ServidorPrueba::datos480(m_declarante, 2025));
+        {
+            const auto objeto = m_servidor->declaraciones();
+            objeto->BorrarDatosNoComunes(clave, QStringLiteral("480"));
+            QCOMPARE(
+                falloDe([&] {
+                    m_servidor->generales(m_servidor->modelo())->CambiarIdioma(QStringLiteral("E"));
+                }),
+                Fallo::EnUso);
+        }
+        Registro figuras;
+        m_servidor->declaraciones()->Cargar480(clave, figuras);
+        QCOMPARE(figuras.size(), qsizetype(Reg480::Total));
+        QCOMPARE(contadores(), (QVariantList{0.0, 1.0}));
+
+        const auto objeto = m_servidor->declaraciones();
+        QCOMPARE(falloDe([&] { objeto->BorrarDatosNoComunes(clave, QStringLiteral("430")); }),
+                 Fallo::NoEncontrado);
+        QVERIFY_EXCEPTION_THROWN(objeto->BorrarDeclaracion(clave), std::logic_error);
+        objeto->BorrarDatosNoComunes(clave, QStringLiteral("480"));
+        objeto->BorrarDeclaracion(clave);
+        QCOMPARE(importes(), QVariantList());
+        QCOMPARE(contadores(), (QVariantList{0.0, 0.0}));
+        QCOMPARE(falloDe([&] { objeto->Cargar480(clave, figuras); }), Fallo::NoEncontrado);
+    }
+
+private:
+    QVariantList importes() const
+    {
+        Filas filas;
+        m_servidor->declaraciones()->dameResultado(filas, m_declarante);
+        return columna(filas, FilaDeclaracion::IMPORTE);
+    }
+    QVariantList contadores() const
+    {
+        Filas filas;
+        m_servidor->declarantes()->dameResultado(filas, 1, 0);
+        return filas.value(0).toList().mid(FilaDeclarante::NUM430, 2);
+    }
+
+    std::optional<ServidorPrueba> m_servidor;
+    qint32 m_declarante = 0;
+};
+
+QTEST_GUILESS_MAIN(TstServidorDeclaraciones)
+#include "tst_servidor_declaraciones.moc"

@@ -1,0 +1,321 @@
+#include "server/Comprobacion.h"
+#include "server/Consulta.h"
+#include "server/Migracion.h"
+#include "support/ServidorPrueba.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QtEndian>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#ifdef Q_OS_LINUX
+#include <csignal>
+#include <sys/fsuid.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#endif
+
+namespace {
+
+QByteArray conNumero(QByteArray fichero, qsizetype posicion, quint32 numero)
+{
+    qToBigEndian(numero, fichero.data() + posicion);
+    return fichero;
+}
+
+SQLite::Database otroPrograma(const QString &ruta)
+{
+    return SQLite::Database(ruta.toStdString(), SQLite::OPEN_READWRITE);
+}
+
+} // namespace
+
+class TstServidorFicheros : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_servidor.emplace();
+        QVERIFY(!m_servidor->traspaso());
+        QVERIFY(m_servidor->alta(QStringLiteral("12345678Z"), QStringLiteral("ANA")) > 0);
+    }
+
+    void rechazados_data()
+    {
+        QTest::addColumn<QString>("caso");
+        QTest::addColumn<bool>("esModelo");
+        QTest::addColumn<Fallo>("fallo");
+        const std::initializer_list<std::pair<const char *, Fallo>> casos{
+            {"empty", Fallo::Danada},   {"truncated", Fallo::Danada}, {"short", Fallo::Danada},
+            {"text", Fallo::Danada},    {"random", Fallo::Danada},    {"damaged", Fallo::Danada},
+            {"foreign", Fallo::Ajena},  {"unnamed", Fallo::Ajena},    {"swapped", Fallo::Ajena},
+            {"newer", Fallo::MasNueva},
+        };
+        for (const bool esModelo : {true, false})
+            for (const auto &[caso, fallo] : casos)
+                QTest::addRow("%s %s", caso, esModelo ? "model" : "lookup")
+                    << QString::fromUtf8(caso) << esModelo << fallo;
+    }
+    void rechazados()
+    {
+        QFETCH(QString, caso);
+        QFETCH(bool, esModelo);
+        QFETCH(Fallo, fallo);
+        const QString ruta = esModelo ? m_servidor->modelo() : m_servidor->consulta();
+        const QString otra = esModelo ? m_servidor->consulta() : m_servidor->modelo();
+        const QByteArray malo = estropeado(caso, bytes(ruta), bytes(otra));
+        QVERIFY(QFile::remove(otra)); // has to be prepared again all the same
+        escribir(ruta, malo);
+        QString objeto;
+        try {
+            m_servidor->traspaso();
+        } catch (const ErrorDatos &error) {
+            objeto = error.objeto();
+            QCOMPARE(error.fallo(), fallo);
+        }
+        QCOMPARE(objeto, ruta);
+        QVERIFY(falloDe([&] { usar(); }));
+        QCOMPARE(bytes(ruta), malo);
+        QVERIFY(QFile::exists(otra));
+        QCOMPARE(QDir(m_servidor->carpeta()).entryList(QDir::Files).size(), 2);
+    }
+
+    void faltante()
+    {
+        QVERIFY(QFile::remove(m_servidor->modelo()));
+        QCOMPARE(falloDe([&] { usar(); }), Fallo::NoExiste);
+        QVERIFY(!QFile::exists(m_servidor->modelo()));
+        QVERIFY(!m_servidor->traspaso());
+        QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), 0);
+    }
+
+    void sustituido()
+    {
+        ServidorPrueba otro;
+        QVERIFY(!otro.traspaso());
+        QVERIFY(QFile::remove(m_servidor->modelo()));
+        QVERIFY(QFile::copy(otro.modelo(), m_servidor->modelo()));
+        QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), 0);
+    }
+
+    void consultaAnteriorSeRenueva()
+    {
+        using namespace servidor;
+        const QString ruta = m_servidor->consulta();
+        otroPrograma(ruta).exec("UPDATE T08_GENERAL SET T08_URLACT = 'old'");
+        prepararConsulta(ruta);
+        QCOMPARE(m_servidor->generales(ruta)->URLAct(), QStringLiteral("old"));
+        const Formato nuevo{FormatoConsulta.aplicacion, FormatoConsulta.esquema + 1, true};
+        prepararConsulta(ruta, nuevo);
+        QCOMPARE(comprobarCabecera(ruta, nuevo, Version::Actual), nuevo.esquema);
+        auto base = otroPrograma(ruta);
+        QVERIFY(base.execAndGet("SELECT T08_URLACT FROM T08_GENERAL").getString() != "old");
+    }
+
+    void bloqueado()
+    {
+        auto otro = otroPrograma(m_servidor->modelo());
+        otro.exec("BEGIN EXCLUSIVE");
+        QElapsedTimer reloj;
+        reloj.start();
+        QCOMPARE(
+            falloDe([&] { m_servidor->alta(QStringLiteral("00000000T"), QStringLiteral("EVA")); }),
+            Fallo::EnUso);
+        QVERIFY2(reloj.elapsed() < 600, qPrintable(QString::number(reloj.elapsed())));
+        otro.exec("COMMIT");
+        QVERIFY(m_servidor->alta(QStringLiteral("00000000T"), QStringLiteral("EVA")) > 0);
+    }
+
+    void soloLectura()
+    {
+#ifdef Q_OS_LINUX
+        const QByteArray carpeta = QFile::encodeName(m_servidor->carpeta());
+        const QByteArray padre = QFile::encodeName(QFileInfo(m_servidor->carpeta()).path());
+        QVERIFY(::chmod(padre.constData(), 0755) == 0 && ::chmod(carpeta.constData(), 0555) == 0);
+        for (const QString &ruta : {m_servidor->modelo(), m_servidor->consulta()})
+            QVERIFY(::chmod(QFile::encodeName(ruta).constData(), 0444) == 0);
+        // Who may do anything (root) has to be somebody else meanwhile, for files only.
+        const int yo = ::setfsuid(65534);
+        const auto vuelta = qScopeGuard([&] {
+            ::setfsuid(static_cast<uid_t>(yo));
+            ::chmod(carpeta.constData(), 0755);
+        });
+        QVERIFY(!m_servidor->traspaso());
+        Filas filas;
+        QCOMPARE(m_servidor->declarantes()->dameResultado(filas, 1, 0), 1);
+        QCOMPARE(
+            falloDe([&] { m_servidor->alta(QStringLiteral("00000000T"), QStringLiteral("EVA")); }),
+            Fallo::SoloLectura);
+        QCOMPARE(m_servidor->declarantes()->dameResultado(filas, 1, 0), 1);
+#else
+        QSKIP("needs the modes of a POSIX file system");
+#endif
+    }
+
+    void discoLleno()
+    {
+#ifdef Q_OS_LINUX
+        rlimit antes{};
+        QCOMPARE(::getrlimit(RLIMIT_FSIZE, &antes), 0);
+        const auto manejador = std::signal(SIGXFSZ, SIG_IGN);
+        const auto vuelta = qScopeGuard([&] {
+            ::setrlimit(RLIMIT_FSIZE, &antes);
+            std::signal(SIGXFSZ, manejador);
+        });
+        const auto tamano = static_cast<rlim_t>(QFileInfo(m_servidor->modelo()).size());
+        const rlimit lleno{tamano, antes.rlim_max};
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &lleno), 0);
+        std::optional<Fallo> fallo;
+        int guardados = 1;
+        for (; !fallo && guardados < 1000; guardados += fallo ? 0 : 1)
+            fallo = falloDe([&] {
+                m_servidor->alta(QStringLiteral("D%1").arg(guardados), QStringLiteral("NOMBRE"));
+            });
+        QCOMPARE(fallo, Fallo::SinEspacio);
+        QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), guardados);
+        QVERIFY(!m_servidor->traspaso()); // whole, without a journal left
+        QVERIFY(!QFile::exists(m_servidor->modelo() + QStringLiteral("-journal")));
+#else
+        QSKIP("needs a file size limit");
+#endif
+    }
+
+    void migracion()
+    {
+        using namespace servidor;
+        const Formato nuevo{FormatoModelo.aplicacion, 3, false};
+        const Paso pasos[]{{1, "ALTER TABLE DECLARANTES ADD COLUMN FAX TEXT NOT NULL DEFAULT ''"},
+                           {2, "UPDATE DECLARANTES SET FAX = DNI"}};
+        const QByteArray antes = bytes(m_servidor->modelo());
+        // Without the last step nothing of the first one holds.
+        QCOMPARE(falloDe([&] { migrar(m_servidor->modelo(), nuevo, std::span(pasos).first(1)); }),
+                 Fallo::Danada);
+        QCOMPARE(bytes(m_servidor->modelo()), antes);
+        migrar(m_servidor->modelo(), nuevo, pasos);
+        auto base = otroPrograma(m_servidor->modelo());
+        QCOMPARE(base.execAndGet("SELECT FAX FROM DECLARANTES").getString(), "12345678Z");
+        QCOMPARE(comprobarCabecera(m_servidor->modelo(), nuevo, Version::Actual), 3);
+        QCOMPARE(falloDe([&] { usar(); }), Fallo::MasNueva);
+        const QString copia = copiaAnterior(m_servidor->modelo(), 1);
+        QCOMPARE(comprobarCabecera(copia, FormatoModelo, Version::Actual), 1);
+        QCOMPARE(otroPrograma(copia).execAndGet("SELECT count(*) FROM DECLARANTES").getInt(), 1);
+    }
+
+    void copiaYRestauracion_data()
+    {
+        QTest::addColumn<QString>("caso");
+        for (const char *caso : {"good", "missing", "random", "newer"})
+            QTest::newRow(caso) << QString::fromUtf8(caso);
+    }
+    void copiaYRestauracion()
+    {
+        QFETCH(QString, caso);
+        copiador(true)->CrearBackup();
+        m_servidor->alta(QStringLiteral("00000000T"), QStringLiteral("EVA"));
+        const QByteArray estado = estropeado(caso, bytes(m_servidor->modelo()), {});
+        if (caso == u"missing")
+            QVERIFY(QFile::remove(m_servidor->modelo()));
+        else if (caso != u"good")
+            escribir(m_servidor->modelo(), estado);
+        QVERIFY(copiador(false)->CrearRestore());
+        QVERIFY(!m_servidor->traspaso());
+        QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), 1);
+        const QStringList apartados
+            = QDir(m_servidor->carpeta()).entryList({QStringLiteral("OstrMod.mdb.*")}, QDir::Files);
+        const bool apartado = caso == u"random" || caso == u"newer";
+        QCOMPARE(apartados.size(), apartado ? 1 : 0);
+        if (apartado)
+            QCOMPARE(bytes(QDir(m_servidor->carpeta()).filePath(apartados[0])), estado);
+    }
+
+    void copiasAnteriores()
+    {
+        for (int i = 0; i < 7; ++i) {
+            m_servidor->alta(QStringLiteral("D%1").arg(i), QStringLiteral("N"));
+            copiador(true)->CrearBackup();
+        }
+        const QDir copias(copiasCarpeta());
+        QCOMPARE(copias.entryList(QDir::Files).size(), 6);
+        const auto cuantos = [&](const char *nombre) {
+            return otroPrograma(copias.filePath(QString::fromUtf8(nombre)))
+                .execAndGet("SELECT count(*) FROM DECLARANTES")
+                .getInt();
+        };
+        QCOMPARE(cuantos("OstrMod_bak.mdb"), 8);
+        QCOMPARE(cuantos("OstrMod_bak.5.mdb"), 3);
+    }
+
+    void copiaMalaNoSeRestaura()
+    {
+        QVERIFY(QDir().mkpath(copiasCarpeta()));
+        escribir(copiasCarpeta() + QStringLiteral("/OstrMod_bak.mdb"), QByteArray(5000, 'x'));
+        const QByteArray antes = bytes(m_servidor->modelo());
+        QCOMPARE(falloDe([&] { copiador(false)->CrearRestore(); }), Fallo::Danada);
+        QCOMPARE(bytes(m_servidor->modelo()), antes);
+    }
+
+private:
+    static QByteArray estropeado(const QString &caso, const QByteArray &bueno,
+                                 const QByteArray &otro)
+    {
+        if (caso == u"empty")
+            return {};
+        if (caso == u"truncated")
+            return bueno.chopped(4096);
+        if (caso == u"short")
+            return bueno.first(50);
+        if (caso == u"text")
+            return QByteArray("this is no database\n").repeated(500);
+        if (caso == u"random") {
+            QByteArray azar(8192, 0);
+            QRandomGenerator(7).generate(azar.begin(), azar.end());
+            return azar;
+        }
+        if (caso == u"damaged")
+            return QByteArray(bueno).replace(4096, 4096, QByteArray(4096, 'z'));
+        if (caso == u"foreign")
+            return conNumero(bueno, 68, 0x12345678);
+        if (caso == u"unnamed")
+            return conNumero(bueno, 68, 0);
+        return caso == u"newer" ? conNumero(bueno, 60, 999) : otro;
+    }
+
+    /// One call that needs both databases.
+    void usar() const
+    {
+        Filas filas;
+        m_servidor->declarantes()->dameResultado(filas, 1, 0);
+    }
+
+    QString copiasCarpeta() const
+    {
+        return QFileInfo(m_servidor->carpeta()).path() + QStringLiteral("/backups");
+    }
+
+    std::unique_ptr<SvrKtComunLib::cSaveAsRestore> copiador(bool copia) const
+    {
+        const QString tablas = m_servidor->carpeta() + u'/';
+        const QString copias = copiasCarpeta() + u'/';
+        const QString modelo = QStringLiteral("OstrMod.mdb");
+        const QString guardado = QStringLiteral("OstrMod_bak.mdb");
+        auto objeto = servicio::crear<SvrKtComunLib::cSaveAsRestore>();
+        objeto->ArchivoOrigen(copia ? modelo : guardado);
+        objeto->ArchivoDestino(copia ? guardado : modelo);
+        objeto->RutaOrigen(copia ? tablas : copias);
+        objeto->RutaDestino(copia ? copias : tablas);
+        objeto->BDLectura(m_servidor->consulta());
+        objeto->BDTabla(QStringLiteral("T08_GENERAL"));
+        objeto->BDCampo(QStringLiteral("T08_BACKUP_TVC"));
+        return objeto;
+    }
+
+    std::optional<ServidorPrueba> m_servidor;
+};
+
+QTEST_GUILESS_MAIN(TstServidorFicheros)
+#include "tst_servidor_ficheros.moc"
