@@ -67,9 +67,9 @@ QString ImporteLeido::motivo(const QString &texto) const
 {
     switch (fallo) {
     case DemasiadasCifras:
-        return msj(Msj::ImporteDemasiadasCifras, texto);
+        return msj(Msj::ImporteDemasiadasCifras);
     case DemasiadosDecimales:
-        return msj(Msj::ImporteDemasiadosDecimales, texto);
+        return msj(Msj::ImporteDemasiadosDecimales);
     case Ilegible:
         return msj(Msj::ImporteIlegible, texto);
     case Ninguno:

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "core/ListaCodigos.h"
+
+/// The pick lists in the session's language, by name.
+ListaCodigos cargarVias();
+ListaCodigos cargarProvincias();
+ListaCodigos cargarMunicipios(); ///< those of the home province

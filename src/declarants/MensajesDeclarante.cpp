@@ -1,0 +1,42 @@
+#include "declarants/MensajesDeclarante.h"
+
+#include "core/CEntrada.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+
+QString textoValidacionDeclarante(qint16 codigo)
+{
+    return codigo >= 1 && codigo <= 12 ? msjDesde(Msj::ErrorDni, codigo - 1) : QString();
+}
+
+RegValidacion::Campo campoValidacionDeclarante(qint16 codigo)
+{
+    using enum RegValidacion::Campo;
+    static constexpr RegValidacion::Campo campos[] = {
+        DNI,    NOMBRE, DOMICILIO, CODPROV, CODPOS,   CODPOS,
+        CODPOS, CODPOS, CODMUN,    NOMMUN,  TELEFONO, TELEFONO,
+    };
+    return codigo >= 1 && codigo <= 12 ? campos[codigo - 1] : Total;
+}
+
+QString textoGuardarDeclarante(qint16 codigo)
+{
+    return codigo == 1 || codigo == 2 ? msjDesde(Msj::ErrorAltaDniExiste, codigo - 1) : QString();
+}
+
+static QString limite(int ejercicio, int periodo)
+{
+    return u"%1-%2"_qs.arg(ejercicio).arg(periodo, 2, 10, QChar(u'0'));
+}
+
+QString textoCabecera(qint16 codigo)
+{
+    if (codigo < 1 || codigo > 5)
+        return {};
+    const QString texto = msjDesde(Msj::ErrorEjercicioVacio, codigo - 1);
+    if (codigo != 4)
+        return texto;
+    const auto &entrada = unico::la<CEntrada>();
+    return texto.arg(limite(entrada.EJERMIN(), entrada.PERMIN()),
+                     limite(entrada.EJERMAX(), entrada.PERMAX()));
+}

@@ -1,0 +1,69 @@
+#include "declarations/CabeceraDeclaracion.h"
+
+#include "core/Periodos.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+#include "declarants/cDecResumen.h"
+#include "widgets/CajaTexto.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+static QLabel *etiqueta(const QString &nombre, QWidget *padre)
+{
+    auto *label = new QLabel(padre);
+    label->setObjectName(nombre);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+static CajaTexto *caja(const QString &nombre, int cifras, QWidget *padre)
+{
+    auto *texto = new CajaTexto(nombre, cifras, CajaTexto::Cifras, padre);
+    texto->bloquear(true);
+    texto->setAlignment(Qt::AlignHCenter);
+    texto->setFixedWidth(texto->fontMetrics().horizontalAdvance(u'0') * (cifras + 4));
+    return texto;
+}
+
+CabeceraDeclaracion::CabeceraDeclaracion(QWidget *padre)
+    : QWidget(padre)
+    , m_lbldni(etiqueta(u"lbldni"_qs, this))
+    , m_lblnombre(etiqueta(u"lblnombre"_qs, this))
+    , m_lblejer(etiqueta(u"lblejer"_qs, this))
+    , m_txtejer(caja(u"txtejer"_qs, 4, this))
+    , m_lblper(etiqueta(u"lblper"_qs, this))
+    , m_txtper(caja(u"txtper"_qs, 2, this))
+    , m_lblperiodo(etiqueta(u"lblperiodo"_qs, this))
+{
+    QFont negrita = font();
+    negrita.setBold(true);
+    m_lbldni->setFont(negrita);
+    m_lblnombre->setFont(negrita);
+    auto *fila = new QHBoxLayout(this);
+    fila->setContentsMargins(0, 0, 0, 0);
+    fila->setSpacing(8);
+    fila->addWidget(m_lbldni);
+    fila->addWidget(m_lblnombre, 1);
+    fila->addSpacing(16);
+    fila->addWidget(m_lblejer);
+    fila->addWidget(m_txtejer);
+    fila->addSpacing(8);
+    fila->addWidget(m_lblper);
+    fila->addWidget(m_txtper);
+    fila->addWidget(m_lblperiodo);
+}
+
+void CabeceraDeclaracion::mostrar()
+{
+    const auto &cabecera = unico::la<cDecResumen>();
+    m_lbldni->setText(cabecera.DNI());
+    m_lblnombre->setText(cabecera.NOMBRE());
+    m_lblejer->setText(msj(Msj::Ejercicio));
+    m_lblper->setText(msj(Msj::Periodo));
+    m_txtejer->mostrar(QString::number(cabecera.EJERCICIO()));
+    m_txtejer->setAccessibleName(msj(Msj::Ejercicio));
+    m_txtper->mostrar(QString::number(cabecera.PERIODO()).rightJustified(2, u'0'));
+    m_txtper->setAccessibleName(msj(Msj::Periodo));
+    m_lblperiodo->setText(textoPeriodo(cabecera.PERIODICIDAD(), cabecera.PERIODO()));
+}

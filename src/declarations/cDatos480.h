@@ -1,0 +1,71 @@
+#pragma once
+
+#include "declarations/Clases480.h"
+
+/// Figures of one model 480 return. A box is named by its number on the form (Clases480.h); amounts
+/// are whole cents, rates percent with two decimals. The header is that of cDecResumen.
+class cDatos480
+{
+public:
+    QString MODO() const { return m_modo; }
+    /// "A" resets the record for a new return of the header's exercise and fetches the year's
+    /// rates.
+    void MODO(const QString &modo);
+    QString ENTRADA() const
+    {
+        return m_entrada;
+    } ///< "A" until the first page has loaded the return
+    void ENTRADA(const QString &entrada) { m_entrada = entrada; }
+    qint32 CSDE() const { return m.csde; } ///< 0 while not saved
+    void CSDE(qint32 codigo) { m.csde = codigo; }
+    bool MODIFICADO() const { return m.modificado; } ///< differs from what is stored
+    void MODIFICADO(bool modificado) { m.modificado = modificado; }
+
+    /// Amount of a box, in cents; the writer rounds to whole cents.
+    double casilla(int numero) const { return m.casillas.at(static_cast<size_t>(numero)); }
+    void casilla(int numero, double centimos);
+    float C74_TI1() const { return m.tipo1; }
+    void C74_TI1(float tipo);
+    float C77_TI2() const { return m.tipo2; } ///< 0 when the year has one rate
+    void C77_TI2(float tipo);
+
+    /// Fills the boxes as they are stored; box 71 is the sum of its column. CSDE is the caller's.
+    void CargarDeclaracion(qint32 codigo);
+    /// The service's code for a RegValidar480: 0 valid, 2 box 70 is not 73 + 76.
+    qint16 ValidarDatos480(const Registro &datos) const;
+    /// Saves a header and figures record: the return's key, below 1 when it was refused.
+    qint32 GuardarDeclaracion(const Registro &datos) const;
+    /// Totals, quotas and result from the boxes entered.
+    void CalcularValores();
+    /// Unrounded sum of the exempt bases.
+    double CalcularC71() const;
+    /// The rates of the header's exercise: one, or two in time order.
+    void CalcularTipoAnual(Registro &tipos) const;
+    /// Fila430 rows of the exercise's monthly returns; false when there is none.
+    bool NumDecl430(Filas &lista) const;
+
+    /// Box 70 less 73 and 76: 0 when the bands add up.
+    double DiferenciaBases() const;
+    /// Whether every computed figure fits its box.
+    bool cabe() const;
+
+    Registro RegistroValidar() const;
+    Registro RegistroGuardar() const;
+
+private:
+    struct Figuras
+    {
+        std::array<double, Casilla480::Ultima + 1> casillas{};
+        float tipo1 = 0;
+        float tipo2 = 0;
+        qint32 csde = 0;
+        bool modificado = false;
+    };
+
+    double sumaColumna(int columna) const;
+    double &en(int numero) { return m.casillas.at(static_cast<size_t>(numero)); }
+
+    QString m_modo;
+    QString m_entrada;
+    Figuras m;
+};
