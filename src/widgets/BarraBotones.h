@@ -1,0 +1,26 @@
+#pragma once
+
+#include "widgets/Iconos.h"
+
+#include <QWidget>
+
+class QHBoxLayout;
+class QPushButton;
+
+/// The row of buttons at the foot of a screen, each with its picture twin beside it.
+class BarraBotones : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit BarraBotones(const QString &nombre, QWidget *padre = nullptr);
+
+    /// Adds a button called `boton` and, when `imagen` is not empty, its twin called so.
+    QPushButton *anadir(const QString &boton, const QString &imagen, Icono icono);
+
+private:
+    QHBoxLayout *m_fila;
+};
+
+/// Captions and tips of the two buttons that every entry screen has.
+void captionsAceptarCancelar(QPushButton *aceptar, QPushButton *cancelar);

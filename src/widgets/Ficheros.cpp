@@ -1,0 +1,50 @@
+#include "widgets/Ficheros.h"
+
+#include "core/Textos.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+
+namespace ficheros {
+
+static Observador &observador()
+{
+    static Observador actual;
+    return actual;
+}
+
+void observar(Observador nuevo)
+{
+    observador() = std::move(nuevo);
+}
+
+static QString elegirFichero(QFileDialog &dialogo)
+{
+    dialogo.setLabelText(QFileDialog::Reject, msj(Msj::Cancelar));
+    if (observador()) {
+        dialogo.setOption(QFileDialog::DontUseNativeDialog);
+        observador()(dialogo);
+    }
+    return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
+}
+
+QString abrir(QWidget *padre, const QString &titulo, const QString &carpeta, const QString &filtro)
+{
+    QFileDialog dialogo(padre, titulo, carpeta, filtro);
+    dialogo.setFileMode(QFileDialog::ExistingFile);
+    return elegirFichero(dialogo);
+}
+
+QString guardar(QWidget *padre, const QString &titulo, const QString &propuesto,
+                const QString &filtro, bool confirmar)
+{
+    const QFileInfo fichero(propuesto);
+    QFileDialog dialogo(padre, titulo, fichero.path(), filtro);
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    dialogo.setOption(QFileDialog::DontConfirmOverwrite, !confirmar);
+    dialogo.setDefaultSuffix(fichero.suffix());
+    dialogo.selectFile(fichero.fileName());
+    return elegirFichero(dialogo);
+}
+
+} // namespace ficheros

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QFileDialog;
+class QWidget;
+
+/// Every file dialogue of the program.
+namespace ficheros {
+
+/// A file to read; empty when the user gave up. `filtro` as QFileDialog takes it.
+QString abrir(QWidget *padre, const QString &titulo, const QString &carpeta, const QString &filtro);
+
+/// A file to write, `propuesto` being offered. The dialogue does not ask about overwriting when
+/// `confirmar` is false.
+QString guardar(QWidget *padre, const QString &titulo, const QString &propuesto,
+                const QString &filtro, bool confirmar = true);
+
+/// Called with each dialogue just before it opens; tests drive the real window through it.
+using Observador = std::function<void(QFileDialog &)>;
+void observar(Observador observador);
+
+} // namespace ficheros

@@ -1,0 +1,132 @@
+#include "widgets/ListaDesplegable.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QTimer>
+#include <QValidator>
+
+namespace {
+
+class Mayusculas : public QValidator
+{
+public:
+    using QValidator::QValidator;
+    State validate(QString &texto, int &) const override
+    {
+        texto = texto.toUpper();
+        return Acceptable;
+    }
+};
+
+bool esDePaso(const QFocusEvent *evento)
+{
+    return evento->reason() == Qt::PopupFocusReason
+        || evento->reason() == Qt::ActiveWindowFocusReason;
+}
+
+} // namespace
+
+ListaDesplegable::ListaDesplegable(const QString &nombre, QWidget *padre)
+    : QComboBox(padre)
+{
+    setObjectName(nombre);
+    setEditable(true);
+    setInsertPolicy(QComboBox::NoInsert);
+    setValidator(new Mayusculas(this));
+    view()->installEventFilter(this);
+    connect(lineEdit(), &QLineEdit::textEdited, this, [this] { m_pendiente = true; });
+    connect(this, &QComboBox::activated, this, [this] {
+        m_pendiente = true;
+        confirmar();
+    });
+}
+
+void ListaDesplegable::entradas(const QStringList &textos)
+{
+    clear();
+    addItems(textos);
+    mostrarEntrada(-1);
+}
+
+void ListaDesplegable::mostrarEntrada(int posicion)
+{
+    setCurrentIndex(posicion);
+    setEditText(itemText(posicion));
+    m_pendiente = false;
+}
+
+bool ListaDesplegable::confirmar()
+{
+    if (!m_pendiente || m_confirmando)
+        return true;
+    const QScopedValueRollback enCurso(m_confirmando, true);
+    const QString texto = currentText().trimmed();
+    const int posicion = texto.isEmpty() ? -1 : findText(texto, Qt::MatchFixedString);
+    if (posicion < 0 && !texto.isEmpty()) {
+        rechazar();
+        return false;
+    }
+    m_pendiente = false;
+    alElegir(posicion);
+    return true;
+}
+
+void ListaDesplegable::rechazar()
+{
+    alRechazar();
+    // the list stays closed, so that the text can be put right
+    QTimer::singleShot(0, this, [this] {
+        setFocus(Qt::PopupFocusReason);
+        lineEdit()->selectAll();
+    });
+}
+
+void ListaDesplegable::focusInEvent(QFocusEvent *evento)
+{
+    QComboBox::focusInEvent(evento);
+    if (esDePaso(evento))
+        return;
+    lineEdit()->selectAll();
+    if (m_despliega)
+        QTimer::singleShot(0, this, [this] {
+            if (hasFocus() && isVisible() && !view()->isVisible())
+                showPopup();
+        });
+}
+
+void ListaDesplegable::focusOutEvent(QFocusEvent *evento)
+{
+    QComboBox::focusOutEvent(evento);
+    const auto *destino = QApplication::focusWidget();
+    const bool abandona = evento->reason() == Qt::MouseFocusReason && destino
+        && destino->property(NoConfirma).toBool();
+    if (!esDePaso(evento) && !abandona)
+        confirmar();
+}
+
+/// The list of a combo box swallows Tab, which would hold a keyboard user in it.
+bool ListaDesplegable::eventFilter(QObject *objeto, QEvent *evento)
+{
+    if (objeto == view() && evento->type() == QEvent::KeyPress) {
+        const int tecla = static_cast<QKeyEvent *>(evento)->key();
+        if (tecla == Qt::Key_Tab || tecla == Qt::Key_Backtab) {
+            salirDeLaLista(tecla == Qt::Key_Tab);
+            return true;
+        }
+    }
+    return QComboBox::eventFilter(objeto, evento);
+}
+
+void ListaDesplegable::salirDeLaLista(bool adelante)
+{
+    const int elegida = view()->currentIndex().row();
+    hidePopup();
+    if (elegida >= 0 && elegida != currentIndex()) {
+        setCurrentIndex(elegida);
+        m_pendiente = true;
+    }
+    focusNextPrevChild(adelante);
+}

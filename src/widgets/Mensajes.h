@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QMessageBox;
+class QWidget;
+
+/// Every message box and question of the program: `titulo` is the caption of the screen that asks,
+/// buttons are in the session's language.
+namespace mensajes {
+
+void aviso(QWidget *padre, const QString &titulo, const QString &texto); ///< exclamation
+void informacion(QWidget *padre, const QString &titulo, const QString &texto); ///< information
+
+/// Yes or no, "No" being the default button and Escape; true for yes.
+bool pregunta(QWidget *padre, const QString &titulo, const QString &texto);
+
+/// Called with each box just before it opens; tests read and answer the real window through it.
+using Observador = std::function<void(QMessageBox &)>;
+void observar(Observador observador);
+
+} // namespace mensajes
