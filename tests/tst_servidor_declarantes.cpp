@@ -87,7 +87,7 @@ private Q_SLOTS:
         const qint32 CSDE = m_servidor->declaraciones()->Guardar430(
             ServidorPrueba::datos430(clave, 2026, 1, 5.0));
         QVERIFY(CSDE > 0);
-        QCOMPARE(falloDe([&] { objeto->BorrarDeclarante(clave); }), Fallo::EnUso);
+        QCOMPARE(falloDe([&] { objeto->BorrarDeclarante(clave); }), Fallo::TieneDeclaraciones);
         QCOMPARE(objeto->ObtenerCodigoDeclarante(QStringLiteral("12345678Z")), clave);
         const auto declaraciones = m_servidor->declaraciones();
         declaraciones->BorrarDatosNoComunes(CSDE, QStringLiteral("430"));

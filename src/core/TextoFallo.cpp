@@ -26,6 +26,8 @@ static Msj mensajeDe(Fallo fallo)
         return Msj::FalloLecturaEscritura;
     case Fallo::NoEncontrado:
         return Msj::FalloNoEncontrado;
+    case Fallo::TieneDeclaraciones:
+        return Msj::AvisoTieneDeclaraciones;
     }
     return Msj::FalloInterno;
 }

@@ -16,6 +16,7 @@ enum class Fallo {
     SoloLectura, ///< the file or its folder cannot be written
     LecturaEscritura, ///< the disk failed
     NoEncontrado, ///< the row asked for is not there (any more)
+    TieneDeclaraciones, ///< the declarant to delete still has returns
 };
 
 /// Thrown by the data service when it cannot do what it was asked; nothing has been changed then.

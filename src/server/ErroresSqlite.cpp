@@ -23,8 +23,9 @@ Fallo clasificar(int codigo, int codigoSistema)
     switch (codigo) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-    case SQLITE_CONSTRAINT: // rows elsewhere still need what was to be changed
         return Fallo::EnUso;
+    case SQLITE_CONSTRAINT: // the only rows that others depend on are declarants
+        return Fallo::TieneDeclaraciones;
     case SQLITE_FULL:
         return Fallo::SinEspacio;
     case SQLITE_READONLY:

@@ -25,7 +25,8 @@ class ModeloFilas : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// May be called again with as many columns, when the language changes: selection and place stay.
+    /// May be called again with as many columns, when the language changes: selection and place
+    /// stay.
     void columnas(QList<ColumnaLista> columnas);
     void filas(Filas filas);
 
