@@ -1,0 +1,270 @@
+#include "declarants/FrmDecLista.h"
+
+#include "core/CEntrada.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+#include "declarants/cDecDatos.h"
+#include "declarants/cDecLista.h"
+#include "declarants/cDecResumen.h"
+#include "widgets/BarraBotones.h"
+#include "widgets/Mensajes.h"
+#include "widgets/ModeloFilas.h"
+#include "widgets/Tabla.h"
+#include "widgets/cUtilidadesGrid.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTableView>
+#include <QVBoxLayout>
+
+using namespace FilaDeclarante;
+
+static cDecLista &estado()
+{
+    return unico::la<cDecLista>();
+}
+
+/// The orders of the service are numbered as the columns that they sort.
+static int columnaOrden()
+{
+    return estado().ORDEN() == cDecLista::PorNombre ? NOMBRE : DNI;
+}
+
+static QLabel *etiqueta(const QString &nombre, QWidget *padre)
+{
+    auto *label = new QLabel(padre);
+    label->setObjectName(nombre);
+    label->setWordWrap(true);
+    return label;
+}
+
+FrmDecLista::FrmDecLista(QWidget *padre)
+    : PantallaBase(u"FrmDecLista"_qs, padre)
+    , m_lblOrdenar(etiqueta(u"lblOrdenar"_qs, this))
+    , m_flxDeclarantes(new QTableView(this))
+    , m_modelo(new ModeloFilas(this))
+    , m_busqueda(new cUtilidadesGrid(m_flxDeclarantes))
+    , m_lblVacio(etiqueta(u"lblVacio"_qs, m_flxDeclarantes->viewport()))
+    , m_lblBusqueda(etiqueta(u"lblBusqueda"_qs, this))
+    , m_lblNumDecla(new QLabel(this))
+    , m_botones(new BarraBotones(u"fraBotones"_qs, this))
+    , m_cmdAceptar(m_botones->anadir(u"cmdAceptar"_qs, u"PicAce"_qs, Icono::Aceptar))
+    , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_qs, u"Piccan"_qs, Icono::Cancelar))
+{
+    m_lblNumDecla->setObjectName(u"lblNumDecla"_qs);
+    Anadir_captions();
+    prepararGrid();
+    crearOrdenes();
+    disponer();
+    alPulsar(m_cmdAceptar, [this] { aceptar(); });
+    alPulsarSinConfirmar(m_cmdCancelar, [this] { cerrarA(Pantalla::Ninguna); });
+    procedimiento(this, [this] { PresentaDatos(); });
+}
+
+void FrmDecLista::prepararGrid()
+{
+    m_flxDeclarantes->setObjectName(u"flxDeclarantes"_qs);
+    m_flxDeclarantes->setModel(m_modelo);
+    prepararTabla(m_flxDeclarantes);
+    for (const int oculta : {CSCO, NUM430, NUM480})
+        m_flxDeclarantes->setColumnHidden(oculta, true);
+    const int letra = fontMetrics().averageCharWidth();
+    m_flxDeclarantes->setColumnWidth(DNI, 16 * letra);
+    m_flxDeclarantes->setColumnWidth(NOMMUN, 30 * letra);
+    m_flxDeclarantes->setColumnWidth(NOMPROV, 26 * letra);
+    auto *cabecera = m_flxDeclarantes->horizontalHeader();
+    cabecera->setStretchLastSection(false);
+    cabecera->setSectionResizeMode(NOMBRE, QHeaderView::Stretch);
+    cabecera->setSectionsClickable(true);
+    cabecera->setSortIndicatorShown(true);
+    connect(m_flxDeclarantes->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &FrmDecLista::alSeleccionar);
+    connect(m_flxDeclarantes, &QTableView::activated, m_cmdAceptar, &QPushButton::click);
+}
+
+void FrmDecLista::crearOrdenes()
+{
+    connect(m_flxDeclarantes->horizontalHeader(), &QHeaderView::sectionClicked, this,
+            [this](int columna) { procedimiento(this, [&] { ordenar(columna); }); });
+    for (const int columna : {DNI, NOMBRE}) {
+        const auto tecla = static_cast<Qt::Key>(Qt::Key_0 + columna);
+        auto *atajo = new QShortcut(QKeySequence(Qt::CTRL | tecla), this);
+        atajo->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(atajo, &QShortcut::activated, this,
+                [this, columna] { procedimiento(this, [&] { ordenar(columna); }); });
+    }
+}
+
+void FrmDecLista::disponer()
+{
+    m_lblVacio->setAlignment(Qt::AlignCenter);
+    auto *centro = new QVBoxLayout(m_flxDeclarantes->viewport());
+    centro->addWidget(m_lblVacio);
+    QFont pequena = font();
+    pequena.setPointSizeF(pequena.pointSizeF() * 0.9);
+    m_lblBusqueda->setFont(pequena);
+
+    auto *pie = new QHBoxLayout;
+    pie->addWidget(m_lblNumDecla);
+    pie->addWidget(m_botones, 1);
+    auto *todo = new QVBoxLayout(this);
+    todo->setContentsMargins(16, 14, 16, 14);
+    todo->setSpacing(8);
+    todo->addWidget(m_lblOrdenar);
+    todo->addWidget(m_flxDeclarantes, 1);
+    todo->addWidget(m_lblBusqueda);
+    todo->addSpacing(4);
+    todo->addLayout(pie);
+}
+
+QSize FrmDecLista::sizeHint() const
+{
+    const int letra = fontMetrics().averageCharWidth();
+    return {130 * letra, 32 * fontMetrics().height()};
+}
+
+bool FrmDecLista::eliminando() const
+{
+    return estado().MODO() == u"E";
+}
+
+void FrmDecLista::Anadir_captions()
+{
+    const bool borra = eliminando();
+    setWindowTitle(msj(borra ? Msj::TituloEliminarDeclarante : Msj::TituloAbrirDeclarante));
+    m_lblOrdenar->setText(msj(Msj::PistaOrdenar));
+    m_lblBusqueda->setText(msj(Msj::PistaBusquedaLista));
+    m_lblVacio->setText(msj(Msj::SinDeclarantes));
+    m_flxDeclarantes->setAccessibleName(msj(Msj::AccesibleListaDeclarantes));
+    m_flxDeclarantes->setAccessibleDescription(msj(Msj::PistaBusquedaLista));
+    m_modelo->columnas({
+        {CSCO, msj(Msj::ColumnaCodigo)},
+        {DNI, msj(Msj::ColumnaDni), Qt::AlignLeft, {}, msj(Msj::PistaOrdenDni)},
+        {NOMBRE, msj(Msj::ColumnaRazonSocial), Qt::AlignLeft, {}, msj(Msj::PistaOrdenNombre)},
+        {NOMMUN, msj(Msj::ColumnaMunicipio)},
+        {NOMPROV, msj(Msj::ColumnaProvincia)},
+        {NUM430, QString()},
+        {NUM480, QString()},
+    });
+    captionsAceptarCancelar(m_cmdAceptar, m_cmdCancelar);
+    if (borra)
+        m_cmdAceptar->setText(msj(Msj::BotonEliminar));
+    m_cmdAceptar->setToolTip(
+        msj(borra ? Msj::PistaEliminarSeleccionado : Msj::PistaAbrirSeleccionado));
+}
+
+void FrmDecLista::alCambiarIdioma()
+{
+    PresentaDatos();
+}
+
+void FrmDecLista::Actualizar()
+{
+    procedimiento(this, [this] { PresentaDatos(); });
+}
+
+void FrmDecLista::showEvent(QShowEvent *evento)
+{
+    PantallaBase::showEvent(evento);
+    if (!evento->spontaneous() && !focusWidget())
+        m_flxDeclarantes->setFocus(Qt::OtherFocusReason);
+}
+
+/// The declarant selected stays so; when it is gone, the one in its place, or the first.
+void FrmDecLista::CargarflxDeclarantes()
+{
+    const qint32 csco = estado().CSCO();
+    const int lugar = std::max(0, m_flxDeclarantes->currentIndex().row());
+    m_modelo->filas(estado().CargarDeclarantes());
+    const int fila = csco == 0 ? -1 : m_modelo->buscar(CSCO, csco);
+    seleccionar(fila >= 0 ? fila : std::min(lugar, m_modelo->rowCount() - 1));
+}
+
+void FrmDecLista::PresentaDatos()
+{
+    CargarflxDeclarantes();
+    m_flxDeclarantes->horizontalHeader()->setSortIndicator(columnaOrden(), Qt::AscendingOrder);
+    m_busqueda->columna(columnaOrden());
+    const qint32 numero = estado().NUMDECLASEL();
+    m_lblNumDecla->setText(QString::number(numero) + u' ' + msj(Msj::DeclarantesSeleccionados));
+    m_lblVacio->setVisible(numero == 0);
+}
+
+void FrmDecLista::ordenar(int columna)
+{
+    if (columna == DNI || columna == NOMBRE) {
+        estado().ORDEN(columna == DNI ? cDecLista::PorDni : cDecLista::PorNombre);
+        PresentaDatos();
+    }
+    // the header has moved its marker on its own account, to whatever column was clicked
+    m_flxDeclarantes->horizontalHeader()->setSortIndicator(columnaOrden(), Qt::AscendingOrder);
+}
+
+void FrmDecLista::seleccionar(int fila)
+{
+    m_flxDeclarantes->selectRow(fila);
+    m_flxDeclarantes->scrollTo(m_modelo->index(fila, DNI), QAbstractItemView::PositionAtCenter);
+    alSeleccionar();
+}
+
+void FrmDecLista::alSeleccionar()
+{
+    const auto fila = filaActual();
+    estado().CSCO(fila.value(CSCO).toInt());
+    m_cmdAceptar->setEnabled(!fila.isEmpty());
+}
+
+QVariantList FrmDecLista::filaActual() const
+{
+    const auto filas = m_flxDeclarantes->selectionModel()->selectedRows();
+    return filas.isEmpty() ? QVariantList() : m_modelo->fila(filas.first().row());
+}
+
+void FrmDecLista::aceptar()
+{
+    const auto fila = filaActual();
+    if (fila.isEmpty())
+        return;
+    if (eliminando()) {
+        eliminar();
+        return;
+    }
+    auto &resumen = unico::la<cDecResumen>();
+    resumen.ENTRADA(u"A"_qs);
+    resumen.TomarDeclarante(fila.value(CSCO).toInt(), fila.value(DNI).toString(),
+                            fila.value(NOMBRE).toString());
+    cerrarA(Pantalla::Resumen);
+}
+
+void FrmDecLista::eliminar()
+{
+    const auto fila = filaActual();
+    const QString titulo = msj(Msj::TituloBorradoDeclarante);
+    if (fila.value(NUM430).toDouble() != 0 || fila.value(NUM480).toDouble() != 0) {
+        mensajes::aviso(this, titulo, msj(Msj::AvisoTieneDeclaraciones));
+        return;
+    }
+    const QString texto = msj(Msj::PreguntaBorrarDeclarante, fila.value(DNI).toString(),
+                              fila.value(NOMBRE).toString());
+    if (!mensajes::pregunta(this, titulo, texto))
+        return;
+    auto &datos = unico::la<cDecDatos>();
+    datos.CSCO(fila.value(CSCO).toInt());
+    datos.BorrarDeclarante();
+    PresentaDatos();
+    unico::la<CEntrada>().InicializarContadores();
+    Q_EMIT datosCambiados();
+}
+
+/// Escape leaves the list, once the search box is empty.
+void FrmDecLista::keyPressEvent(QKeyEvent *evento)
+{
+    if (evento->key() == Qt::Key_Escape)
+        m_cmdCancelar->click();
+    else
+        PantallaBase::keyPressEvent(evento);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "widgets/PantallaBase.h"
+
+class BarraBotones;
+class ModeloFilas;
+class QLabel;
+class QTableView;
+class cUtilidadesGrid;
+
+/// The list of all declarants: to open one, or to delete one (cDecLista::MODO "E").
+class FrmDecLista : public PantallaBase
+{
+    Q_OBJECT
+
+public:
+    explicit FrmDecLista(QWidget *padre = nullptr);
+
+    void Anadir_captions() override;
+    void Actualizar() override;
+    void CargarflxDeclarantes();
+    void PresentaDatos();
+
+    QSize sizeHint() const override;
+
+protected:
+    void alCambiarIdioma() override;
+    void keyPressEvent(QKeyEvent *evento) override;
+    void showEvent(QShowEvent *evento) override;
+
+private:
+    void prepararGrid();
+    void crearOrdenes();
+    void disponer();
+    void ordenar(int columna);
+    void seleccionar(int fila);
+    void alSeleccionar();
+    QVariantList filaActual() const;
+    bool eliminando() const;
+    void aceptar();
+    void eliminar();
+
+    QLabel *m_lblOrdenar;
+    QTableView *m_flxDeclarantes;
+    ModeloFilas *m_modelo;
+    cUtilidadesGrid *m_busqueda;
+    QLabel *m_lblVacio;
+    QLabel *m_lblBusqueda;
+    QLabel *m_lblNumDecla;
+    BarraBotones *m_botones;
+    QPushButton *m_cmdAceptar;
+    QPushButton *m_cmdCancelar;
+};

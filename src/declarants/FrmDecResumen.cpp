@@ -1,0 +1,223 @@
+#include "declarants/FrmDecResumen.h"
+
+#include "core/Importe.h"
+#include "core/Periodos.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+#include "declarants/NuevaDeclaracion.h"
+#include "declarants/cDecResumen.h"
+#include "widgets/Iconos.h"
+#include "widgets/ModeloFilas.h"
+#include "widgets/Tabla.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+using namespace FilaDeclaracion;
+
+static constexpr int ColumnaPeriodoNumero = 7;
+
+static QLabel *etiqueta(const QString &nombre, QWidget *padre)
+{
+    auto *label = new QLabel(padre);
+    label->setObjectName(nombre);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+FrmDecResumen::FrmDecResumen(QWidget *padre)
+    : PantallaBase(u"FrmDecResumen"_qs, padre)
+    , m_lbldni(etiqueta(u"lbldni"_qs, this))
+    , m_lblnombre(etiqueta(u"lblnombre"_qs, this))
+    , m_nueva(new NuevaDeclaracion(this))
+    , m_imgNueva(crearBoton(u"ImgNueva"_qs))
+    , m_cmdAbandonar(crearBoton(u"cmdAbandonar"_qs))
+    , m_flxDeclaraciones(new QTableView(this))
+    , m_modelo(new ModeloFilas(this))
+    , m_cmdDatos(crearBoton(u"cmdDatos"_qs))
+    , m_cmdImprimir(crearBoton(u"cmdImprimir"_qs))
+    , m_cmdEliminar(crearBoton(u"cmdEliminar"_qs))
+    , m_cmdDeclarante(crearBoton(u"cmdDeclarante"_qs))
+    , m_cmdCerrar(crearBoton(u"cmdCerrar"_qs))
+    , m_lblNumDecla(etiqueta(u"lblNumDecla"_qs, this))
+{
+    auto &cabecera = unico::la<cDecResumen>();
+    cabecera.MODO(u"L"_qs);
+    if (cabecera.ENTRADA() == u"A")
+        cabecera.CSDE(0);
+    Anadir_captions();
+    prepararGrid();
+    ponerIconos();
+    disponer();
+    conectar();
+    mostrarNueva(false);
+    procedimiento(this, [this] { PresentaDatos(); });
+}
+
+QPushButton *FrmDecResumen::crearBoton(const QString &nombre)
+{
+    auto *boton = new QPushButton(this);
+    boton->setObjectName(nombre);
+    boton->setAutoDefault(false);
+    return boton;
+}
+
+void FrmDecResumen::ponerIconos()
+{
+    m_imgNueva->setIcon(icono(Icono::Declaracion));
+    m_cmdDatos->setIcon(icono(Icono::Abrir));
+    m_cmdImprimir->setIcon(icono(Icono::Imprimir));
+    m_cmdEliminar->setIcon(icono(Icono::Eliminar));
+    m_cmdDeclarante->setIcon(icono(Icono::Declarante));
+    m_cmdCerrar->setIcon(icono(Icono::Salir));
+}
+
+void FrmDecResumen::prepararGrid()
+{
+    m_flxDeclaraciones->setObjectName(u"flxDeclaraciones"_qs);
+    m_flxDeclaraciones->setModel(m_modelo);
+    prepararTabla(m_flxDeclaraciones);
+    for (const int oculta : {+CSDE, +PERIODICIDAD, +TIPOLOGIA, ColumnaPeriodoNumero})
+        m_flxDeclaraciones->setColumnHidden(oculta, true);
+    const int letra = fontMetrics().averageCharWidth();
+    m_flxDeclaraciones->setColumnWidth(EJERCICIO, 14 * letra);
+    m_flxDeclaraciones->setColumnWidth(MODELO, 12 * letra);
+    m_flxDeclaraciones->setColumnWidth(IMPORTE, 26 * letra);
+    m_flxDeclaraciones->horizontalHeader()->setStretchLastSection(false);
+    m_flxDeclaraciones->horizontalHeader()->setSectionResizeMode(PERIODO, QHeaderView::Stretch);
+    m_flxDeclaraciones->installEventFilter(this);
+}
+
+void FrmDecResumen::conectar()
+{
+    connect(m_flxDeclaraciones->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &FrmDecResumen::alSeleccionar);
+    connect(m_flxDeclaraciones, &QTableView::activated, m_cmdDatos, &QPushButton::click);
+    alPulsar(m_imgNueva, [this] { nueva(); });
+    alPulsarSinConfirmar(m_cmdAbandonar, [this] { abandonarNueva(); });
+    alPulsarSinConfirmar(m_cmdDatos, [this] { abrir(); });
+    alPulsarSinConfirmar(m_cmdImprimir, [this] { imprimir(); });
+    alPulsarSinConfirmar(m_cmdEliminar, [this] { eliminar(); });
+    alPulsarSinConfirmar(m_cmdDeclarante, [this] { verDeclarante(); });
+    alPulsarSinConfirmar(m_cmdCerrar, [this] { cerrarA(Pantalla::Ninguna); });
+}
+
+/// Created in reading order, which is the order of Tab.
+void FrmDecResumen::disponer()
+{
+    QFont grande = font();
+    grande.setPointSizeF(grande.pointSizeF() * 1.35);
+    grande.setBold(true);
+    m_lblnombre->setFont(grande);
+
+    auto *izquierda = new QVBoxLayout;
+    izquierda->setSpacing(8);
+    izquierda->addWidget(m_nueva);
+    izquierda->addStretch(1);
+    izquierda->addWidget(m_lblNumDecla);
+    auto *arriba = new QVBoxLayout;
+    arriba->setSpacing(8);
+    arriba->addWidget(m_imgNueva);
+    arriba->addWidget(m_cmdAbandonar);
+    arriba->addStretch(1);
+    auto *derecha = new QVBoxLayout;
+    derecha->setSpacing(8);
+    for (auto *boton : {m_cmdDatos, m_cmdImprimir, m_cmdEliminar, m_cmdDeclarante})
+        derecha->addWidget(boton);
+    derecha->addStretch(1);
+    derecha->addWidget(m_cmdCerrar);
+
+    auto *celdas = new QGridLayout(this);
+    celdas->setContentsMargins(16, 14, 16, 14);
+    celdas->setHorizontalSpacing(16);
+    celdas->setVerticalSpacing(12);
+    auto *titulo = new QVBoxLayout;
+    titulo->setSpacing(2);
+    titulo->addWidget(m_lblnombre);
+    titulo->addWidget(m_lbldni);
+    celdas->addLayout(titulo, 0, 0);
+    celdas->addLayout(izquierda, 1, 0);
+    celdas->addLayout(arriba, 1, 1);
+    celdas->addWidget(m_flxDeclaraciones, 2, 0);
+    celdas->addLayout(derecha, 2, 1);
+    celdas->setColumnStretch(0, 1);
+    celdas->setRowStretch(2, 1);
+}
+
+QSize FrmDecResumen::sizeHint() const
+{
+    const int letra = fontMetrics().averageCharWidth();
+    return QWidget::sizeHint().expandedTo({110 * letra, 30 * fontMetrics().height()});
+}
+
+void FrmDecResumen::Anadir_captions()
+{
+    setWindowTitle(msj(Msj::TituloResumen));
+    m_nueva->Anadir_captions();
+    const auto rotular = [](QPushButton *boton, Msj texto, Msj pista) {
+        boton->setText(msj(texto));
+        boton->setToolTip(msj(pista));
+    };
+    rotular(m_imgNueva, Msj::BotonNuevaDeclaracion, Msj::PistaNuevaDeclaracion);
+    rotular(m_cmdAbandonar, Msj::BotonCancelar, Msj::PistaAbandonarNueva);
+    rotular(m_cmdDatos, Msj::BotonDatos, Msj::PistaDatos);
+    rotular(m_cmdImprimir, Msj::Imprimir, Msj::PistaImprimir);
+    rotular(m_cmdEliminar, Msj::BotonEliminarDeclaracion, Msj::PistaEliminarDeclaracion);
+    rotular(m_cmdDeclarante, Msj::BotonDeclarante, Msj::PistaDeclarante);
+    rotular(m_cmdCerrar, Msj::BotonCerrar, Msj::PistaVolverMenu);
+    m_flxDeclaraciones->setAccessibleName(msj(Msj::AccesibleListaDeclaraciones));
+
+    const auto periodo = [](const QVariantList &fila) {
+        return textoPeriodo(fila.value(PERIODICIDAD).toInt(), fila.value(PERIODO).toInt());
+    };
+    const auto importe
+        = [](const QVariantList &fila) { return textoImporte(fila.value(IMPORTE).toDouble()); };
+    m_modelo->columnas({
+        {CSDE, msj(Msj::ColumnaCodigo)},
+        {EJERCICIO, msj(Msj::Ejercicio)},
+        {PERIODICIDAD, msj(Msj::ColumnaPeriodicidad)},
+        {PERIODO, msj(Msj::Periodo), Qt::AlignLeft, periodo},
+        {MODELO, msj(Msj::Modelo)},
+        {TIPOLOGIA, msj(Msj::ColumnaTipologia)},
+        {IMPORTE, msj(Msj::ColumnaImporte), Qt::AlignRight, importe},
+        {PERIODO, msj(Msj::Periodo)},
+    });
+}
+
+void FrmDecResumen::alCambiarIdioma()
+{
+    m_nueva->alCambiarIdioma();
+    PresentaDatos();
+}
+
+void FrmDecResumen::CargarFlxDeclaraciones()
+{
+    auto &cabecera = unico::la<cDecResumen>();
+    const qint32 elegida = cabecera.CSDE();
+    m_modelo->filas(cabecera.CargarDeclaraciones());
+    seleccionar(elegida);
+}
+
+void FrmDecResumen::PresentaDatos()
+{
+    const auto &cabecera = unico::la<cDecResumen>();
+    m_lbldni->setText(msj(Msj::EtiquetaDni) + u' ' + cabecera.DNI());
+    m_lblnombre->setText(cabecera.NOMBRE());
+    CargarFlxDeclaraciones();
+    const qint32 numero = cabecera.NUMDECLASEL();
+    m_lblNumDecla->setText(numero == 0 ? msj(Msj::NoExistenDeclaraciones)
+                                       : QString::number(numero) + u' '
+                                   + msj(Msj::DeclaracionesSeleccionadas));
+    PresentaBotones();
+}
+
+void FrmDecResumen::PresentaBotones()
+{
+    const bool hay = filaActual().has_value();
+    for (auto *boton : {m_cmdDatos, m_cmdImprimir, m_cmdEliminar})
+        boton->setEnabled(hay);
+}

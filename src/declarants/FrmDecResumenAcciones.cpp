@@ -1,0 +1,230 @@
+// What the buttons, keys and rows of the summary do.
+
+#include "core/CEntrada.h"
+#include "core/Periodos.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+#include "declarants/FrmDecResumen.h"
+#include "declarants/MensajesDeclarante.h"
+#include "declarants/NuevaDeclaracion.h"
+#include "declarants/cDecDatos.h"
+#include "declarants/cDecResumen.h"
+#include "declarations/cDatos430.h"
+#include "declarations/cDatos480.h"
+#include "printing/cImOf.h"
+#include "widgets/Mensajes.h"
+#include "widgets/ModeloFilas.h"
+
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QTableView>
+
+using namespace FilaDeclaracion;
+
+static cDecResumen &cabecera()
+{
+    return unico::la<cDecResumen>();
+}
+
+std::optional<QVariantList> FrmDecResumen::filaActual() const
+{
+    const auto filas = m_flxDeclaraciones->selectionModel()->selectedRows(EJERCICIO);
+    if (filas.isEmpty())
+        return {};
+    return m_modelo->fila(filas.first().row());
+}
+
+void FrmDecResumen::alSeleccionar()
+{
+    const auto fila = filaActual();
+    cabecera().CSDE(fila ? fila->value(CSDE).toInt() : 0);
+    PresentaBotones();
+}
+
+void FrmDecResumen::seleccionar(qint32 csde)
+{
+    const int fila = csde == 0 ? -1 : m_modelo->buscar(CSDE, csde);
+    if (fila >= 0)
+        m_flxDeclaraciones->selectRow(fila);
+    else
+        m_flxDeclaraciones->clearSelection();
+    alSeleccionar();
+}
+
+void FrmDecResumen::enfocarLista()
+{
+    QWidget *destino = m_flxDeclaraciones;
+    if (m_modelo->rowCount() == 0)
+        destino = m_cmdDeclarante;
+    destino->setFocus(Qt::OtherFocusReason);
+}
+
+void FrmDecResumen::showEvent(QShowEvent *evento)
+{
+    PantallaBase::showEvent(evento);
+    if (!evento->spontaneous() && !focusWidget())
+        enfocarLista();
+}
+
+void FrmDecResumen::Actualizar()
+{
+    procedimiento(this, [this] {
+        if (unico::la<cDecDatos>().ObtenerCodigoDeclarante(cabecera().DNI()) == 0)
+            cerrarA(Pantalla::Ninguna);
+        else
+            PresentaDatos();
+    });
+}
+
+/// The first press proposes a return, the second creates it.
+void FrmDecResumen::nueva()
+{
+    if (cabecera().MODO() == u"N") {
+        crear();
+        return;
+    }
+    cabecera().MODO(u"N"_qs);
+    m_nueva->PresentaDatos();
+    mostrarNueva(true);
+    m_nueva->enfocarPrimero();
+}
+
+bool FrmDecResumen::ValidarCampos()
+{
+    const qint16 codigo = cabecera().ValidarDatosComunes(cabecera().Cabecera());
+    const QString texto = textoCabecera(codigo);
+    if (texto.isEmpty())
+        return true;
+    aviso(texto);
+    m_nueva->enfocar(codigo);
+    return false;
+}
+
+void FrmDecResumen::crear()
+{
+    if (!ValidarCampos())
+        return;
+    if (cabecera().TIPOLOGIA() == Tipologia430) {
+        unico::la<cDatos430>().MODO(u"A"_qs);
+        cerrarA(Pantalla::Datos430);
+    } else {
+        auto &registro = unico::la<cDatos480>();
+        registro.MODO(u"A"_qs);
+        registro.ENTRADA(u"A"_qs);
+        cerrarA(Pantalla::Datos480a);
+    }
+}
+
+void FrmDecResumen::mostrarNueva(bool visible)
+{
+    m_nueva->setVisible(visible);
+    m_cmdAbandonar->setVisible(visible);
+}
+
+void FrmDecResumen::abandonarNueva()
+{
+    if (cabecera().MODO() != u"N")
+        return;
+    cabecera().MODO(u"L"_qs);
+    enfocarLista();
+    mostrarNueva(false);
+}
+
+/// The header of the row selected into the record; a new return being prepared is given up, for
+/// its header is the same one.
+bool FrmDecResumen::tomarFila()
+{
+    const auto fila = filaActual();
+    if (!fila)
+        return false;
+    abandonarNueva();
+    auto &c = cabecera();
+    c.CSDE(fila->value(CSDE).toInt());
+    c.EJERCICIO(fila->value(EJERCICIO).value<qint16>());
+    c.PERIODICIDAD(fila->value(PERIODICIDAD).value<quint8>());
+    c.PERIODO(fila->value(PERIODO).value<quint8>());
+    c.MODELO(fila->value(MODELO).toString());
+    c.TIPOLOGIA(fila->value(TIPOLOGIA).value<quint8>());
+    return true;
+}
+
+void FrmDecResumen::abrir()
+{
+    if (!tomarFila())
+        return;
+    if (cabecera().TIPOLOGIA() == Tipologia430) {
+        auto &registro = unico::la<cDatos430>();
+        registro.MODO(u"C"_qs);
+        registro.CSDE(cabecera().CSDE());
+        cerrarA(Pantalla::Datos430);
+    } else {
+        auto &registro = unico::la<cDatos480>();
+        registro.MODO(u"C"_qs);
+        registro.ENTRADA(u"A"_qs);
+        registro.CSDE(cabecera().CSDE());
+        cerrarA(Pantalla::Datos480a);
+    }
+}
+
+void FrmDecResumen::imprimir()
+{
+    if (!tomarFila())
+        return;
+    auto &peticion = unico::la<cImOf>();
+    peticion.CSCO(cabecera().CSCO());
+    peticion.CSDE(cabecera().CSDE());
+    peticion.MODELO(cabecera().MODELO());
+    Q_EMIT mostrar(Pantalla::Impresion);
+}
+
+void FrmDecResumen::eliminar()
+{
+    const auto fila = filaActual();
+    if (!fila)
+        return;
+    const QString periodo
+        = textoPeriodo(fila->value(PERIODICIDAD).toInt(), fila->value(PERIODO).toInt());
+    const QString texto
+        = msj(Msj::PreguntaBorrarDeclaracion, fila->value(EJERCICIO).toString(), periodo);
+    if (!mensajes::pregunta(this, msj(Msj::TituloBorradoDeclaracion), texto))
+        return;
+    abandonarNueva();
+    cabecera().BorrarDeclaracion(fila->value(CSDE).toInt(), fila->value(MODELO).toString());
+    cabecera().CSDE(0);
+    PresentaDatos();
+    enfocarLista();
+    unico::la<CEntrada>().InicializarContadores();
+    Q_EMIT datosCambiados();
+}
+
+void FrmDecResumen::verDeclarante()
+{
+    auto &datos = unico::la<cDecDatos>();
+    datos.MODO(u"C"_qs);
+    datos.CSCO(cabecera().CSCO());
+    datos.CargarDeclarante(cabecera().CSCO());
+    cerrarA(Pantalla::DatosDeclarante);
+}
+
+/// Escape gives the new return up.
+void FrmDecResumen::keyPressEvent(QKeyEvent *evento)
+{
+    if (evento->key() == Qt::Key_Escape && cabecera().MODO() == u"N")
+        procedimiento(this, [this] { abandonarNueva(); });
+    else
+        PantallaBase::keyPressEvent(evento);
+}
+
+/// With nothing selected yet, the first arrow key selects the row under the cursor, which it would
+/// otherwise step over.
+bool FrmDecResumen::eventFilter(QObject *objeto, QEvent *evento)
+{
+    if (objeto == m_flxDeclaraciones && evento->type() == QEvent::KeyPress && !filaActual()) {
+        const int tecla = static_cast<QKeyEvent *>(evento)->key();
+        if (tecla == Qt::Key_Down || tecla == Qt::Key_Up) {
+            m_flxDeclaraciones->selectRow(std::max(0, m_flxDeclaraciones->currentIndex().row()));
+            return true;
+        }
+    }
+    return PantallaBase::eventFilter(objeto, evento);
+}

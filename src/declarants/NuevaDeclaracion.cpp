@@ -1,0 +1,166 @@
+#include "declarants/NuevaDeclaracion.h"
+
+#include "core/Periodos.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+#include "declarants/cDecResumen.h"
+#include "widgets/CajaTexto.h"
+#include "widgets/ListaDesplegable.h"
+#include "widgets/Mensajes.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+static cDecResumen &cabecera()
+{
+    return unico::la<cDecResumen>();
+}
+
+static QLabel *etiqueta(const QString &nombre, QWidget *de, QWidget *padre)
+{
+    auto *label = new QLabel(padre);
+    label->setObjectName(nombre);
+    label->setBuddy(de);
+    return label;
+}
+
+NuevaDeclaracion::NuevaDeclaracion(QWidget *padre)
+    : QFrame(padre)
+    , m_txtejer(new CajaTexto(u"txtejer"_qs, 4, CajaTexto::Cifras, this))
+    , m_cmbmodelo(new ListaDesplegable(u"cmbmodelo"_qs, this))
+    , m_cmbperiodo(new ListaDesplegable(u"cmbperiodo"_qs, this))
+    , m_lblejer(etiqueta(u"lblejer"_qs, m_txtejer, this))
+    , m_lblmodelo(etiqueta(u"lblmodelo"_qs, m_cmbmodelo, this))
+    , m_lblperiodo(etiqueta(u"lblperiodo"_qs, m_cmbperiodo, this))
+    , m_lblGuia(etiqueta(u"lblGuia"_qs, nullptr, this))
+{
+    setObjectName(u"fraNueva"_qs);
+    setFrameShape(QFrame::StyledPanel);
+    m_cmbmodelo->entradas({Modelo430.toString(), Modelo480.toString()});
+    m_cmbmodelo->desplegarAlEntrar();
+    m_txtejer->alConfirmar = [this] { return tomarEjercicio(); };
+    m_cmbmodelo->alElegir = [this](int posicion) { tomarModelo(posicion); };
+    m_cmbmodelo->alRechazar = [this] { rechazar(Msj::ErrorModeloLista); };
+    m_cmbperiodo->alElegir = [this](int posicion) { tomarPeriodo(posicion); };
+    m_cmbperiodo->alRechazar = [this] { rechazar(Msj::ErrorPeriodoLista); };
+    disponer();
+}
+
+void NuevaDeclaracion::disponer()
+{
+    m_lblGuia->setWordWrap(true);
+    auto *celdas = new QGridLayout(this);
+    celdas->setContentsMargins(14, 10, 14, 10);
+    celdas->setHorizontalSpacing(16);
+    celdas->setVerticalSpacing(4);
+    celdas->addWidget(m_lblejer, 0, 0);
+    celdas->addWidget(m_lblmodelo, 0, 1);
+    celdas->addWidget(m_lblperiodo, 0, 2);
+    celdas->addWidget(m_txtejer, 1, 0);
+    celdas->addWidget(m_cmbmodelo, 1, 1);
+    celdas->addWidget(m_cmbperiodo, 1, 2);
+    celdas->setRowMinimumHeight(2, 4);
+    celdas->addWidget(m_lblGuia, 3, 0, 1, 4);
+    celdas->setColumnStretch(3, 1);
+    const auto ancho
+        = [this](const QString &texto) { return fontMetrics().horizontalAdvance(texto) + 52; };
+    m_cmbmodelo->setFixedWidth(ancho(u"0000"_qs));
+    m_cmbperiodo->setFixedWidth(ancho(u"SEPTIEMBRE"_qs));
+}
+
+void NuevaDeclaracion::Anadir_captions()
+{
+    m_lblejer->setText(msj(Msj::Ejercicio));
+    m_lblmodelo->setText(msj(Msj::Modelo));
+    m_lblperiodo->setText(msj(Msj::Periodo));
+    m_txtejer->setAccessibleName(msj(Msj::Ejercicio));
+    m_cmbmodelo->setAccessibleName(msj(Msj::Modelo));
+    m_cmbperiodo->setAccessibleName(msj(Msj::Periodo));
+    m_lblGuia->setText(msj(Msj::GuiaNuevaDeclaracion));
+    setAccessibleName(msj(Msj::MarcoNuevaDeclaracion));
+}
+
+void NuevaDeclaracion::cargarPeriodos()
+{
+    QStringList textos;
+    if (cabecera().PERIODICIDAD() == PeriodicidadAnual) {
+        textos += palabraPeriodicidad(PeriodicidadAnual);
+    } else {
+        for (int mes = 1; mes <= 12; ++mes)
+            textos += nombreMes(mes);
+    }
+    m_cmbperiodo->entradas(textos);
+}
+
+void NuevaDeclaracion::PresentaDatos()
+{
+    const auto &c = cabecera();
+    m_txtejer->mostrar(c.EJERCICIO() == 0 ? QString() : QString::number(c.EJERCICIO()));
+    m_cmbmodelo->mostrarEntrada(m_cmbmodelo->findText(c.MODELO()));
+    cargarPeriodos();
+    const bool anual = c.PERIODICIDAD() == PeriodicidadAnual;
+    m_cmbperiodo->mostrarEntrada(c.PERIODO() == 0 ? -1 : anual ? 0 : c.PERIODO() - 1);
+}
+
+/// What is being typed in the other two fields is not lost.
+void NuevaDeclaracion::alCambiarIdioma()
+{
+    const int posicion = m_cmbperiodo->currentIndex();
+    cargarPeriodos();
+    m_cmbperiodo->mostrarEntrada(posicion);
+}
+
+void NuevaDeclaracion::enfocarPrimero()
+{
+    const auto &c = cabecera();
+    QWidget *primero = m_txtejer;
+    if (c.EJERCICIO() != 0 && c.MODELO().isEmpty())
+        primero = m_cmbmodelo;
+    else if (c.EJERCICIO() != 0 && c.PERIODO() == 0)
+        primero = m_cmbperiodo;
+    primero->setFocus(Qt::OtherFocusReason);
+}
+
+void NuevaDeclaracion::enfocar(qint16 codigo)
+{
+    QWidget *campo = m_txtejer;
+    if (codigo == 2)
+        campo = m_cmbperiodo;
+    else if (codigo == 3)
+        campo = m_cmbmodelo;
+    campo->setFocus(Qt::OtherFocusReason);
+}
+
+/// Another exercise asks for model and period anew.
+bool NuevaDeclaracion::tomarEjercicio()
+{
+    const qint16 ejercicio = m_txtejer->text().toShort();
+    if (ejercicio != cabecera().EJERCICIO()) {
+        cabecera().EJERCICIO(ejercicio);
+        cabecera().MODELO({});
+        cabecera().PERIODO(0);
+    }
+    PresentaDatos();
+    return true;
+}
+
+void NuevaDeclaracion::tomarModelo(int posicion)
+{
+    if (posicion < 0)
+        cabecera().MODELO({});
+    else
+        cabecera().CambiarModelo(m_cmbmodelo->itemText(posicion));
+    PresentaDatos();
+}
+
+void NuevaDeclaracion::tomarPeriodo(int posicion)
+{
+    const bool anual = cabecera().PERIODICIDAD() == PeriodicidadAnual;
+    const int periodo = posicion < 0 ? 0 : anual ? PeriodoAnual : posicion + 1;
+    cabecera().PERIODO(static_cast<quint8>(periodo));
+}
+
+void NuevaDeclaracion::rechazar(Msj motivo)
+{
+    mensajes::aviso(this, msj(Msj::TituloErrorDatosResumen), msj(motivo));
+}

@@ -1,0 +1,255 @@
+#include "declarants/frmDecDatos.h"
+
+#include "core/CEntrada.h"
+#include "core/Unico.h"
+#include "declarants/FichaDeclarante.h"
+#include "declarants/Listas.h"
+#include "declarants/MensajesDeclarante.h"
+#include "declarants/cDecResumen.h"
+#include "widgets/BarraBotones.h"
+#include "widgets/CajaTexto.h"
+#include "widgets/SelectorLista.h"
+
+#include <QPushButton>
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+using namespace campos;
+
+static cDecDatos &registro()
+{
+    return unico::la<cDecDatos>();
+}
+
+frmDecDatos::frmDecDatos(QWidget *padre)
+    : PantallaBase(u"frmDecDatos"_qs, padre)
+    , m_ficha(new FichaDeclarante(this))
+    , m_botones(new BarraBotones(u"fraBotones"_qs, this))
+    , m_cmdAceptar(m_botones->anadir(u"cmdAceptar"_qs, u"PicAce"_qs, Icono::Aceptar))
+    , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_qs, u"Piccan"_qs, Icono::Cancelar))
+{
+    auto *todo = new QVBoxLayout(this);
+    todo->setContentsMargins(16, 14, 16, 14);
+    todo->setSpacing(12);
+    todo->addWidget(m_ficha, 1);
+    todo->addWidget(m_botones);
+    crearListas();
+    conectarCajas();
+    alPulsar(m_cmdAceptar, [this] { aceptar(); });
+    alPulsarSinConfirmar(m_cmdCancelar, [this] { cancelar(); });
+    Anadir_captions();
+    procedimiento(this, [this] { cargarListas(); });
+    PresentaDatos();
+}
+
+void frmDecDatos::crearListas()
+{
+    m_listas = {{
+        {VIA, DOMICILIO, m_ficha->cmdVia(), new SelectorLista(u"lstVia"_qs, this),
+         &frmDecDatos::tomarVia},
+        {CODPROV, CODPOS, m_ficha->cmdProvincia(), new SelectorLista(u"lstCodProv"_qs, this),
+         &frmDecDatos::tomarProvincia},
+        {CODMUN, TELEFONO, m_ficha->cmdMunicipio(), new SelectorLista(u"lstCodMun"_qs, this),
+         &frmDecDatos::tomarMunicipio},
+    }};
+    for (const auto &lista : m_listas) {
+        alPulsar(lista.boton, [this, &lista] { abrirLista(lista); });
+        connect(lista.selector, &SelectorLista::cancelado, this,
+                [this, &lista] { cerrarLista(lista.codigo); });
+        connect(lista.selector, &SelectorLista::elegido, this,
+                [this, &lista](const QString &codigo, const QString &nombre) {
+                    (this->*lista.tomar)(codigo, nombre);
+                    cerrarLista(lista.siguiente);
+                });
+    }
+}
+
+void frmDecDatos::conectarCajas()
+{
+    for (int i = 0; i < Total; ++i) {
+        const auto campo = static_cast<Campo>(i);
+        m_ficha->caja(campo)->alConfirmar = [this, campo] { return tomarCampo(campo); };
+    }
+    m_ficha->caja(CODPROV)->alConfirmar = [this] { return tomarCodigoProvincia(); };
+    m_ficha->caja(CODMUN)->alConfirmar = [this] { return tomarCodigoMunicipio(); };
+}
+
+void frmDecDatos::cargarListas()
+{
+    m_listas[VIAS].selector->cargar(cargarVias());
+    m_listas[PROVINCIAS].selector->cargar(cargarProvincias());
+    m_listas[MUNICIPIOS].selector->cargar(cargarMunicipios());
+}
+
+void frmDecDatos::Anadir_captions()
+{
+    setWindowTitle(msj(Msj::TituloDatosDeclarante));
+    m_ficha->Anadir_captions();
+    m_listas[VIAS].selector->cabecera(msj(Msj::EtiquetaVia), msj(Msj::AccesibleSelectorVia));
+    m_listas[PROVINCIAS].selector->cabecera(msj(Msj::CabeceraProvincia),
+                                            msj(Msj::AccesibleSelectorProvincia));
+    m_listas[MUNICIPIOS].selector->cabecera(msj(Msj::CabeceraMunicipio),
+                                            msj(Msj::AccesibleSelectorMunicipio));
+    captionsAceptarCancelar(m_cmdAceptar, m_cmdCancelar);
+    m_cmdAceptar->setToolTip(msj(Msj::PistaGuardarDeclarante));
+}
+
+void frmDecDatos::alCambiarIdioma()
+{
+    cargarListas();
+    registro().LeerNombreProvincia();
+    m_ficha->PresentaNombres(registro(), nombreVia());
+}
+
+QString frmDecDatos::nombreVia() const
+{
+    const auto *via = buscarCodigo(m_listas[VIAS].selector->lista(), registro().VIA());
+    return via ? via->nombre : QString();
+}
+
+void frmDecDatos::PresentaDatos()
+{
+    m_ficha->PresentaDatos(registro(), nombreVia());
+}
+
+void frmDecDatos::showEvent(QShowEvent *evento)
+{
+    PantallaBase::showEvent(evento);
+    if (!evento->spontaneous() && !focusWidget())
+        m_ficha->caja(DNI)->setFocus(Qt::OtherFocusReason);
+}
+
+bool frmDecDatos::tomarCampo(Campo campo)
+{
+    if (campos::tomar(campo, registro(), m_ficha->caja(campo)->text()))
+        m_modificado = true;
+    PresentaDatos();
+    return true;
+}
+
+/// A code that is not in the table opens the list; none at all empties the province first.
+bool frmDecDatos::tomarCodigoProvincia()
+{
+    const QString codigo = valor(CODPROV, m_ficha->caja(CODPROV)->text());
+    const auto &lista = m_listas[PROVINCIAS];
+    if (codigo != registro().CODPROV()) {
+        if (const auto *provincia = buscarCodigo(lista.selector->lista(), codigo)) {
+            tomarProvincia(codigo, provincia->nombre);
+        } else {
+            if (codigo.toInt() == 0) {
+                tomarProvincia({}, {});
+                PresentaDatos();
+            }
+            abrirLista(lista);
+            return false;
+        }
+    }
+    PresentaDatos();
+    return true;
+}
+
+/// The name follows from the code; a code that is not in the table opens the list.
+bool frmDecDatos::tomarCodigoMunicipio()
+{
+    const QString codigo = valor(CODMUN, m_ficha->caja(CODMUN)->text());
+    const auto &lista = m_listas[MUNICIPIOS];
+    if (codigo != registro().CODMUN()) {
+        const auto *municipio = buscarCodigo(lista.selector->lista(), codigo);
+        if (!municipio && !codigo.isEmpty()) {
+            abrirLista(lista);
+            return false;
+        }
+        tomarMunicipio(codigo, municipio ? municipio->nombre : QString());
+    }
+    PresentaDatos();
+    return true;
+}
+
+void frmDecDatos::tomarVia(const QString &codigo, const QString &)
+{
+    m_modificado = campos::tomar(VIA, registro(), codigo) || m_modificado;
+}
+
+void frmDecDatos::tomarProvincia(const QString &codigo, const QString &nombre)
+{
+    if (valor(CODPROV, codigo) == registro().CODPROV())
+        return;
+    registro().CambiarProvincia(codigo, nombre);
+    m_modificado = true;
+}
+
+void frmDecDatos::tomarMunicipio(const QString &codigo, const QString &nombre)
+{
+    const bool otroCodigo = campos::tomar(CODMUN, registro(), codigo);
+    const bool otroNombre = campos::tomar(NOMMUN, registro(), nombre);
+    m_modificado = m_modificado || otroCodigo || otroNombre;
+}
+
+bool frmDecDatos::ValidarCampos()
+{
+    const qint16 codigo = registro().ValidarDatosDeclarante(registro().RegistroValidacion());
+    const QString texto = textoValidacionDeclarante(codigo);
+    if (texto.isEmpty())
+        return true;
+    aviso(texto);
+    m_ficha->caja(deValidacion(campoValidacionDeclarante(codigo)))->setFocus(Qt::OtherFocusReason);
+    return false;
+}
+
+qint16 frmDecDatos::GuardarDeclarante()
+{
+    const qint16 codigo = registro().GuardarDeclarante(registro().RegistroCompleto());
+    if (const QString texto = textoGuardarDeclarante(codigo); !texto.isEmpty())
+        aviso(texto);
+    return codigo;
+}
+
+void frmDecDatos::aceptar()
+{
+    if (!ValidarCampos())
+        return;
+    if (m_modificado) {
+        if (GuardarDeclarante() != 0)
+            return;
+        m_modificado = false;
+        m_porEntregar = true;
+        Q_EMIT datosCambiados();
+    }
+    if (m_porEntregar)
+        entregar();
+    else
+        unico::la<cDecResumen>().CSDE(0);
+    cerrarA(Pantalla::Resumen);
+}
+
+/// What the summary is to show. After a failure in here accepting again does only this.
+void frmDecDatos::entregar()
+{
+    auto &datos = registro();
+    auto &resumen = unico::la<cDecResumen>();
+    if (datos.MODO() == u"A") {
+        datos.CSCO(datos.ObtenerCodigoDeclarante(datos.DNI()));
+        resumen.ENTRADA(u"A"_qs);
+    } else {
+        resumen.ENTRADA(u"P"_qs);
+        resumen.CSDE(0);
+    }
+    resumen.TomarDeclarante(datos.CSCO(), datos.DNI(), datos.NOMBRE());
+    unico::la<CEntrada>().InicializarContadores();
+    m_porEntregar = false;
+}
+
+void frmDecDatos::cancelar()
+{
+    cerrarA(alCerrarMarco());
+}
+
+Pantalla frmDecDatos::alCerrarMarco()
+{
+    if (registro().MODO() != u"C")
+        return Pantalla::Ninguna;
+    auto &resumen = unico::la<cDecResumen>();
+    resumen.ENTRADA(u"P"_qs);
+    resumen.CSDE(0);
+    return Pantalla::Resumen;
+}

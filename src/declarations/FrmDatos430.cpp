@@ -1,0 +1,166 @@
+#include "declarations/FrmDatos430.h"
+
+#include "core/Importe.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+#include "declarations/cDatos430.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+enum { LIQUIDACION, RECTIFICACION, TOTAL };
+
+static cDatos430 &registro()
+{
+    return unico::la<cDatos430>();
+}
+
+FrmDatos430::FrmDatos430(QWidget *padre)
+    : PantallaDeclaracion(u"FrmDatos430"_qs, padre)
+    , m_chkrect(new QCheckBox(this))
+{
+    crearCajas();
+    disponer();
+    m_cmdAceptar = m_botones->anadir(u"cmdAceptar"_qs, u"PicAce"_qs, Icono::Aceptar);
+    m_cmdCancelar = m_botones->anadir(u"cmdCancelar"_qs, u"Piccan"_qs, Icono::Cancelar);
+    alPulsar(m_cmdAceptar, [this] { aceptar(); });
+    alPulsarSinConfirmar(m_cmdCancelar, [this] { cerrarComoCancelar(); });
+    alPulsar(m_chkrect, [this] {
+        registro().MarcarRectificacion(m_chkrect->isChecked());
+        registro().CalcularValores();
+        PresentaDatos();
+    });
+
+    if (registro().MODO() == u"C")
+        registro().CargarDeclaracion(registro().CSDE());
+    else
+        registro().CalcularValores();
+    Anadir_captions();
+    PresentaDatos();
+}
+
+void FrmDatos430::crearCajas()
+{
+    m_chkrect->setObjectName(u"chkrect"_qs);
+    auto &r = registro();
+    m_lineas[LIQUIDACION]
+        = {new QLabel(this), cajaEntrada(u"txtbliq"_qs, r, [](auto &d, double c) { d.BASELIQ(c); }),
+           cajaCalculada(u"txttliq"_qs), cajaCalculada(u"txtcliq"_qs)};
+    m_lineas[RECTIFICACION] = {
+        new QLabel(this), cajaEntrada(u"txtbrect"_qs, r, [](auto &d, double c) { d.BASEREC(c); }),
+        nullptr, cajaEntrada(u"txtcrect"_qs, r, [](auto &d, double c) { d.CUOTAREC(c); })};
+    m_lineas[TOTAL] = {new QLabel(this), cajaCalculada(u"txtbtot"_qs), cajaCalculada(u"txtttot"_qs),
+                       cajaCalculada(u"txtctot"_qs)};
+}
+
+void FrmDatos430::disponer()
+{
+    auto *rejilla = new QGridLayout;
+    rejilla->setHorizontalSpacing(12);
+    rejilla->setVerticalSpacing(10);
+    rejilla->setColumnStretch(0, 1);
+    for (int i = 0; i < 3; ++i) {
+        m_columnas[i] = new QLabel(this);
+        m_columnas[i]->setAlignment(Qt::AlignRight);
+        rejilla->addWidget(m_columnas[i], 0, i + 1);
+    }
+    for (int i = 0; i < 3; ++i) {
+        const auto &linea = m_lineas[i];
+        // the mark stands between the liquidation and the boxes that it opens
+        const int fila = i == LIQUIDACION ? 1 : i + 2;
+        rejilla->addWidget(linea.titulo, fila, 0);
+        rejilla->addWidget(linea.base, fila, 1);
+        if (linea.tipo) {
+            linea.tipo->setFixedWidth(linea.tipo->fontMetrics().horizontalAdvance(u"000,00 %"_qs));
+            rejilla->addWidget(linea.tipo, fila, 2);
+        }
+        rejilla->addWidget(linea.cuota, fila, 3);
+    }
+    rejilla->addWidget(m_chkrect, 2, 0, 1, 4);
+    setTabOrder(m_lineas[LIQUIDACION].base, m_chkrect);
+    setTabOrder(m_chkrect, m_lineas[RECTIFICACION].base);
+    setTabOrder(m_lineas[RECTIFICACION].base, m_lineas[RECTIFICACION].cuota);
+    QFont negrita = font();
+    negrita.setBold(true);
+    m_lineas[TOTAL].titulo->setFont(negrita);
+    m_lineas[TOTAL].cuota->setFont(negrita);
+    m_cuerpo->addLayout(rejilla);
+    m_cuerpo->addStretch(1);
+}
+
+void FrmDatos430::Anadir_captions()
+{
+    PantallaDeclaracion::Anadir_captions();
+    setWindowTitle(msj(Msj::Titulo430));
+    static constexpr Msj columnas[] = {Msj::BaseImponible, Msj::Tipo, Msj::Cuota};
+    static constexpr Msj lineas[] = {Msj::Liquidacion, Msj::Rectificacion, Msj::Total};
+    for (int i = 0; i < 3; ++i)
+        m_columnas[i]->setText(msj(columnas[i]));
+    for (int i = 0; i < 3; ++i) {
+        const auto &linea = m_lineas[i];
+        linea.titulo->setText(msj(lineas[i]));
+        CajaImporte *const cajas[] = {linea.base, linea.tipo, linea.cuota};
+        for (int j = 0; j < 3; ++j)
+            if (cajas[j])
+                cajas[j]->setAccessibleName(msj(lineas[i]) + u": "_qs + msj(columnas[j]));
+    }
+    m_chkrect->setText(msj(Msj::MarcaRectificacion));
+    m_chkrect->setToolTip(msj(Msj::PistaRectificacion));
+    captionsAceptarCancelar(m_cmdAceptar, m_cmdCancelar);
+    m_cmdAceptar->setToolTip(msj(Msj::PistaGuardarDeclaracion));
+}
+
+void FrmDatos430::PresentaDatos()
+{
+    const auto &r = registro();
+    const bool rectifica = r.RECTIFICA() == u"X";
+    const auto &[liquidacion, rectificacion, total] = m_lineas;
+    liquidacion.base->mostrarImporte(r.BASELIQ());
+    liquidacion.tipo->mostrar(textoTipo(r.TIPOLIQ()));
+    liquidacion.cuota->mostrarImporte(r.CUOTALIQ());
+    m_chkrect->setChecked(rectifica);
+    rectificacion.base->mostrarImporte(r.BASEREC());
+    rectificacion.cuota->mostrarImporte(r.CUOTAREC());
+    rectificacion.base->setEnabled(rectifica);
+    rectificacion.cuota->setEnabled(rectifica);
+    total.base->mostrarImporte(r.BASETOT());
+    total.tipo->mostrar(textoTipo(r.TIPOTOT()));
+    total.cuota->mostrarImporte(r.CUOTATOT());
+}
+
+qint32 FrmDatos430::csdeRegistro() const
+{
+    return registro().CSDE();
+}
+
+void FrmDatos430::showEvent(QShowEvent *evento)
+{
+    PantallaDeclaracion::showEvent(evento);
+    m_lineas[LIQUIDACION].base->setFocus(Qt::OtherFocusReason);
+}
+
+bool FrmDatos430::ValidarCampos()
+{
+    const qint16 codigo = registro().ValidarDatos430(registro().RegistroValidar());
+    if (codigo == 1 || codigo == 2) {
+        aviso(msj(Msj::ErrorRectificacion430));
+        m_lineas[RECTIFICACION].base->setFocus(Qt::OtherFocusReason);
+    }
+    return codigo == 0;
+}
+
+qint32 FrmDatos430::GuardarDeclaracion()
+{
+    return registro().GuardarDeclaracion(registro().RegistroGuardar());
+}
+
+void FrmDatos430::aceptar()
+{
+    if (!ValidarCampos())
+        return;
+    if (const qint32 csde = GuardarDeclaracion(); csde > 0)
+        entregar(registro().MODO(), csde);
+}

@@ -1,0 +1,9 @@
+#include "declarations/FrmDatos480b.h"
+
+FrmDatos480b::FrmDatos480b(QWidget *padre)
+    : PaginaClases(u"FrmDatos480b"_qs, Msj::Titulo480b, 2, Pantalla::Datos480a, Pantalla::Datos480c,
+                   padre)
+{
+    Anadir_captions();
+    PresentaDatos();
+}

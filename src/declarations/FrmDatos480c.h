@@ -1,0 +1,41 @@
+#pragma once
+
+#include "declarations/Pantalla480.h"
+
+class PanelMensuales;
+class QGridLayout;
+class QLabel;
+
+/// Third page of a 480: totals, annual liquidation and the exercise's monthly returns; saves.
+class FrmDatos480c : public Pantalla480
+{
+    Q_OBJECT
+
+public:
+    explicit FrmDatos480c(QWidget *padre = nullptr);
+
+    void Anadir_captions() override;
+
+protected:
+    void PresentaDatos() override;
+    void alCambiarIdioma() override;
+    void showEvent(QShowEvent *evento) override;
+
+private:
+    struct Casilla
+    {
+        int numero;
+        CajaImporte *caja;
+    };
+
+    void disponer(QGridLayout *rejilla);
+    CajaImporte *caja(int numero) const;
+    bool ValidarCampos();
+    qint32 GuardarDeclaracion();
+    void aceptar();
+
+    QList<Casilla> m_casillas;
+    QList<std::pair<QLabel *, Msj>> m_etiquetas;
+    QLabel *m_lblDiferencia;
+    PanelMensuales *m_mensuales;
+};

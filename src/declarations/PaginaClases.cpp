@@ -1,0 +1,90 @@
+#include "declarations/PaginaClases.h"
+
+#include "core/Textos.h"
+#include "declarations/cDatos480.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+static constexpr Msj Columnas[] = {Msj::NoExento, Msj::Exento};
+static constexpr int SangriaGrupo = 18;
+
+static const Clase480 &datosClase(int clase)
+{
+    return Clases480.at(static_cast<size_t>(clase));
+}
+
+PaginaClases::PaginaClases(const QString &nombre, Msj titulo, int pagina, Pantalla anterior,
+                           Pantalla siguiente, QWidget *padre)
+    : Pantalla480(nombre, titulo, anterior, siguiente, padre)
+{
+    auto *rejilla = new QGridLayout;
+    rejilla->setHorizontalSpacing(10);
+    rejilla->setVerticalSpacing(5);
+    rejilla->setColumnStretch(0, 1);
+    for (int columna = 0; columna < 2; ++columna) {
+        m_columnas[columna] = new QLabel(this);
+        rejilla->addWidget(m_columnas[columna], 0, 2 + 2 * columna, Qt::AlignRight);
+    }
+    int fila = 1;
+    for (int clase = 0; clase < Reg480::Clases; ++clase)
+        if (paginaClase(clase) == pagina)
+            fila = crearLinea(rejilla, fila, clase);
+    m_cuerpo->addLayout(rejilla);
+    m_cuerpo->addStretch(1);
+}
+
+/// Adds a class, with its heading when it is the first one under it; the next free row.
+int PaginaClases::crearLinea(QGridLayout *rejilla, int fila, int clase)
+{
+    const auto &datos = datosClase(clase);
+    if (datos.grupo && datosClase(clase - 1).grupo != datos.grupo) {
+        m_grupos.append({new QLabel(this), *datos.grupo});
+        rejilla->addWidget(m_grupos.last().first, fila++, 0);
+    }
+    Linea linea{clase, new QLabel(this), {}};
+    linea.etiqueta->setIndent(datos.grupo ? SangriaGrupo : 0);
+    rejilla->addWidget(linea.etiqueta, fila, 0);
+    for (int columna = 0; columna < 2; ++columna) {
+        const int numero = Reg480::casilla(clase, columna);
+        auto *casilla = new QLabel(QString::number(numero).rightJustified(2, u'0'), this);
+        casilla->setEnabled(false);
+        linea.cajas[columna] = cajaNumero(controlClase(clase, columna), numero);
+        rejilla->addWidget(casilla, fila, 1 + 2 * columna, Qt::AlignRight);
+        rejilla->addWidget(linea.cajas[columna], fila, 2 + 2 * columna);
+    }
+    m_lineas.append(linea);
+    return fila + 1;
+}
+
+void PaginaClases::Anadir_captions()
+{
+    Pantalla480::Anadir_captions();
+    for (int columna = 0; columna < 2; ++columna)
+        m_columnas[columna]->setText(msj(Columnas[columna]));
+    for (const auto &[etiqueta, texto] : std::as_const(m_grupos))
+        etiqueta->setText(msj(texto));
+    for (const auto &linea : std::as_const(m_lineas)) {
+        const auto &datos = datosClase(linea.clase);
+        const QString grupo = datos.grupo ? msj(*datos.grupo) + u", "_qs : QString();
+        linea.etiqueta->setText(msj(datos.etiqueta));
+        for (int columna = 0; columna < 2; ++columna)
+            linea.cajas[columna]->setAccessibleName(grupo + msj(datos.etiqueta) + u": "_qs
+                                                    + msj(Columnas[columna]));
+    }
+}
+
+void PaginaClases::PresentaDatos()
+{
+    for (const auto &linea : std::as_const(m_lineas))
+        for (int columna = 0; columna < 2; ++columna)
+            linea.cajas[columna]->mostrarImporte(
+                registro().casilla(Reg480::casilla(linea.clase, columna)));
+}
+
+void PaginaClases::showEvent(QShowEvent *evento)
+{
+    Pantalla480::showEvent(evento);
+    m_lineas.first().cajas[0]->setFocus(Qt::OtherFocusReason);
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "declarations/Pantalla480.h"
+
+#include <QList>
+
+class QGridLayout;
+class QLabel;
+
+/// A page with the boxes of its classes of insurance, two columns, from the table Clases480.
+class PaginaClases : public Pantalla480
+{
+    Q_OBJECT
+
+protected:
+    PaginaClases(const QString &nombre, Msj titulo, int pagina, Pantalla anterior,
+                 Pantalla siguiente, QWidget *padre);
+
+    void Anadir_captions() override;
+    void PresentaDatos() override;
+    void showEvent(QShowEvent *evento) override;
+
+private:
+    struct Linea
+    {
+        int clase;
+        QLabel *etiqueta;
+        CajaImporte *cajas[2];
+    };
+
+    int crearLinea(QGridLayout *rejilla, int fila, int clase);
+
+    QLabel *m_columnas[2];
+    QList<Linea> m_lineas;
+    QList<std::pair<QLabel *, Msj>> m_grupos;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "declarations/Mensuales430.h"
+
+#include <QWidget>
+
+class GraficoCuotas;
+class QLabel;
+class QTreeWidget;
+class cDatos480;
+
+/// The exercise's monthly 430 returns: a list by month, the year's totals under it, and a picture
+/// of the quotas beside it; or a line that says that there are none.
+class PanelMensuales : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PanelMensuales(QWidget *padre = nullptr);
+
+    void cargar(const cDatos480 &registro);
+    void Anadir_captions();
+
+private:
+    void mostrar();
+
+    QLabel *m_titulo;
+    QTreeWidget *m_lst430;
+    QLabel *m_lblNo430;
+    QLabel *m_lblTotales;
+    GraficoCuotas *m_grafico;
+    std::optional<Mensuales430> m_anno;
+};

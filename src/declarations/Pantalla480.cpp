@@ -1,0 +1,62 @@
+#include "declarations/Pantalla480.h"
+
+#include "core/Textos.h"
+#include "core/Unico.h"
+#include "declarations/cDatos480.h"
+
+#include <QPushButton>
+
+Pantalla480::Pantalla480(const QString &nombre, Msj titulo, Pantalla anterior, Pantalla siguiente,
+                         QWidget *padre)
+    : PantallaDeclaracion(nombre, padre)
+    , m_titulo(titulo)
+{
+    if (anterior != Pantalla::Ninguna) {
+        m_cmdanterior = m_botones->anadir(u"cmdanterior"_qs, u"picant"_qs, Icono::Anterior);
+        alPulsar(m_cmdanterior, [this, anterior] { cerrarA(anterior); });
+    }
+    if (siguiente != Pantalla::Ninguna) {
+        m_cmdSiguiente = m_botones->anadir(u"cmdSiguiente"_qs, u"PicSig"_qs, Icono::Siguiente);
+        alPulsar(m_cmdSiguiente, [this, siguiente] { cerrarA(siguiente); });
+    } else {
+        m_cmdAceptar = m_botones->anadir(u"cmdAceptar"_qs, u"PicAce"_qs, Icono::Aceptar);
+    }
+    m_cmdCancelar = m_botones->anadir(u"cmdCancelar"_qs, u"Piccan"_qs, Icono::Cancelar);
+    alPulsarSinConfirmar(m_cmdCancelar, [this] { cerrarComoCancelar(); });
+}
+
+cDatos480 &Pantalla480::registro()
+{
+    return unico::la<cDatos480>();
+}
+
+CajaImporte *Pantalla480::cajaNumero(const QString &nombre, int numero)
+{
+    auto *caja = cajaEntrada(nombre, registro(), [numero](cDatos480 &r, double centimos) {
+        r.casilla(numero, centimos);
+        r.MODIFICADO(true);
+    });
+    return caja;
+}
+
+void Pantalla480::Anadir_captions()
+{
+    PantallaDeclaracion::Anadir_captions();
+    setWindowTitle(msj(m_titulo));
+    if (m_cmdanterior) {
+        m_cmdanterior->setText(msj(Msj::BotonAnterior));
+        m_cmdanterior->setToolTip(msj(Msj::PistaAnterior));
+    }
+    if (m_cmdSiguiente) {
+        m_cmdSiguiente->setText(msj(Msj::BotonSiguiente));
+        m_cmdSiguiente->setToolTip(msj(Msj::PistaSiguiente));
+    }
+    captionsAceptarCancelar(m_cmdAceptar, m_cmdCancelar);
+    if (m_cmdAceptar)
+        m_cmdAceptar->setToolTip(msj(Msj::PistaGuardarDeclaracion));
+}
+
+qint32 Pantalla480::csdeRegistro() const
+{
+    return registro().CSDE();
+}
