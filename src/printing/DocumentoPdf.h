@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <functional>
+
+class QPagedPaintDevice;
+class TrabajoImpresion;
+
+/// A PDF drawn in memory by `dibujar`; empty when the drawing failed.
+QByteArray documentoPdf(const QString &titulo,
+                        const std::function<bool(QPagedPaintDevice &)> &dibujar);
+
+/// Writes a PDF so that the file at `ruta` is either the old one or the whole new one. Returns why
+/// it could not be written, in the session's language; empty when it was.
+QString guardarPdf(const QString &ruta, const QByteArray &contenido);
+
+/// Files for `copias` when the user has chosen `ruta`: that one for all of them together, or one a
+/// copy, whose names end in the copy's code.
+QStringList rutasPdf(const QString &ruta, const QStringList &copias, bool unoSolo);
+
+/// Saves the copies of a job in `rutas`: all in the first, or one in each. Everything is drawn
+/// before anything is written. Returns why it failed, in the session's language; empty when all is
+/// saved.
+QString guardarPdfs(TrabajoImpresion &trabajo, const QStringList &rutas);

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "printing/ValoresImpreso.h"
+
+class Lienzo;
+
+/// Height of the letterhead, which stands above the top of a form's header section.
+inline constexpr double AltoMembrete = 18;
+
+/// Letterhead of both forms: arms, treasury, department, tax and the model's number.
+void dibujarMembrete(Lienzo &lienzo, const ValoresImpreso &impreso, QStringView modelo);

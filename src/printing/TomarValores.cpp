@@ -1,0 +1,122 @@
+#include "printing/TomarValores.h"
+
+#include "core/Importe.h"
+#include "core/Periodos.h"
+#include "core/Servicios.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+#include "core/cFecha.h"
+#include "dataservice/SvrKtComunLib.h"
+#include "declarants/cDecDatos.h"
+#include "declarants/cDecResumen.h"
+#include "declarations/cDatos430.h"
+#include "declarations/cDatos480.h"
+#include "printing/cImOf.h"
+
+#include <QScopeGuard>
+
+namespace {
+
+/// What `texto` gives in Basque and in Castilian, whatever the session's language.
+template <class Texto> QString enDosIdiomas(Texto texto)
+{
+    const auto restaurar
+        = qScopeGuard([antes = desplazamientoIdioma()] { fijarDesplazamientoIdioma(antes); });
+    fijarDesplazamientoIdioma(10000);
+    const QString euskera = texto();
+    fijarDesplazamientoIdioma(0);
+    const QString castellano = texto();
+    return euskera == castellano ? castellano : euskera + u" / "_qs + castellano;
+}
+
+QString unir(const QStringList &partes)
+{
+    QStringList llenas = partes;
+    llenas.removeAll(QString());
+    return llenas.join(u' ');
+}
+
+QString nombreMunicipio(const cDecDatos &d)
+{
+    if (!d.enProvinciaPropia())
+        return d.NOMMUN();
+    QString nombre;
+    servicioLectura()->ObtenerNombreMunicipio(d.CODMUN(), nombre);
+    return nombre.isEmpty() ? d.NOMMUN() : nombre;
+}
+
+QString nombreProvincia(const cDecDatos &d)
+{
+    if (!d.enProvinciaPropia())
+        return d.NOMPROV();
+    QString nombre;
+    servicioLectura()->ObtenerNombreProvincia(d.CODPROV(), nombre, desplazamientoIdioma());
+    return nombre.isEmpty() ? d.NOMPROV() : nombre;
+}
+
+ValoresImpreso comunes()
+{
+    const auto &d = unico::la<cDecDatos>();
+    const qint32 fecha = unico::la<cImOf>().FECHAPRE();
+    ValoresImpreso v;
+    v.textos = {
+        {Valor::Nif, d.DNI()},
+        {Valor::Nombre, d.NOMBRE()},
+        {Valor::Telefono, d.TELEFONO()},
+        {Valor::Domicilio, unir({d.VIA(), d.DOMICILIO()})},
+        {Valor::Numero,
+         unir({d.NUMERO() == 0 ? QString() : QString::number(d.NUMERO()), d.LETRA()})},
+        {Valor::Piso,
+         unir({d.ESCALERA().isEmpty() ? QString() : u"ESC. "_qs + d.ESCALERA(), d.PISO(),
+               d.MANO()})},
+        {Valor::Municipio, nombreMunicipio(d)},
+        {Valor::CodigoPostal, d.CODPOS()},
+        {Valor::Provincia, nombreProvincia(d)},
+        {Valor::Ejercicio, QString::number(unico::la<cDecResumen>().EJERCICIO())},
+        {Valor::Fecha, fecha == 0 ? QString() : unico::la<cFecha>().LongToString(fecha)},
+    };
+    return v;
+}
+
+} // namespace
+
+ValoresImpreso tomarValores430(const cDatos430 &figuras)
+{
+    ValoresImpreso v = comunes();
+    const int mes = unico::la<cDecResumen>().PERIODO();
+    v.textos[Valor::Periodo] = enDosIdiomas([mes] { return nombreMes(mes); });
+    v.textos[Valor::Importe] = textoImporte(figuras.CUOTATOT());
+    v.casilla(1) = textoImporte(figuras.BASETOT());
+    v.casilla(2) = textoTipo(figuras.TIPOTOT());
+    v.casilla(3) = textoImporte(figuras.CUOTATOT());
+    return v;
+}
+
+ValoresImpreso tomarValores480(const cDatos480 &figuras)
+{
+    ValoresImpreso v = comunes();
+    v.textos[Valor::Periodo] = enDosIdiomas([] { return palabraPeriodicidad(PeriodicidadAnual); });
+    // the third box of a row, held nowhere, is the sum of the other two
+    for (int numero = 1; numero < Casilla480::C73_BA1; numero += 3) {
+        const double sujeta = figuras.casilla(numero);
+        const double exenta = figuras.casilla(numero + 1);
+        v.casilla(numero) = textoImporte(sujeta);
+        v.casilla(numero + 1) = textoImporte(exenta);
+        v.casilla(numero + 2) = textoImporte(sujeta + exenta);
+    }
+    for (int numero = Casilla480::C73_BA1; numero <= Casilla480::Ultima; ++numero)
+        v.casilla(numero) = textoImporte(figuras.casilla(numero));
+    v.casilla(Casilla480::C74_TI1) = textoTipo(figuras.C74_TI1());
+    v.casilla(Casilla480::C77_TI2) = textoTipo(figuras.C77_TI2());
+    return v;
+}
+
+void tomarHacienda(ValoresImpreso &impreso, SvrKtComunLib::cMiscelaneos &servicio)
+{
+    constexpr qint16 DosIdiomas = 1000;
+    const auto restaurar = qScopeGuard([&servicio] { servicio.Idioma(0); });
+    servicio.Idioma(DosIdiomas);
+    const QString titular = servicio.HaciendaFiscalidad();
+    impreso.haciendaEuskera = titular.section(u'\n', 0, 0);
+    impreso.haciendaCastellano = titular.section(u'\n', 1, 1);
+}
