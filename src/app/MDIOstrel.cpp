@@ -1,0 +1,161 @@
+#include "app/MDIOstrel.h"
+
+#include "app/FondoMdi.h"
+#include "app/Mandos.h"
+#include "app/Pantallas.h"
+#include "app/Recientes.h"
+#include "app/Version.h"
+#include "app/frmAbout.h"
+#include "core/CEntrada.h"
+#include "core/Unico.h"
+#include "declarants/cDecDatos.h"
+#include "declarants/cDecLista.h"
+#include "declarants/cDecResumen.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QStatusBar>
+
+MDIOstrel::MDIOstrel(QWidget *padre)
+    : QMainWindow(padre)
+    , m_mandos(new Mandos(this))
+    , m_recientes(new Recientes(m_mandos->menu(0)))
+    , m_version(new QLabel(this))
+{
+    setObjectName(QStringLiteral("MDIOstrel"));
+    setWindowIcon(icono(Icono::Programa));
+    setContextMenuPolicy(Qt::NoContextMenu);
+    auto *area = new FondoMdi(this);
+    setCentralWidget(area);
+    m_pantallas = new Pantallas(area, this);
+    m_version->setContentsMargins(0, 0, 10, 0);
+    statusBar()->addPermanentWidget(m_version);
+    statusBar()->setSizeGripEnabled(false);
+    conectar();
+    Anadir_captions();
+    alCambiarDatos();
+}
+
+MDIOstrel::~MDIOstrel()
+{
+    DescargarTodosLosFormularios();
+}
+
+void MDIOstrel::conectar()
+{
+    connect(m_mandos, &Mandos::pedido, this,
+            [this](Mando mando) { procedimiento(this, [&] { atender(mando); }); });
+    connect(m_recientes, &Recientes::elegido, this,
+            [this](qint32 csco, const QString &dni, const QString &nombre) {
+                procedimiento(this, [&] { verReciente(csco, dni, nombre); });
+            });
+    for (int menu = 0; menu < 2; ++menu) {
+        connect(m_mandos->menu(menu), &QMenu::aboutToShow, this, &MDIOstrel::actualizarEstados);
+    }
+    connect(m_pantallas, &Pantallas::cambiadas, this, &MDIOstrel::actualizarEstados);
+    connect(m_pantallas, &Pantallas::datosCambiados, this, &MDIOstrel::alCambiarDatos);
+}
+
+void MDIOstrel::Anadir_captions()
+{
+    setWindowTitle(msj(Msj::TituloPrograma));
+    m_version->setText(msj(Msj::VersionPrograma, versionPrograma()));
+    m_mandos->Anadir_captions();
+    actualizarEstados();
+}
+
+void MDIOstrel::CambiarIdioma()
+{
+    for (auto *ventana : QApplication::topLevelWidgets()) {
+        QEvent cambio(QEvent::LanguageChange);
+        QApplication::sendEvent(ventana, &cambio);
+    }
+}
+
+void MDIOstrel::changeEvent(QEvent *evento)
+{
+    if (evento->type() == QEvent::LanguageChange)
+        Anadir_captions();
+    QMainWindow::changeEvent(evento);
+}
+
+void MDIOstrel::closeEvent(QCloseEvent *evento)
+{
+    DescargarTodosLosFormularios();
+    evento->accept();
+}
+
+void MDIOstrel::DescargarTodosLosFormularios()
+{
+    m_pantallas->terminar();
+}
+
+void MDIOstrel::atender(Mando mando)
+{
+    switch (mando) {
+    case Mando::Nuevo:
+        return nuevoDeclarante();
+    case Mando::Abrir:
+        return listaDeclarantes(u"C"_qs);
+    case Mando::Eliminar:
+        return listaDeclarantes(u"E"_qs);
+    case Mando::AcercaDe:
+        return (new frmAbout(this))->open();
+    case Mando::Salir:
+        close();
+        return;
+    default: // the entry is disabled
+        return;
+    }
+}
+
+void MDIOstrel::nuevoDeclarante()
+{
+    unico::la<cDecDatos>().MODO(u"A"_qs);
+    m_pantallas->abrir(Pantalla::DatosDeclarante);
+}
+
+void MDIOstrel::listaDeclarantes(const QString &modo)
+{
+    auto &lista = unico::la<cDecLista>();
+    if (lista.MODO() != modo)
+        m_pantallas->cerrar(Pantalla::ListaDeclarantes);
+    // the declarant whose summary is open might be the one deleted
+    if (modo == u"E")
+        m_pantallas->cerrar(Pantalla::Resumen);
+    lista.MODO(modo);
+    m_pantallas->abrir(Pantalla::ListaDeclarantes);
+}
+
+void MDIOstrel::verReciente(qint32 csco, const QString &dni, const QString &nombre)
+{
+    auto &resumen = unico::la<cDecResumen>();
+    resumen.ENTRADA(u"A"_qs);
+    resumen.TomarDeclarante(csco, dni, nombre);
+    m_pantallas->abrir(Pantalla::Resumen);
+}
+
+void MDIOstrel::alCambiarDatos()
+{
+    m_recientes->cargar();
+    actualizarEstados();
+}
+
+void MDIOstrel::actualizarEstados()
+{
+    Situacion situacion;
+    situacion.editando = m_pantallas->editando();
+    try {
+        auto &entrada = unico::la<CEntrada>();
+        entrada.InicializarContadores();
+        situacion.hayDeclarantes = entrada.NUMDECLA() >= 1;
+        situacion.motivoSinDeclarantes = msj(Msj::SinDeclarantes);
+    } catch (...) {
+        // opening a menu is no moment for a message box: the entries say why they are disabled
+        situacion.motivoSinDeclarantes = textoFalloActual();
+    }
+    m_mandos->aplicar(situacion);
+    m_recientes->aplicar(situacion.editando ? msj(Msj::DeshabilitadoEnEdicion) : QString());
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "app/TablaMenus.h"
+
+#include <QMainWindow>
+
+class Mandos;
+class Pantallas;
+class QLabel;
+class Recientes;
+
+/// The main window: menus and tool bar lead to the screens, which open inside it.
+class MDIOstrel : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MDIOstrel(QWidget *padre = nullptr);
+    ~MDIOstrel() override;
+
+    /// Sets every text in the session's language.
+    void Anadir_captions();
+    /// Takes the session's language to every window and screen; called after a change of it.
+    void CambiarIdioma();
+
+protected:
+    void changeEvent(QEvent *evento) override;
+    void closeEvent(QCloseEvent *evento) override;
+
+private:
+    void conectar();
+    void atender(Mando mando);
+    void nuevoDeclarante();
+    void listaDeclarantes(const QString &modo);
+    void verReciente(qint32 csco, const QString &dni, const QString &nombre);
+    void DescargarTodosLosFormularios();
+    void alCambiarDatos();
+    void actualizarEstados();
+
+    Mandos *m_mandos;
+    Recientes *m_recientes;
+    Pantallas *m_pantallas;
+    QLabel *m_version;
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "app/TablaMenus.h"
+
+#include <QHash>
+#include <QObject>
+
+class QAction;
+class QMainWindow;
+class QMenu;
+class QToolBar;
+
+/// What decides whether an entry can be used.
+struct Situacion
+{
+    bool editando = false; ///< an open screen owns its record
+    bool hayDeclarantes = false;
+    QString motivoSinDeclarantes; ///< why not
+};
+
+/// The menus and the tool bar of the main window, made from their tables.
+class Mandos : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Mandos(QMainWindow *ventana);
+
+    QMenu *menu(int posicion) const { return m_menus.at(posicion); }
+    void Anadir_captions();
+    void aplicar(const Situacion &situacion);
+
+Q_SIGNALS:
+    void pedido(Mando mando);
+
+private:
+    void crearMenus(QMainWindow *ventana);
+    void crearBarra(QMainWindow *ventana);
+
+    QList<QMenu *> m_menus;
+    QHash<Mando, QAction *> m_acciones;
+    QToolBar *m_barra = nullptr;
+    Situacion m_situacion;
+};
+
+/// Enables an action and gives it its tip; `motivo`, when not empty, disables it and is the tip.
+void habilitar(QAction *accion, const QString &motivo, const QString &pista);

@@ -1,0 +1,47 @@
+#include "app/MarcoInterior.h"
+
+#include "core/Textos.h"
+#include "widgets/Iconos.h"
+
+#include <QEvent>
+#include <QMenu>
+
+MarcoInterior::MarcoInterior(QWidget *pantalla)
+{
+    setWidget(pantalla);
+    setObjectName(u"marco_"_qs + pantalla->objectName());
+    setAttribute(Qt::WA_DeleteOnClose);
+    if (pantalla->windowIcon().isNull() || !pantalla->testAttribute(Qt::WA_SetWindowIcon))
+        setWindowIcon(icono(Icono::Programa));
+    traducirMenu();
+}
+
+void MarcoInterior::colocar(const QRect &libre, bool amplia)
+{
+    constexpr QSize maximo(1040, 660);
+    const QSize margen(40, 30);
+    QSize tamano = sizeHint();
+    if (amplia)
+        tamano = tamano.expandedTo((libre.size() - margen).boundedTo(maximo));
+    tamano = tamano.boundedTo(libre.size()).expandedTo(minimumSizeHint());
+    resize(tamano);
+    const QSize resto = (libre.size() - tamano).expandedTo({0, 0}) / 2;
+    move(libre.topLeft() + QPoint(resto.width(), resto.height()));
+}
+
+void MarcoInterior::changeEvent(QEvent *evento)
+{
+    QMdiSubWindow::changeEvent(evento);
+    if (evento->type() == QEvent::LanguageChange)
+        traducirMenu();
+}
+
+void MarcoInterior::traducirMenu()
+{
+    // Qt gives the entries no names; their order is fixed
+    int puesto = 0;
+    for (auto *accion : systemMenu()->actions()) {
+        if (!accion->isSeparator() && puesto < 7)
+            accion->setText(msjDesde(Msj::MarcoRestaurar, puesto++));
+    }
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QMdiSubWindow>
+
+/// Frame of a screen inside the main window, with its menu in the session's language.
+class MarcoInterior : public QMdiSubWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MarcoInterior(QWidget *pantalla);
+
+    /// Places itself in the middle of `libre`: as large as its screen asks for, or nearly filling
+    /// it when `amplia`.
+    void colocar(const QRect &libre, bool amplia);
+
+protected:
+    void changeEvent(QEvent *evento) override;
+
+private:
+    void traducirMenu();
+};

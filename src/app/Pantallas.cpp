@@ -1,0 +1,125 @@
+#include "app/Pantallas.h"
+
+#include "app/MarcoInterior.h"
+#include "app/TablaPantallas.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+#include <algorithm>
+
+Pantallas::Pantallas(QMdiArea *area, QWidget *ventana)
+    : QObject(ventana)
+    , m_area(area)
+    , m_ventana(ventana)
+{
+}
+
+PantallaBase *Pantallas::pantalla(Pantalla cual) const
+{
+    auto *abierta = m_abiertas.value(cual);
+    // one that is closing is hidden, and deleted soon
+    return abierta && !abierta->isHidden() ? abierta : nullptr;
+}
+
+void Pantallas::abrir(Pantalla cual)
+{
+    if (m_terminado || cual == Pantalla::Ninguna)
+        return;
+    const auto *datos = datosPantalla(cual);
+    procedimiento(m_ventana, [&] {
+        if (datos->caduca && datos->caduca())
+            cerrar(cual);
+        if (auto *abierta = pantalla(cual))
+            traerDelante(abierta);
+        else
+            mostrarNueva(*datos);
+    });
+    Q_EMIT cambiadas();
+}
+
+void Pantallas::traerDelante(PantallaBase *abierta)
+{
+    if (!abierta->edita())
+        abierta->Actualizar();
+    if (auto *marco = qobject_cast<QMdiSubWindow *>(abierta->parentWidget())) {
+        if (marco->isMinimized())
+            marco->showNormal();
+        m_area->setActiveSubWindow(marco);
+    } else {
+        abierta->activateWindow();
+    }
+}
+
+void Pantallas::mostrarNueva(const DatosPantalla &datos)
+{
+    const bool modal = datos.marco == DatosPantalla::Modal;
+    auto *nueva = datos.crear(modal ? m_ventana : nullptr);
+    m_abiertas.insert(datos.cual, nueva);
+    // after the screen's own work is over, so that none is opened in the middle of a closing
+    connect(nueva, &PantallaBase::mostrar, this, &Pantallas::abrir, Qt::QueuedConnection);
+    connect(nueva, &PantallaBase::datosCambiados, this, [this, nueva] { avisarCambio(nueva); });
+    connect(nueva, &QObject::destroyed, this, [this, nueva] { olvidar(nueva); });
+    if (modal) {
+        nueva->setWindowFlag(Qt::Dialog);
+        nueva->setWindowModality(Qt::WindowModal);
+        nueva->setAttribute(Qt::WA_DeleteOnClose);
+        nueva->show();
+    } else {
+        enmarcar(nueva, datos.marco == DatosPantalla::Amplio);
+    }
+}
+
+void Pantallas::enmarcar(PantallaBase *nueva, bool amplia)
+{
+    auto *marco = new MarcoInterior(nueva);
+    m_area->addSubWindow(marco);
+    marco->colocar(m_area->viewport()->rect(), amplia);
+    marco->show();
+}
+
+void Pantallas::cerrar(Pantalla cual)
+{
+    auto *abierta = pantalla(cual);
+    if (!abierta)
+        return;
+    abierta->disconnect(this);
+    auto *marco = qobject_cast<QMdiSubWindow *>(abierta->parentWidget());
+    (marco ? static_cast<QWidget *>(marco) : abierta)->close();
+    m_abiertas.remove(cual);
+    Q_EMIT cambiadas();
+}
+
+void Pantallas::olvidar(const PantallaBase *desaparecida)
+{
+    m_abiertas.removeIf([=](const auto &entrada) { return entrada.value() == desaparecida; });
+    Q_EMIT cambiadas();
+}
+
+void Pantallas::terminar()
+{
+    m_terminado = true;
+    for (const Pantalla cual : m_abiertas.keys())
+        cerrar(cual);
+    for (auto *cerrandose : std::as_const(m_abiertas))
+        cerrandose->disconnect(this);
+    m_abiertas.clear();
+}
+
+bool Pantallas::editando() const
+{
+    return std::any_of(m_abiertas.keyBegin(), m_abiertas.keyEnd(), [this](Pantalla cual) {
+        const auto *abierta = pantalla(cual);
+        return abierta && abierta->edita();
+    });
+}
+
+void Pantallas::avisarCambio(const PantallaBase *autora)
+{
+    for (const Pantalla cual : m_abiertas.keys()) {
+        auto *otra = pantalla(cual);
+        if (otra && otra != autora && !otra->edita())
+            procedimiento(m_ventana, [otra] { otra->Actualizar(); });
+    }
+    Q_EMIT datosCambiados();
+}

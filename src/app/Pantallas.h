@@ -1,0 +1,43 @@
+#pragma once
+
+#include "widgets/PantallaBase.h"
+
+#include <QHash>
+
+class QMdiArea;
+class QMdiSubWindow;
+
+/// The screens open inside the main window, each at most once. It opens what a screen asks for.
+class Pantallas : public QObject
+{
+    Q_OBJECT
+
+public:
+    Pantallas(QMdiArea *area, QWidget *ventana);
+
+    /// Opens a screen, or brings it forward and shows its data again when it is open.
+    void abrir(Pantalla cual);
+    /// Closes a screen and does not open what it asks for.
+    void cerrar(Pantalla cual);
+    /// Closes them all; from then on none opens.
+    void terminar();
+    /// Whether a screen is open that owns its record.
+    bool editando() const;
+
+Q_SIGNALS:
+    void cambiadas(); ///< one was opened or closed
+    void datosCambiados(); ///< stored data changed
+
+private:
+    PantallaBase *pantalla(Pantalla cual) const;
+    void mostrarNueva(const struct DatosPantalla &datos);
+    void enmarcar(PantallaBase *nueva, bool amplia);
+    void traerDelante(PantallaBase *abierta);
+    void olvidar(const PantallaBase *desaparecida);
+    void avisarCambio(const PantallaBase *autora);
+
+    QMdiArea *m_area;
+    QWidget *m_ventana;
+    QHash<Pantalla, PantallaBase *> m_abiertas;
+    bool m_terminado = false;
+};

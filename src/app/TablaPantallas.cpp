@@ -1,0 +1,41 @@
+#include "app/TablaPantallas.h"
+
+#include "core/Unico.h"
+#include "declarants/FrmDecLista.h"
+#include "declarants/FrmDecResumen.h"
+#include "declarants/cDecResumen.h"
+#include "declarants/frmDecDatos.h"
+#include "declarations/FrmDatos430.h"
+#include "declarations/FrmDatos480a.h"
+#include "declarations/FrmDatos480b.h"
+#include "declarations/FrmDatos480c.h"
+#include "printing/FrmImOf.h"
+
+#include <algorithm>
+
+template <class T> static PantallaBase *crear(QWidget *padre)
+{
+    return new T(padre);
+}
+
+/// The summary begun anew, maybe with another declarant.
+static bool resumenNuevo()
+{
+    return unico::la<cDecResumen>().ENTRADA() == u"A";
+}
+
+static constexpr DatosPantalla Tabla[] = {
+    {Pantalla::DatosDeclarante, crear<frmDecDatos>, DatosPantalla::Ajustado},
+    {Pantalla::ListaDeclarantes, crear<FrmDecLista>, DatosPantalla::Amplio},
+    {Pantalla::Resumen, crear<FrmDecResumen>, DatosPantalla::Amplio, resumenNuevo},
+    {Pantalla::Datos430, crear<FrmDatos430>, DatosPantalla::Ajustado},
+    {Pantalla::Datos480a, crear<FrmDatos480a>, DatosPantalla::Ajustado},
+    {Pantalla::Datos480b, crear<FrmDatos480b>, DatosPantalla::Ajustado},
+    {Pantalla::Datos480c, crear<FrmDatos480c>, DatosPantalla::Ajustado},
+    {Pantalla::Impresion, crear<FrmImOf>, DatosPantalla::Modal},
+};
+
+const DatosPantalla *datosPantalla(Pantalla cual)
+{
+    return std::ranges::find(Tabla, cual, &DatosPantalla::cual);
+}

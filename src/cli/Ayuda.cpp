@@ -1,0 +1,91 @@
+#include "cli/Ayuda.h"
+
+#include "cli/Ordenes.h"
+#include "core/Textos.h"
+
+#include <algorithm>
+
+static QString conValor(const Opcion &opcion)
+{
+    if (opcion.nombre == Comun::Ayuda)
+        return u"-h, --help"_qs;
+    const QString nombre = conGuiones(opcion.nombre);
+    return opcion.valor.isEmpty() ? nombre : nombre + u' ' + opcion.valor.toString();
+}
+
+/// The parts one after the other, in lines of the width of a terminal.
+static QString plegar(const QStringList &partes)
+{
+    static constexpr qsizetype Ancho = 79;
+    QString texto;
+    QString linea = u" "_qs;
+    for (const QString &parte : partes) {
+        if (linea.size() + 1 + parte.size() > Ancho) {
+            texto += linea + u'\n';
+            linea = u"        "_qs;
+        }
+        linea += u' ' + parte;
+    }
+    return texto + linea;
+}
+
+static QString usoDe(const Orden &orden)
+{
+    QStringList partes{u"ostrel"_qs, orden.palabras.toString()};
+    if (!orden.argumento.isEmpty())
+        partes += orden.argumento.toString();
+    for (const Opcion &opcion : orden.opciones) {
+        const QString texto = conValor(opcion);
+        if (opcion.uso == Opcion::Obligatoria)
+            partes += texto;
+        else
+            partes += u'[' + texto + (opcion.uso == Opcion::Repetible ? u" …]"_qs : u"]"_qs);
+    }
+    return plegar(partes);
+}
+
+static QStringList lineasOpciones(std::span<const Opcion> opciones, qsizetype ancho)
+{
+    QStringList lineas;
+    for (const Opcion &opcion : opciones)
+        lineas += u"  "_qs + conValor(opcion).leftJustified(ancho + 2) + msj(opcion.ayuda);
+    return lineas;
+}
+
+static qsizetype anchoOpciones(std::span<const Opcion> opciones)
+{
+    qsizetype ancho = 0;
+    for (const Opcion &opcion : opciones)
+        ancho = std::max(ancho, conValor(opcion).size());
+    return ancho;
+}
+
+static QString ayudaDe(const Orden &orden)
+{
+    const auto ancho = std::max(anchoOpciones(orden.opciones), anchoOpciones(opcionesComunes()));
+    QStringList lineas{msj(orden.ayuda), QString(), msj(Msj::CliUso), usoDe(orden), QString()};
+    lineas += lineasOpciones(orden.opciones, ancho);
+    lineas += lineasOpciones(opcionesComunes(), ancho);
+    return lineas.join(u'\n');
+}
+
+static QString ayudaGeneral(const QStringList &palabras)
+{
+    const QString comienzo = palabras.join(u' ');
+    const bool alguna = std::ranges::any_of(
+        ordenes(), [&](const Orden *orden) { return orden->palabras.startsWith(comienzo); });
+    QStringList lineas{msj(Msj::CliUso), u"  ostrel [--carpeta DIR]"_qs,
+                       u"      "_qs + msj(Msj::CliAyudaVentana)};
+    for (const Orden *orden : ordenes())
+        if (!alguna || orden->palabras.startsWith(comienzo))
+            lineas += {usoDe(*orden), u"      "_qs + msj(orden->ayuda)};
+    lineas += QString();
+    lineas += lineasOpciones(opcionesComunes(), anchoOpciones(opcionesComunes()));
+    return lineas.join(u'\n');
+}
+
+QString textoAyuda(const QStringList &palabras)
+{
+    const Orden *orden = buscarOrden(palabras);
+    return orden ? ayudaDe(*orden) : ayudaGeneral(palabras);
+}

@@ -1,0 +1,101 @@
+#include "cli/Cli.h"
+
+#include "cli/Ayuda.h"
+#include "cli/Linea.h"
+#include "cli/Ordenes.h"
+#include "core/CEntrada.h"
+#include "core/Rutas.h"
+#include "core/Sesion.h"
+#include "core/TextoFallo.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QTextStream>
+
+#include <cstdio>
+
+bool hayOrden(const QStringList &argumentos)
+{
+    const Linea linea = leerLinea(argumentos);
+    const auto &opciones = linea.argumentos.opciones;
+    const bool soloCarpeta
+        = opciones.size() == 1 && linea.argumentos.valores(Comun::Carpeta).size() == 1;
+    return linea.fallo || !linea.palabras.isEmpty() || !(opciones.isEmpty() || soloCarpeta);
+}
+
+bool dibujaPaginas(const QStringList &argumentos)
+{
+    return leerLinea(argumentos).palabras.value(0) == u"imprimir";
+}
+
+std::optional<QString> carpetaPedida(const QStringList &argumentos)
+{
+    const QString carpeta = leerLinea(argumentos).argumentos.valor(Comun::Carpeta);
+    return carpeta.isEmpty() ? std::nullopt : std::optional(carpeta);
+}
+
+/// Help and wrong usage speak the stored language too, but create and report nothing.
+static void leerIdiomaGuardado()
+{
+    try {
+        auto &entrada = unico::la<CEntrada>();
+        entrada.LeerIdioma();
+        entrada.AplicarIdioma();
+    } catch (const std::exception &) {
+        return;
+    }
+}
+
+static Resultado malUso(const Linea::Fallo &fallo)
+{
+    leerIdiomaGuardado();
+    return malUso(msj(fallo.cual, fallo.dato) + u'\n' + msj(Msj::CliVerAyuda));
+}
+
+static Resultado informar(const Linea &linea)
+{
+    leerIdiomaGuardado();
+    if (linea.argumentos.tiene(Comun::Ayuda))
+        return hecho(textoAyuda(linea.palabras));
+    return hecho(msj(Msj::TituloPrograma) + u' ' + QCoreApplication::applicationVersion());
+}
+
+static Resultado enSesion(const Orden &orden, const Argumentos &argumentos)
+{
+    if (!QFileInfo(rutas().programa).isDir())
+        return rechazado(msj(Msj::CliCarpetaNoExiste, rutas().programa));
+    const InicioSesion inicio = iniciarSesion();
+    if (inicio.terminar || !inicio.fallos.isEmpty())
+        return rechazado(inicio.fallos.join(u'\n'));
+    try {
+        return orden.ejecutar(argumentos);
+    } catch (...) {
+        return rechazado(msj(orden.alFallar, textoFalloActual()));
+    }
+}
+
+static Resultado resolver(const QStringList &argumentos)
+{
+    Linea linea = leerLinea(argumentos);
+    if (linea.argumentos.tiene(Comun::Ayuda) || linea.argumentos.tiene(Comun::Version))
+        return informar(linea);
+    if (linea.fallo)
+        return malUso(*linea.fallo);
+    const Orden *orden = buscarOrden(linea.palabras);
+    if (!orden)
+        return malUso({Msj::CliOrdenDesconocida, linea.palabras.join(u' ')});
+    if (const auto fallo = ajustar(linea, *orden))
+        return malUso(*fallo);
+    return enSesion(*orden, linea.argumentos);
+}
+
+int ejecutarOrden(const QStringList &argumentos)
+{
+    const Resultado resultado = resolver(argumentos);
+    QTextStream destino(resultado.salida == Salida::Hecho ? stdout : stderr);
+    if (!resultado.texto.isEmpty())
+        destino << resultado.texto << '\n';
+    return static_cast<int>(resultado.salida);
+}

@@ -1,0 +1,22 @@
+#include "cli/Orden.h"
+#include "core/CEntrada.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+
+static Resultado idioma(const Argumentos &argumentos)
+{
+    auto &entrada = unico::la<CEntrada>();
+    const QString codigo = argumentos.argumento.toUpper();
+    if (codigo == u"C" || codigo == u"E")
+        entrada.IDI(codigo);
+    else if (!codigo.isEmpty())
+        return malUso(msj(Msj::CliIdiomaNoValido, argumentos.argumento));
+    const bool euskera = entrada.IDI() == u"E";
+    const QString nombre
+        = msj(euskera ? Msj::EleccionIdiomaEuskera : Msj::EleccionIdiomaCastellano);
+    return hecho(msj(Msj::CliIdioma, u"%1 (%2)"_qs.arg(euskera ? u"E"_qs : u"C"_qs, nombre)));
+}
+
+extern constinit const Orden OrdenIdioma = {
+    u"idioma", Msj::AyudaIdioma, u"[C|E]", {}, Msj::NoSePudoGuardar, idioma,
+};

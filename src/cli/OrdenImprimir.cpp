@@ -1,0 +1,146 @@
+#include "cli/Declarante.h"
+#include "cli/Orden.h"
+#include "core/Periodos.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+#include "core/cFecha.h"
+#include "declarants/cDecResumen.h"
+#include "printing/DocumentoPdf.h"
+#include "printing/FechaPresentacion.h"
+#include "printing/SalidaImpresora.h"
+#include "printing/TrabajoImpresion.h"
+#include "printing/cImOf.h"
+
+#include <QDate>
+#include <QDir>
+#include <QFileInfo>
+
+#include <optional>
+
+/// Why the command is refused; nothing when it can go on.
+using Rechazo = std::optional<Resultado>;
+
+static constexpr Opcion Opciones[] = {
+    {u"dni", u"DNI", Msj::AyudaDni, Opcion::Obligatoria},
+    {u"modelo", u"430|480", Msj::AyudaModelo, Opcion::Obligatoria},
+    {u"ejercicio", u"AAAA", Msj::AyudaEjercicio, Opcion::Obligatoria},
+    {u"periodo", u"MM", Msj::AyudaPeriodo},
+    {u"borrador", {}, Msj::AyudaBorrador},
+    {u"copias", u"adm,int", Msj::AyudaCopias},
+    {u"fecha", u"FECHA", Msj::AyudaFecha},
+    {u"pdf", u"SALIDA", Msj::AyudaPdf},
+    {u"imprimir-en", u"IMPRESORA", Msj::AyudaImprimirEn},
+};
+
+/// Finds the return among the declarant's and makes it the header's and the request's.
+static Rechazo tomarDeclaracion(const Argumentos &argumentos)
+{
+    const QString modelo = argumentos.valor(u"modelo");
+    if (modelo == Modelo430 && !argumentos.tiene(u"periodo"))
+        return malUso(msj(Msj::CliFaltaOpcion, conGuiones(u"periodo")));
+    const int ejercicio = argumentos.valor(u"ejercicio").toInt();
+    const int periodo
+        = modelo == Modelo480 ? int(PeriodoAnual) : argumentos.valor(u"periodo").toInt();
+
+    auto &cabecera = unico::la<cDecResumen>();
+    const Filas filas = cabecera.CargarDeclaraciones();
+    using enum FilaDeclaracion::Columna;
+    const auto hallada = std::ranges::find_if(filas, [&](const QVariant &fila) {
+        const auto celdas = fila.toList();
+        return celdas.value(MODELO).toString() == modelo
+            && celdas.value(EJERCICIO).toInt() == ejercicio
+            && celdas.value(PERIODO).toInt() == periodo;
+    });
+    if (hallada == filas.end())
+        return rechazado(msj(Msj::CliDeclaracionNoExiste, modelo, argumentos.valor(u"ejercicio"),
+                             modelo == Modelo480 ? palabraPeriodicidad(PeriodicidadAnual)
+                                                 : argumentos.valor(u"periodo")));
+    const qint32 csde = hallada->toList().value(CSDE).toInt();
+    cabecera.EJERCICIO(static_cast<qint16>(ejercicio));
+    cabecera.CambiarModelo(modelo);
+    cabecera.PERIODO(static_cast<quint8>(periodo));
+    auto &peticion = unico::la<cImOf>();
+    peticion.CSCO(cabecera.CSCO());
+    peticion.CSDE(csde);
+    peticion.MODELO(modelo);
+    return {};
+}
+
+static Rechazo tomarCopias(const Argumentos &argumentos)
+{
+    auto &peticion = unico::la<cImOf>();
+    if (argumentos.tiene(u"borrador")) {
+        peticion.PedirBorrador();
+        return {};
+    }
+    peticion.PedirOficial();
+    if (!argumentos.tiene(u"copias"))
+        return {};
+    QStringList pedidas = argumentos.valor(u"copias").split(u',');
+    peticion.COPIAADM(pedidas.removeAll(u"adm"_qs) > 0 ? u"X"_qs : QString());
+    peticion.COPIAINT(pedidas.removeAll(u"int"_qs) > 0 ? u"X"_qs : QString());
+    if (pedidas.isEmpty())
+        return {};
+    return malUso(msj(Msj::CliCopias));
+}
+
+static Rechazo tomarFecha(const Argumentos &argumentos)
+{
+    auto &peticion = unico::la<cImOf>();
+    if (!argumentos.tiene(u"fecha")) {
+        const QDate hoy = QDate::currentDate();
+        peticion.FECHAPRE(hoy.year() * 10000 + hoy.month() * 100 + hoy.day());
+        return {};
+    }
+    const auto leida = comprobarFechaPresentacion(argumentos.valor(u"fecha"), unico::la<cFecha>());
+    if (!leida.valida())
+        return rechazado(leida.mensaje);
+    peticion.FECHAPRE(leida.fecha);
+    return {};
+}
+
+static Resultado escribirPdf(TrabajoImpresion &trabajo, const QString &salida)
+{
+    const bool esCarpeta = QFileInfo(salida).isDir();
+    const QString ruta
+        = esCarpeta ? QDir(salida).filePath(trabajo.nombreFichero(trabajo.copias())) : salida;
+    const QString motivo = guardarPdfs(trabajo, {ruta});
+    return motivo.isEmpty() ? hecho(msj(Msj::PdfGuardado, QDir::toNativeSeparators(ruta)))
+                            : rechazado(motivo);
+}
+
+static Resultado enviar(TrabajoImpresion &trabajo, const QString &impresora)
+{
+    SalidaImpresora salida;
+    if (!salida.elegir(impresora))
+        return rechazado(msj(Msj::ImpresoraNoExiste, impresora));
+    return salida.imprimir(trabajo) ? hecho(msj(Msj::CliImpreso, impresora))
+                                    : rechazado(msj(Msj::ErrorImpresora, impresora));
+}
+
+static Resultado imprimir(const Argumentos &argumentos)
+{
+    const bool aPdf = argumentos.tiene(u"pdf");
+    if (!aPdf && !argumentos.tiene(u"imprimir-en"))
+        return malUso(msj(Msj::CliPdfOImpresora));
+    if (const QString motivo = tomarDeclarante(argumentos.valor(u"dni")); !motivo.isEmpty())
+        return rechazado(motivo);
+    for (const auto paso : {tomarDeclaracion, tomarCopias, tomarFecha})
+        if (const Rechazo rechazo = paso(argumentos))
+            return *rechazo;
+
+    TrabajoImpresion trabajo(unico::la<cImOf>());
+    Resultado resultado;
+    if (aPdf)
+        resultado = escribirPdf(trabajo, argumentos.valor(u"pdf"));
+    if (resultado.salida == Salida::Hecho && argumentos.tiene(u"imprimir-en")) {
+        const Resultado enviado = enviar(trabajo, argumentos.valor(u"imprimir-en"));
+        resultado.salida = enviado.salida;
+        resultado.texto += (resultado.texto.isEmpty() ? QString() : u"\n"_qs) + enviado.texto;
+    }
+    return resultado;
+}
+
+extern constinit const Orden OrdenImprimir = {
+    u"imprimir", Msj::AyudaImprimir, {}, Opciones, Msj::ImpresionFallida, imprimir,
+};

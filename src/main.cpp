@@ -1,0 +1,42 @@
+#include "app/Arranque.h"
+#include "cli/Cli.h"
+#include "core/Rutas.h"
+#include "server/Registro.h"
+
+#include <QGuiApplication>
+
+#include <memory>
+#include <optional>
+
+static std::unique_ptr<QCoreApplication> nuevaAplicacion(int &argc, char **argv)
+{
+    QStringList argumentos;
+    for (int i = 1; i < argc; ++i)
+        argumentos += QString::fromLocal8Bit(argv[i]);
+    if (!dibujaPaginas(argumentos))
+        return std::make_unique<QCoreApplication>(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+/// Settles the session's paths; a command is carried out here, without a display.
+static std::optional<int> sinVentana(int &argc, char **argv)
+{
+    const auto aplicacion = nuevaAplicacion(argc, argv);
+    const QStringList argumentos = QCoreApplication::arguments().mid(1);
+    fijarRutas(
+        Rutas::desde(carpetaPedida(argumentos).value_or(QCoreApplication::applicationDirPath())));
+    if (!hayOrden(argumentos))
+        return {};
+    registrarServidor();
+    return ejecutarOrden(argumentos);
+}
+
+int main(int argc, char **argv)
+{
+    QCoreApplication::setApplicationVersion(QStringLiteral(OSTREL_VERSION));
+    if (const auto codigo = sinVentana(argc, argv))
+        return *codigo;
+    registrarServidor();
+    return abrirVentana(argc, argv);
+}

@@ -1,0 +1,129 @@
+#include "maintenance/FrmIdioma.h"
+
+#include "core/CEntrada.h"
+#include "core/Servicios.h"
+#include "core/Unico.h"
+#include "widgets/Iconos.h"
+#include "widgets/Procedimiento.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+
+/// A check box does not break its text over lines by itself.
+static QString enLineas(const QString &texto, const QFontMetrics &medida)
+{
+    constexpr int ancho = 400;
+    QStringList lineas(1);
+    for (const QString &palabra : texto.split(u' ')) {
+        const QString larga
+            = lineas.last().isEmpty() ? palabra : QString(lineas.last() + u' ' + palabra);
+        if (medida.horizontalAdvance(larga) <= ancho)
+            lineas.last() = larga;
+        else
+            lineas.append(palabra);
+    }
+    return lineas.join(u'\n');
+}
+
+FrmIdioma::FrmIdioma(QWidget *padre)
+    : QDialog(padre)
+    , m_cmdcastellano(boton("cmdcastellano", Msj::EleccionIdiomaCastellano, u"C"_qs))
+    , m_cmdeuskera(boton("cmdeuskera", Msj::EleccionIdiomaEuskera, u"E"_qs))
+    , m_chkActOnline(new QCheckBox(this))
+    , m_lblAct(new QLabel(msj(Msj::EleccionIdiomaBuscando), this))
+{
+    setObjectName(QStringLiteral("FrmIdioma"));
+    setWindowTitle(msj(Msj::EleccionIdiomaTitulo));
+    setWindowIcon(icono(Icono::Programa));
+    m_lblAct->setObjectName(QStringLiteral("lblAct"));
+    m_lblAct->hide();
+    m_chkActOnline->setObjectName(QStringLiteral("chkActOnline"));
+    m_chkActOnline->setText(enLineas(msj(Msj::EleccionIdiomaActualizaciones), fontMetrics()));
+    m_chkActOnline->setAccessibleName(msj(Msj::EleccionIdiomaActualizaciones));
+    disponer();
+    cargar();
+    connect(m_chkActOnline, &QCheckBox::clicked, this, &FrmIdioma::guardarActOnline);
+}
+
+QPushButton *FrmIdioma::boton(const char *nombre, Msj texto, const QString &codigo)
+{
+    auto *nuevo = new QPushButton(msj(texto), this);
+    nuevo->setObjectName(QString::fromLatin1(nombre));
+    nuevo->setMinimumSize(160, 44);
+    nuevo->setAutoDefault(false);
+    connect(nuevo, &QPushButton::clicked, this, [this, codigo] { elegir(codigo); });
+    return nuevo;
+}
+
+QLayout *FrmIdioma::cabecera()
+{
+    auto *emblema = new QLabel(this);
+    emblema->setPixmap(icono(Icono::Programa).pixmap(QSize(64, 64), devicePixelRatioF()));
+    auto *titulo = new QLabel(msj(Msj::EleccionIdiomaPrograma), this);
+    QFont grande = titulo->font();
+    grande.setPointSizeF(grande.pointSizeF() * 1.4);
+    titulo->setFont(grande);
+    auto *fila = new QHBoxLayout;
+    fila->setSpacing(18);
+    fila->addWidget(emblema);
+    fila->addWidget(titulo, 1);
+    return fila;
+}
+
+void FrmIdioma::disponer()
+{
+    auto *marco = new QGroupBox(msj(Msj::EleccionIdiomaMarco), this);
+    marco->setObjectName(QStringLiteral("Frame1"));
+    auto *botones = new QHBoxLayout(marco);
+    botones->setContentsMargins(18, 18, 18, 18);
+    botones->setSpacing(18);
+    botones->addWidget(m_cmdcastellano);
+    botones->addWidget(m_cmdeuskera);
+
+    auto *columna = new QVBoxLayout(this);
+    columna->addLayout(cabecera());
+    columna->setContentsMargins(24, 22, 24, 22);
+    columna->setSpacing(18);
+    columna->addWidget(marco);
+    columna->addWidget(m_chkActOnline);
+    columna->addWidget(m_lblAct);
+    columna->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void FrmIdioma::cargar()
+{
+    const bool castellano = unico::la<CEntrada>().IDI() == u"C";
+    (castellano ? m_cmdcastellano : m_cmdeuskera)->setFocus();
+    procedimiento(
+        this, [this] { m_chkActOnline->setChecked(servicioModelo()->ObtenerActOnline() == 1); });
+}
+
+void FrmIdioma::guardarActOnline(bool activa)
+{
+    const bool guardado
+        = procedimiento(this, [activa] { servicioModelo()->GuardarActOnline(activa ? 1 : 0); });
+    if (!guardado)
+        m_chkActOnline->setChecked(!activa);
+}
+
+void FrmIdioma::elegir(const QString &codigo)
+{
+    if (procedimiento(this, [&] { unico::la<CEntrada>().IDI(codigo); }))
+        accept();
+}
+
+void FrmIdioma::keyPressEvent(QKeyEvent *evento)
+{
+    if (evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter) {
+        QDialog::keyPressEvent(evento);
+        return;
+    }
+    if (auto *conFoco = qobject_cast<QPushButton *>(focusWidget()))
+        conFoco->click();
+    else
+        focusNextChild();
+}
