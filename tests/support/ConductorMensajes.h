@@ -1,0 +1,69 @@
+#pragma once
+
+#include "widgets/Mensajes.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+/// Answers the program's message boxes, the real ones, by clicking their buttons. A box that nobody
+/// expected, and an answer that nobody asked for, fail the test.
+class ConductorMensajes
+{
+public:
+    struct Mostrado
+    {
+        QMessageBox::Icon icono;
+        QString titulo;
+        QString texto;
+        QMessageBox::StandardButton porDefecto;
+    };
+
+    ConductorMensajes()
+    {
+        mensajes::observar([this](QMessageBox &caja) { atender(caja); });
+    }
+    ~ConductorMensajes()
+    {
+        mensajes::observar({});
+        if (!m_respuestas.isEmpty())
+            QTest::qFail("a message box that was expected did not appear", __FILE__, __LINE__);
+    }
+    ConductorMensajes(const ConductorMensajes &) = delete;
+    ConductorMensajes &operator=(const ConductorMensajes &) = delete;
+
+    /// Queues the button to press in the next box.
+    void responder(QMessageBox::StandardButton boton) { m_respuestas.append(boton); }
+    /// The boxes shown since the last call.
+    QList<Mostrado> tomar() { return std::exchange(m_mostrados, {}); }
+    /// Text of the only box shown since the last call; empty when it was not exactly one.
+    QString texto()
+    {
+        const auto cajas = tomar();
+        return cajas.size() == 1 ? cajas.front().texto : QString();
+    }
+
+private:
+    void atender(QMessageBox &caja)
+    {
+        auto *porDefecto = caja.defaultButton();
+        m_mostrados.append({caja.icon(), caja.windowTitle(), caja.text(),
+                            porDefecto ? caja.standardButton(porDefecto) : QMessageBox::NoButton});
+        if (m_respuestas.isEmpty())
+            QTest::qFail(qPrintable(QStringLiteral("unexpected message: ") + caja.text()), __FILE__,
+                         __LINE__);
+        const auto respuesta
+            = m_respuestas.isEmpty() ? QMessageBox::NoButton : m_respuestas.takeFirst();
+        QTimer::singleShot(0, &caja, [&caja, respuesta] {
+            if (auto *boton = caja.button(respuesta))
+                QTest::mouseClick(boton, Qt::LeftButton);
+            else
+                caja.reject();
+        });
+    }
+
+    QList<QMessageBox::StandardButton> m_respuestas;
+    QList<Mostrado> m_mostrados;
+};

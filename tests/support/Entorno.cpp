@@ -1,0 +1,58 @@
+#include "support/Entorno.h"
+
+#include "core/CEntrada.h"
+#include "declarants/cDecDatos.h"
+#include "declarants/cDecResumen.h"
+#include "declarations/cDatos430.h"
+#include "declarations/cDatos480.h"
+#include "server/Registro.h"
+
+#include <stdexcept>
+
+static void exigir(bool cierto, const char *que)
+{
+    if (!cierto)
+        throw std::runtime_error(que);
+}
+
+Entorno::Entorno(const QString &idioma)
+{
+    exigir(m_carpeta.isValid(), "no temporary folder");
+    registrarServidor();
+    fijarRutas(Rutas::desde(m_carpeta.path()));
+    unico::reiniciar();
+    m_inicio = iniciarSesion();
+    if (!idioma.isEmpty())
+        unico::la<CEntrada>().IDI(idioma);
+}
+
+qint32 Entorno::altaDeclarante(const QString &dni, const QString &nombre)
+{
+    cDecDatos nuevo;
+    nuevo.MODO(u"A"_qs);
+    nuevo.DNI(dni);
+    nuevo.NOMBRE(nombre);
+    nuevo.DOMICILIO(u"MAYOR"_qs);
+    nuevo.CODPOS(u"20001"_qs);
+    nuevo.CODMUN(u"001"_qs);
+    nuevo.NOMMUN(u"ABRENZUOLA"_qs);
+    nuevo.TELEFONO(u"943000000"_qs);
+    exigir(nuevo.ValidarDatosDeclarante(nuevo.RegistroValidacion()) == 0, "invalid declarant");
+    exigir(nuevo.GuardarDeclarante(nuevo.RegistroCompleto()) == 0, "declarant not saved");
+    return nuevo.ObtenerCodigoDeclarante(dni);
+}
+
+qint32 Entorno::altaDeclaracion(qint32 csco, qint16 ejercicio, quint8 periodo,
+                                const QString &modelo)
+{
+    auto &cabecera = unico::la<cDecResumen>();
+    cabecera.CSCO(csco);
+    cabecera.EJERCICIO(ejercicio);
+    cabecera.CambiarModelo(modelo);
+    cabecera.PERIODO(periodo);
+    const qint32 csde = modelo == u"480"
+        ? cDatos480().GuardarDeclaracion(cDatos480().RegistroGuardar())
+        : cDatos430().GuardarDeclaracion(cDatos430().RegistroGuardar());
+    exigir(csde > 0, "return not saved");
+    return csde;
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QColor>
+#include <QLineF>
+#include <QList>
+#include <QPaintDevice>
+#include <QRectF>
+#include <QString>
+
+#include <memory>
+
+/// A paint device that remembers what is drawn on it, in millimetres.
+class GrabadorDibujo : public QPaintDevice
+{
+public:
+    struct Texto
+    {
+        QString texto;
+        QRectF caja; ///< advance wide, from the top of the capitals to the baseline
+        QColor color;
+    };
+    struct Recuadro
+    {
+        QRectF caja;
+        bool blanco = false; ///< filled with white
+        bool operator==(const Recuadro &) const = default;
+    };
+
+    GrabadorDibujo();
+    ~GrabadorDibujo() override;
+
+    QList<Texto> textos;
+    QList<Recuadro> recuadros;
+    QList<QLineF> lineas;
+
+    QPaintEngine *paintEngine() const override;
+
+protected:
+    int metric(PaintDeviceMetric que) const override;
+
+private:
+    std::unique_ptr<QPaintEngine> m_motor;
+};

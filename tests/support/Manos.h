@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QTest>
+#include <QWidget>
+
+/// The hands of a person at a screen: everything by the controls' names, with clicks and keys.
+class Manos
+{
+public:
+    explicit Manos(QWidget &pantalla)
+        : m_pantalla(pantalla)
+    {
+    }
+
+    /// The control called `nombre`; the test fails when there is none.
+    template <class T = QWidget> T *control(const char *nombre) const
+    {
+        auto *hallado = m_pantalla.findChild<T *>(QString::fromLatin1(nombre));
+        if (!hallado)
+            QTest::qFail(nombre, __FILE__, __LINE__);
+        return hallado;
+    }
+
+    void pulsar(const char *nombre) const
+    {
+        auto *widget = control(nombre);
+        // a check box answers on its mark only
+        const QPoint lugar = widget->inherits("QCheckBox") || widget->inherits("QRadioButton")
+            ? QPoint(8, widget->height() / 2)
+            : widget->rect().center();
+        QTest::mouseClick(widget, Qt::LeftButton, {}, lugar);
+    }
+
+    /// Goes into a box with the mouse and types over what it holds.
+    void escribir(const char *nombre, const QString &texto) const
+    {
+        auto *caja = control(nombre);
+        QTest::mouseClick(caja, Qt::LeftButton, {}, caja->rect().center());
+        QTest::keyClick(caja, Qt::Key_A, Qt::ControlModifier);
+        if (texto.isEmpty())
+            QTest::keyClick(caja, Qt::Key_Delete);
+        else
+            QTest::keyClicks(caja, texto);
+    }
+
+    void tecla(Qt::Key tecla, Qt::KeyboardModifiers con = {}) const
+    {
+        QWidget *foco = m_pantalla.focusWidget();
+        QTest::keyClick(foco ? foco : &m_pantalla, tecla, con);
+    }
+
+    QString texto(const char *nombre) const { return control(nombre)->property("text").toString(); }
+
+    /// Name of the control with the focus.
+    QString foco() const
+    {
+        const QWidget *widget = m_pantalla.focusWidget();
+        return widget ? widget->objectName() : QString();
+    }
+
+private:
+    QWidget &m_pantalla;
+};

@@ -1,0 +1,206 @@
+#include "app/Arranque.h"
+#include "app/MDIOstrel.h"
+#include "core/CEntrada.h"
+#include "core/Servicios.h"
+#include "core/Textos.h"
+#include "support/ConductorMensajes.h"
+#include "support/Entorno.h"
+#include "support/Manos.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLabel>
+#include <QPointer>
+
+#include <optional>
+
+using namespace std::chrono_literals;
+
+/// The way from the start of the program to its main window.
+class PruebaInicio : public QObject
+{
+    Q_OBJECT
+
+private:
+    static constexpr EsperasInicio Breves{20ms, 60ms};
+
+    std::optional<Entorno> m_entorno;
+
+    static QWidget *ventana(const QString &nombre)
+    {
+        for (auto *una : QApplication::topLevelWidgets()) {
+            if (una->objectName() == nombre && una->isVisible())
+                return una;
+        }
+        return nullptr;
+    }
+    /// Does something with a window as soon as it is there, while the start-up runs.
+    static void cuandoEste(const QString &nombre, const std::function<void(QWidget &)> &accion)
+    {
+        auto *reloj = new QTimer(qApp);
+        reloj->setInterval(1);
+        connect(reloj, &QTimer::timeout, qApp, [=] {
+            if (auto *hallada = ventana(nombre)) {
+                reloj->deleteLater();
+                reloj->stop();
+                accion(*hallada);
+            }
+        });
+        reloj->start();
+    }
+    static QString idiomaGuardado() { return servicioModelo()->ObtenerIdioma(); }
+
+private Q_SLOTS:
+    void init() { m_entorno.emplace(); }
+    void cleanup()
+    {
+        m_entorno.reset();
+        fijarDesplazamientoIdioma(0);
+    }
+
+    void esperasDelPrograma()
+    {
+        QCOMPARE(EsperasInicio().normal, 3000ms);
+        QCOMPARE(EsperasInicio().conBusqueda, 4000ms);
+    }
+
+    void inicioMuestraVersionYAbreLaVentana()
+    {
+        QString version;
+        QString titulo;
+        bool lblActVisible = true;
+        cuandoEste(u"frmInicio"_qs, [&](QWidget &inicio) {
+            version = inicio.findChild<QLabel *>(u"lblVersion"_qs)->text();
+            titulo = inicio.findChild<QLabel *>(u"lblTitulo"_qs)->text();
+            lblActVisible = inicio.findChild<QLabel *>(u"lblAct"_qs)->isVisible();
+        });
+        bool buscado = false;
+        Arranque arranque(Breves);
+        arranque.buscarActualizacion = [&] { buscado = true; };
+        QElapsedTimer reloj;
+        reloj.start();
+        const auto principal = arranque.iniciar();
+        QVERIFY(reloj.elapsed() >= Breves.normal.count());
+        QVERIFY(principal);
+        QVERIFY(principal->isVisible());
+        QVERIFY(!ventana(u"frmInicio"_qs));
+        QCOMPARE(version, u"Bertsioa/Versión "_qs + QCoreApplication::applicationVersion());
+        QCOMPARE(version.count(u'.'), 2);
+        QCOMPARE(titulo, u"Ostrel de Seguros"_qs);
+        QVERIFY(!lblActVisible);
+        QVERIFY(!buscado);
+    }
+
+    void conActualizacionEsperaMasYAvisa()
+    {
+        servicioModelo()->GuardarActOnline(1);
+        bool visibleMientras = false;
+        QPointer<QLabel> lblAct;
+        Arranque arranque(Breves);
+        arranque.buscarActualizacion = [&] {
+            lblAct = ventana(u"frmInicio"_qs)->findChild<QLabel *>(u"lblAct"_qs);
+            visibleMientras = lblAct->isVisible();
+            QTimer::singleShot(0, lblAct, [&] { visibleMientras &= lblAct->isHidden(); });
+        };
+        QElapsedTimer reloj;
+        reloj.start();
+        const auto principal = arranque.iniciar();
+        QVERIFY(principal);
+        QVERIFY(visibleMientras);
+        QVERIFY(reloj.elapsed() >= Breves.conBusqueda.count());
+    }
+
+    void busquedaLargaNoAnadeEspera()
+    {
+        servicioModelo()->GuardarActOnline(1);
+        constexpr auto espera = 600ms;
+        Arranque arranque({20ms, espera});
+        QElapsedTimer trasLaBusqueda;
+        arranque.buscarActualizacion = [&] {
+            QEventLoop busqueda;
+            QTimer::singleShot(espera + 20ms, &busqueda, &QEventLoop::quit);
+            busqueda.exec();
+            trasLaBusqueda.start();
+        };
+        const auto principal = arranque.iniciar();
+        QVERIFY(principal);
+        QVERIFY(trasLaBusqueda.elapsed() < espera.count());
+    }
+
+    void primerInicioPideIdioma()
+    {
+        m_entorno.emplace(QString());
+        QString antesDelInicio;
+        cuandoEste(u"FrmIdioma"_qs, [&](QWidget &eleccion) {
+            antesDelInicio = ventana(u"frmInicio"_qs) ? u"tarde"_qs : u"antes"_qs;
+            QCOMPARE(eleccion.windowTitle(), u"Hautatu Hizkuntza/Selección de idioma"_qs);
+            const Manos manos(eleccion);
+            QCOMPARE(manos.foco(), u"cmdeuskera"_qs);
+            manos.tecla(Qt::Key_Tab);
+            QCOMPARE(manos.foco(), u"chkActOnline"_qs);
+            manos.tecla(Qt::Key_Return);
+            QCOMPARE(manos.foco(), u"cmdcastellano"_qs);
+            manos.pulsar("chkActOnline");
+            QCOMPARE(servicioModelo()->ObtenerActOnline(), qint16(1));
+            manos.pulsar("chkActOnline");
+            QCOMPARE(servicioModelo()->ObtenerActOnline(), qint16(0));
+            manos.pulsar("cmdeuskera");
+        });
+        const auto principal = Arranque(Breves).iniciar();
+        QVERIFY(principal);
+        QCOMPARE(antesDelInicio, u"antes"_qs);
+        QCOMPARE(idiomaGuardado(), u"E"_qs);
+        QCOMPARE(principal->windowTitle(), u"Aseguruen Ostrel"_qs);
+    }
+
+    void enterEnUnBotonDeIdiomaLoElige()
+    {
+        m_entorno.emplace(QString());
+        cuandoEste(u"FrmIdioma"_qs, [&](QWidget &eleccion) {
+            const Manos manos(eleccion);
+            manos.tecla(Qt::Key_Tab, Qt::ShiftModifier);
+            QCOMPARE(manos.foco(), u"cmdcastellano"_qs);
+            manos.tecla(Qt::Key_Return);
+        });
+        QVERIFY(Arranque(Breves).iniciar());
+        QCOMPARE(idiomaGuardado(), u"C"_qs);
+    }
+
+    void idiomaAbandonadoQuedaSinGuardar()
+    {
+        m_entorno.emplace(QString());
+        cuandoEste(u"FrmIdioma"_qs,
+                   [&](QWidget &eleccion) { QTest::keyClick(&eleccion, Qt::Key_Escape); });
+        const auto principal = Arranque(Breves).iniciar();
+        QVERIFY(principal);
+        QCOMPARE(idiomaGuardado(), QString());
+        QCOMPARE(principal->windowTitle(), u"Ostrel de Seguros"_qs);
+    }
+
+    void baseDanadaSeCuentaUnaVezYElProgramaSigue()
+    {
+        const QByteArray basura("this is no database");
+        fijarRutas(Rutas::desde(m_entorno->ruta(u"otra"_qs)));
+        QVERIFY(QDir().mkpath(rutas().tablas));
+        QFile danada(rutas().modelo);
+        QVERIFY(danada.open(QIODevice::WriteOnly));
+        QCOMPARE(danada.write(basura), qint64(basura.size()));
+        danada.close();
+
+        ConductorMensajes mensajes;
+        mensajes.responder(QMessageBox::Ok);
+        const auto principal = Arranque(Breves).iniciar();
+        QVERIFY(principal);
+        const QString texto = mensajes.texto();
+        QVERIFY2(texto.contains(u"OstrMod.mdb"), qPrintable(texto));
+        QVERIFY2(texto.contains(u"restaurar una copia"), qPrintable(texto));
+        QVERIFY(danada.open(QIODevice::ReadOnly));
+        QCOMPARE(danada.readAll(), basura);
+    }
+};
+
+QTEST_MAIN(PruebaInicio)
+#include "tst_inicio.moc"
