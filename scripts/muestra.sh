@@ -16,4 +16,6 @@ orden declarante alta --dni A58818501 --nombre "Seguros del Valle" --domicilio M
 orden declarar 430 --dni A58818501 --ejercicio 2026 --periodo 1 --base 125.000,50
 orden listar declarantes
 orden listar declaraciones --dni A58818501
+orden imprimir --dni A58818501 --modelo 430 --ejercicio 2026 --periodo 1 \
+    --pdf "$carpeta/430_2026-01_A58818501_AD-IT.pdf"
 echo "The files are in $carpeta"

@@ -18,8 +18,8 @@ instalar() {
     $como env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $falta >/dev/null
 }
 
-# construir PRESET: configures once, then lets the build tool decide.
+# construir PRESET [TARGET]: configures once, then lets the build tool decide.
 construir() {
     [ -f "build/$1/build.ninja" ] || cmake --preset "$1"
-    cmake --build --preset "$1" -- --quiet
+    cmake --build --preset "$1" --target "${2:-all}" -- --quiet
 }

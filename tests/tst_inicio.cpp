@@ -3,6 +3,7 @@
 #include "core/CEntrada.h"
 #include "core/Servicios.h"
 #include "core/Textos.h"
+#include "server/Registro.h"
 #include "support/ConductorMensajes.h"
 #include "support/Entorno.h"
 #include "support/Manos.h"
@@ -18,6 +19,19 @@
 #include <optional>
 
 using namespace std::chrono_literals;
+
+namespace {
+
+/// A data service that asks the program to end.
+class TraspasoQueTermina : public SvrOstr::cTraspaso
+{
+public:
+    void mdbmod(const QString &) override {}
+    void mdbPath(const QString &) override {}
+    bool Traspaso() override { return true; }
+};
+
+} // namespace
 
 /// The way from the start of the program to its main window.
 class PruebaInicio : public QObject
@@ -65,6 +79,19 @@ private Q_SLOTS:
     {
         QCOMPARE(EsperasInicio().normal, 3000ms);
         QCOMPARE(EsperasInicio().conBusqueda, 4000ms);
+    }
+
+    void terminaSinMensajesSiLoPideElServicio()
+    {
+        const ConductorMensajes ninguno;
+        servicio::registrar(SvrOstr::cTraspaso::ID,
+                            [] { return std::make_unique<TraspasoQueTermina>(); });
+        bool mostrado = false;
+        cuandoEste(u"frmInicio"_qs, [&](QWidget &) { mostrado = true; });
+        QVERIFY(!Arranque(Breves).iniciar());
+        registrarServidor();
+        QVERIFY(!mostrado);
+        qDeleteAll(qApp->findChildren<QTimer *>());
     }
 
     void inicioMuestraVersionYAbreLaVentana()
@@ -177,7 +204,7 @@ private Q_SLOTS:
         const auto principal = Arranque(Breves).iniciar();
         QVERIFY(principal);
         QCOMPARE(idiomaGuardado(), QString());
-        QCOMPARE(principal->windowTitle(), u"Ostrel de Seguros"_qs);
+        QCOMPARE(principal->windowTitle(), u"Ostrel de seguros"_qs);
     }
 
     void baseDanadaSeCuentaUnaVezYElProgramaSigue()

@@ -7,6 +7,7 @@
 #include "support/Entorno.h"
 #include "support/GeneralAveriado.h"
 #include "support/Manos.h"
+#include "widgets/Iconos.h"
 #include "widgets/PantallaBase.h"
 
 #include <QAction>
@@ -117,7 +118,7 @@ private Q_SLOTS:
 
     void textosEnLosDosIdiomas()
     {
-        QCOMPARE(m_ventana->windowTitle(), u"Ostrel de Seguros"_qs);
+        QCOMPARE(m_ventana->windowTitle(), u"Ostrel de seguros"_qs);
         QCOMPARE(menu("mnuDeclarante")->title(), u"&Declarante"_qs);
         QCOMPARE(accion("mnuEliminarDeclarante")->text(), u"&Eliminar declarante"_qs);
         QCOMPARE(accion("abrdec")->text(), u"Abrir declarante"_qs);
@@ -130,6 +131,21 @@ private Q_SLOTS:
         QCOMPARE(accion("mnuBackup")->text(), u"Segurtasun kopia sortu"_qs);
         QCOMPARE(accion("salir")->text(), u"Irten aplikaziotik"_qs);
         QCOMPARE(accion("salir")->toolTip(), u"Irten aplikaziotik"_qs);
+    }
+
+    void iconosDibujadosYApagados()
+    {
+        for (int i = 0; i <= static_cast<int>(Icono::Informacion); ++i) {
+            const auto cual = static_cast<Icono>(i);
+            const QPixmap doble = icono(cual).pixmap(QSize(32, 32), 2.0);
+            QCOMPARE(doble.size(), QSize(64, 64));
+            const QImage vivo = icono(cual).pixmap(16).toImage();
+            QImage nada(vivo.size(), vivo.format());
+            nada.fill(Qt::transparent);
+            QVERIFY2(vivo != nada, qPrintable(QString::number(i)));
+            const QImage apagado = icono(cual).pixmap(16, QIcon::Disabled).toImage();
+            QCOMPARE(apagado == vivo, cual == Icono::Programa);
+        }
     }
 
     void clavesDeAccesoSinChoques_data()

@@ -3,9 +3,10 @@
 #include "app/Estilo.h"
 
 #include <QApplication>
+#include <QMainWindow>
 #include <QPalette>
 #include <QScreen>
-#include <QWidget>
+#include <QToolBar>
 
 namespace {
 
@@ -59,16 +60,22 @@ void aplicarApariencia()
     QApplication::setFont(letra);
 }
 
-void mostrarCentrada(QWidget &ventana)
+void mostrarCentrada(QMainWindow &ventana)
 {
     constexpr QSize deseado(1180, 800);
     const QRect libre = ventana.screen()->availableGeometry();
-    const QSize tamano = deseado.boundedTo(libre.size() * 0.92);
-    QRect lugar({}, tamano);
+    if (libre.width() < deseado.width() || libre.height() < deseado.height()) {
+        // every line counts for the screens inside
+        for (auto *barra : ventana.findChildren<QToolBar *>()) {
+            barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+            barra->setIconSize({20, 20});
+        }
+        ventana.setGeometry(libre);
+        ventana.showMaximized();
+        return;
+    }
+    QRect lugar({}, deseado);
     lugar.moveCenter(libre.center());
     ventana.setGeometry(lugar);
-    if (tamano != deseado)
-        ventana.showMaximized();
-    else
-        ventana.show();
+    ventana.show();
 }

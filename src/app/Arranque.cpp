@@ -88,6 +88,5 @@ int abrirVentana(int &argc, char **argv)
     QApplication::installTranslator(&textos);
     aplicarApariencia();
     const auto ventana = Arranque().iniciar();
-    // windows shown and closed so far must not count as the last one
     return ventana ? QApplication::exec() : 0;
 }

@@ -29,6 +29,14 @@ int Estilo::pixelMetric(PixelMetric medida, const QStyleOption *opcion, const QW
     }
 }
 
+int Estilo::styleHint(StyleHint cual, const QStyleOption *opcion, const QWidget *widget,
+                      QStyleHintReturn *resultado) const
+{
+    // disabled text with a shadow is hard to read on dark backgrounds
+    return cual == SH_EtchDisabledText ? 0
+                                       : QProxyStyle::styleHint(cual, opcion, widget, resultado);
+}
+
 void Estilo::drawComplexControl(ComplexControl control, const QStyleOptionComplex *opcion,
                                 QPainter *pintor, const QWidget *widget) const
 {

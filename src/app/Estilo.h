@@ -14,6 +14,8 @@ public:
                             QPainter *pintor, const QWidget *widget) const override;
     int pixelMetric(PixelMetric medida, const QStyleOption *opcion,
                     const QWidget *widget) const override;
+    int styleHint(StyleHint cual, const QStyleOption *opcion, const QWidget *widget,
+                  QStyleHintReturn *resultado) const override;
 
 private:
     void pintarTitulo(const class QStyleOptionTitleBar &barra, QPainter &pintor,

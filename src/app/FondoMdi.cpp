@@ -3,6 +3,7 @@
 #include "core/Textos.h"
 #include "widgets/Emblema.h"
 
+#include <QEvent>
 #include <QPainter>
 
 FondoMdi::FondoMdi(QWidget *padre)
@@ -27,6 +28,13 @@ static void pintarLetrero(QPainter &pintor, const QRectF &lugar, const QColor &t
     pintor.setFont(letra);
     pintor.drawText(lugar.adjusted(0, salto, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
                     msj(Msj::NombreDiputacion));
+}
+
+void FondoMdi::changeEvent(QEvent *evento)
+{
+    QMdiArea::changeEvent(evento);
+    if (evento->type() == QEvent::LanguageChange)
+        viewport()->update();
 }
 
 void FondoMdi::paintEvent(QPaintEvent *)

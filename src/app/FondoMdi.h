@@ -11,5 +11,6 @@ public:
     explicit FondoMdi(QWidget *padre = nullptr);
 
 protected:
+    void changeEvent(QEvent *evento) override;
     void paintEvent(QPaintEvent *evento) override;
 };

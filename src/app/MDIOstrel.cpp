@@ -60,7 +60,7 @@ void MDIOstrel::conectar()
 
 void MDIOstrel::Anadir_captions()
 {
-    setWindowTitle(msj(Msj::TituloPrograma));
+    setWindowTitle(msj(Msj::TituloVentana));
     m_version->setText(msj(Msj::VersionPrograma, versionPrograma()));
     m_mandos->Anadir_captions();
     actualizarEstados();

@@ -16,17 +16,21 @@ MarcoInterior::MarcoInterior(QWidget *pantalla)
     traducirMenu();
 }
 
-void MarcoInterior::colocar(const QRect &libre, bool amplia)
+void MarcoInterior::mostrarEn(const QRect &libre, bool amplia)
 {
     constexpr QSize maximo(1040, 660);
     const QSize margen(40, 30);
     QSize tamano = sizeHint();
     if (amplia)
         tamano = tamano.expandedTo((libre.size() - margen).boundedTo(maximo));
-    tamano = tamano.boundedTo(libre.size()).expandedTo(minimumSizeHint());
+    if (tamano.width() > libre.width() || tamano.height() > libre.height()) {
+        showMaximized();
+        return;
+    }
     resize(tamano);
-    const QSize resto = (libre.size() - tamano).expandedTo({0, 0}) / 2;
+    const QSize resto = (libre.size() - tamano) / 2;
     move(libre.topLeft() + QPoint(resto.width(), resto.height()));
+    show();
 }
 
 void MarcoInterior::changeEvent(QEvent *evento)

@@ -10,9 +10,9 @@ class MarcoInterior : public QMdiSubWindow
 public:
     explicit MarcoInterior(QWidget *pantalla);
 
-    /// Places itself in the middle of `libre`: as large as its screen asks for, or nearly filling
-    /// it when `amplia`.
-    void colocar(const QRect &libre, bool amplia);
+    /// Shows itself in the middle of `libre`: as large as its screen asks for, or nearly filling
+    /// it when `amplia`. Where there is no room for it, it is maximised.
+    void mostrarEn(const QRect &libre, bool amplia);
 
 protected:
     void changeEvent(QEvent *evento) override;

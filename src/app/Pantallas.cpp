@@ -74,8 +74,7 @@ void Pantallas::enmarcar(PantallaBase *nueva, bool amplia)
 {
     auto *marco = new MarcoInterior(nueva);
     m_area->addSubWindow(marco);
-    marco->colocar(m_area->viewport()->rect(), amplia);
-    marco->show();
+    marco->mostrarEn(m_area->viewport()->rect(), amplia);
 }
 
 void Pantallas::cerrar(Pantalla cual)

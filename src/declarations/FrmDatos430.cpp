@@ -87,6 +87,8 @@ void FrmDatos430::disponer()
     negrita.setBold(true);
     m_lineas[TOTAL].titulo->setFont(negrita);
     m_lineas[TOTAL].cuota->setFont(negrita);
+    for (const int columna : {1, 3})
+        rejilla->setColumnMinimumWidth(columna, m_lineas[TOTAL].cuota->sizeHint().width());
     m_cuerpo->addLayout(rejilla);
     m_cuerpo->addStretch(1);
 }

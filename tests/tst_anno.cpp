@@ -1,0 +1,117 @@
+#include "app/MDIOstrel.h"
+#include "core/Periodos.h"
+#include "declarants/cDecResumen.h"
+#include "support/Entorno.h"
+#include "support/Manos.h"
+#include "widgets/PantallaBase.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+
+/// A whole year filed in the main window by keyboard alone: twelve 430s, their 480 as proposed
+/// after December, and the January after it.
+class PruebaAnno : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<MDIOstrel> m_ventana;
+
+    static void tecla(Qt::Key tecla, Qt::KeyboardModifiers con = {})
+    {
+        QTest::keyClick(QApplication::focusWidget(), tecla, con);
+    }
+    static void escribir(const QString &texto)
+    {
+        QTest::keyClicks(QApplication::focusWidget(), texto);
+    }
+    /// The screen called `nombre`, once it is there with the focus in it.
+    void esperar(const char *nombre)
+    {
+        QTRY_VERIFY(m_ventana->findChild<PantallaBase *>(QString::fromLatin1(nombre)));
+        m_pantalla = m_ventana->findChild<PantallaBase *>(QString::fromLatin1(nombre));
+        QTRY_VERIFY(m_pantalla->isAncestorOf(QApplication::focusWidget()));
+    }
+    /// Presses the access key that the caption of a button underlines.
+    void acceso(const char *boton)
+    {
+        const QString texto = Manos(*m_pantalla).control<QAbstractButton>(boton)->text();
+        const QChar letra = texto.at(texto.indexOf(u'&') + 1).toUpper();
+        QVERIFY(letra.isLetter());
+        tecla(static_cast<Qt::Key>(letra.unicode()), Qt::AltModifier);
+    }
+    /// Both presses for a new return; `primera`: nothing is proposed yet.
+    void nueva(bool primera)
+    {
+        esperar("FrmDecResumen");
+        acceso("ImgNueva");
+        QTRY_COMPARE(Manos(*m_pantalla).foco(), u"txtejer"_qs);
+        if (primera) {
+            escribir(u"2026"_qs);
+            tecla(Qt::Key_Tab);
+            escribir(u"430"_qs);
+            tecla(Qt::Key_Tab);
+            escribir(nombreMes(1));
+        }
+        acceso("ImgNueva");
+    }
+    void declarar430(const QString &base, bool primera)
+    {
+        nueva(primera);
+        esperar("FrmDatos430");
+        escribir(base);
+        acceso("cmdAceptar");
+    }
+
+    PantallaBase *m_pantalla = nullptr;
+
+private Q_SLOTS:
+    void unAnno_data()
+    {
+        QTest::addColumn<QString>("idioma");
+        QTest::newRow("C") << u"C"_qs;
+        QTest::newRow("E") << u"E"_qs;
+    }
+    void unAnno()
+    {
+        QFETCH(QString, idioma);
+        const Entorno entorno(idioma);
+        Entorno::altaDeclarante();
+        m_ventana = std::make_unique<MDIOstrel>();
+        m_ventana->show();
+        m_ventana->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_ventana.get()));
+        QTest::keyClick(m_ventana.get(), Qt::Key_O, Qt::ControlModifier);
+        esperar("FrmDecLista");
+        tecla(Qt::Key_Return);
+
+        for (int mes = 1; mes <= 12; ++mes)
+            declarar430(u"%1,50"_qs.arg(mes * 100), mes == 1);
+        nueva(false);
+        esperar("FrmDatos480a");
+        escribir(u"7806,00"_qs);
+        acceso("cmdSiguiente");
+        esperar("FrmDatos480b");
+        acceso("cmdSiguiente");
+        esperar("FrmDatos480c");
+        escribir(u"7806"_qs);
+        acceso("cmdAceptar");
+        declarar430(u"1"_qs, false);
+        esperar("FrmDecResumen");
+
+        const auto filas = unico::la<cDecResumen>().CargarDeclaraciones();
+        QCOMPARE(filas.size(), 14);
+        const auto celda = [&](int fila, FilaDeclaracion::Columna columna) {
+            return filas.at(fila).toList().at(columna).toInt();
+        };
+        QCOMPARE(celda(11, FilaDeclaracion::IMPORTE), 9604); // 8 % of 1,200.50
+        QCOMPARE(celda(12, FilaDeclaracion::MODELO), 480);
+        QCOMPARE(celda(12, FilaDeclaracion::IMPORTE), 62448);
+        QCOMPARE(celda(13, FilaDeclaracion::EJERCICIO), 2027);
+        QCOMPARE(celda(13, FilaDeclaracion::PERIODO), 1);
+        m_ventana.reset();
+    }
+};
+
+QTEST_MAIN(PruebaAnno)
+#include "tst_anno.moc"
