@@ -62,7 +62,8 @@ void FrmDecResumen::enfocarLista()
 void FrmDecResumen::showEvent(QShowEvent *evento)
 {
     PantallaBase::showEvent(evento);
-    if (!evento->spontaneous() && !focusWidget())
+    // the frame around gives the focus to the first field before the screen is shown
+    if (!evento->spontaneous() && m_nueva->isHidden())
         enfocarLista();
 }
 

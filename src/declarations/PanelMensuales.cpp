@@ -13,10 +13,27 @@
 #include <QLabel>
 #include <QTreeWidget>
 
+namespace {
+
+/// Wishes to be as high as its twelve months; a small screen may give it less.
+class ListaMeses : public QTreeWidget
+{
+public:
+    using QTreeWidget::QTreeWidget;
+
+    QSize sizeHint() const override
+    {
+        return {QTreeWidget::sizeHint().width(), 13 * (fontMetrics().height() + 2) + 6};
+    }
+    QSize minimumSizeHint() const override { return {200, 6 * fontMetrics().height()}; }
+};
+
+} // namespace
+
 PanelMensuales::PanelMensuales(QWidget *padre)
     : QWidget(padre)
     , m_titulo(new QLabel(this))
-    , m_lst430(new QTreeWidget(this))
+    , m_lst430(new ListaMeses(this))
     , m_lblNo430(new QLabel(this))
     , m_lblTotales(new QLabel(this))
     , m_grafico(new GraficoCuotas(this))
@@ -26,8 +43,10 @@ PanelMensuales::PanelMensuales(QWidget *padre)
     m_lst430->setRootIsDecorated(false);
     m_lst430->setUniformRowHeights(true);
     m_lst430->setAlternatingRowColors(true);
-    m_lst430->header()->setStretchLastSection(true);
-    m_lst430->setMinimumHeight(m_lst430->fontMetrics().height() * 9);
+    m_lst430->header()->setSectionResizeMode(QHeaderView::Stretch);
+    m_lst430->header()->setSectionsMovable(false);
+    for (const int columna : {1, 2})
+        m_lst430->headerItem()->setTextAlignment(columna, Qt::AlignRight | Qt::AlignVCenter);
     m_lblNo430->setObjectName(u"lblNo430"_qs);
     m_lblTotales->setObjectName(u"lblTotales430"_qs);
     m_lblTotales->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -74,8 +93,6 @@ void PanelMensuales::mostrar()
                 fila->setText(columna, textoImporte(columna == 1 ? datos->base : datos->cuota));
         }
     }
-    for (int columna = 0; columna < 3; ++columna)
-        m_lst430->resizeColumnToContents(columna);
     m_lblTotales->setText(msj(Msj::TotalAnualBase) + u": "_qs + textoImporte(m_anno->base)
                           + u"    "_qs + msj(Msj::TotalAnualCuota) + u": "_qs
                           + textoImporte(m_anno->cuota));
