@@ -5,8 +5,14 @@ set -euo pipefail
 ostrel=$1
 carpeta=${2:-$(mktemp -d "${TMPDIR:-/tmp}/ostrel-muestra-XXXXXX")}
 
+mkdir -p "$carpeta"
+
 orden() {
-    echo "\$ ostrel $*"
+    local mostrada="\$ ostrel"
+    for parte in "$@"; do
+        case $parte in *" "*) mostrada="$mostrada \"$parte\"" ;; *) mostrada="$mostrada $parte" ;; esac
+    done
+    echo "$mostrada"
     "$ostrel" --carpeta "$carpeta" "$@"
 }
 

@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 
+#include <cstdio>
 #include <memory>
 #include <optional>
 
@@ -13,10 +14,20 @@ static std::unique_ptr<QCoreApplication> nuevaAplicacion(int &argc, char **argv)
     QStringList argumentos;
     for (int i = 1; i < argc; ++i)
         argumentos += QString::fromLocal8Bit(argv[i]);
+    if (hayOrden(argumentos))
+        qInstallMessageHandler(soloGraves);
     if (!dibujaPaginas(argumentos))
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+/// What Qt has to say of a machine without a session is nothing to whoever gave a command: standard
+/// error is for the command's own reasons.
+static void soloGraves(QtMsgType tipo, const QMessageLogContext &, const QString &texto)
+{
+    if (tipo == QtCriticalMsg || tipo == QtFatalMsg)
+        fprintf(stderr, "%s\n", qUtf8Printable(texto));
 }
 
 /// Settles the session's paths; a command is carried out here, without a display.

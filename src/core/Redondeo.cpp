@@ -31,7 +31,8 @@ double calcularCuota(float tipo, double base)
     const qint64 enteras = centimos / 10000 * centesimas;
     const qint64 resto = centimos % 10000 * centesimas;
     const qint64 mitad = resto < 0 ? -5000 : 5000;
-    return static_cast<double>(enteras + (resto + mitad) / 10000);
+    const qint64 cuota = enteras + (resto + mitad) / 10000;
+    return static_cast<double>(cuota);
 }
 
 bool cabeEnCasilla(double centimos)

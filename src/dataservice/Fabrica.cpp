@@ -12,9 +12,9 @@ static QHash<QString, Creador> &registro()
     return tabla;
 }
 
-void registrar(QStringView id, Creador creador)
+void registrar(QStringView id, const Creador &creador)
 {
-    registro().insert(id.toString().toLower(), std::move(creador));
+    registro().insert(id.toString().toLower(), creador);
 }
 
 std::unique_ptr<Objeto> crear(QStringView id)

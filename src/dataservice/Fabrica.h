@@ -22,7 +22,7 @@ public:
 using Creador = std::function<std::unique_ptr<Objeto>()>;
 
 /// Registers (or replaces) the maker of the objects called `id`.
-void registrar(QStringView id, Creador creador);
+void registrar(QStringView id, const Creador &creador);
 
 /// A new object; throws std::runtime_error when nobody has registered `id`.
 std::unique_ptr<Objeto> crear(QStringView id);
@@ -32,9 +32,9 @@ std::unique_ptr<Objeto> crear(QStringView id);
 template <class T> std::unique_ptr<T> crear()
 {
     auto objeto = crear(T::ID);
-    auto &comoT = dynamic_cast<T &>(*objeto);
-    objeto.release();
-    return std::unique_ptr<T>(&comoT);
+    std::unique_ptr<T> comoT(&dynamic_cast<T &>(*objeto));
+    static_cast<void>(objeto.release());
+    return comoT;
 }
 
 } // namespace servicio

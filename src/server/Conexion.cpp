@@ -35,7 +35,7 @@ Conexion::Conexion(const QString &ruta, const Formato &formato)
 
 PConexion Conexion::de(const QString &ruta, const Formato &formato)
 {
-    const PConexion abierta = abiertas().value(ruta);
+    PConexion abierta = abiertas().value(ruta);
     if (abierta && abierta->m_identidad == identidad(ruta)
         && abierta->m_aplicacion == formato.aplicacion)
         return abierta;
