@@ -9,6 +9,14 @@
 #include <memory>
 #include <optional>
 
+/// What Qt has to say of a machine without a session is nothing to whoever gave a command: standard
+/// error is for the command's own reasons.
+static void soloGraves(QtMsgType tipo, const QMessageLogContext &, const QString &texto)
+{
+    if (tipo == QtCriticalMsg || tipo == QtFatalMsg)
+        fprintf(stderr, "%s\n", qUtf8Printable(texto));
+}
+
 static std::unique_ptr<QCoreApplication> nuevaAplicacion(int &argc, char **argv)
 {
     QStringList argumentos;
@@ -20,14 +28,6 @@ static std::unique_ptr<QCoreApplication> nuevaAplicacion(int &argc, char **argv)
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     return std::make_unique<QGuiApplication>(argc, argv);
-}
-
-/// What Qt has to say of a machine without a session is nothing to whoever gave a command: standard
-/// error is for the command's own reasons.
-static void soloGraves(QtMsgType tipo, const QMessageLogContext &, const QString &texto)
-{
-    if (tipo == QtCriticalMsg || tipo == QtFatalMsg)
-        fprintf(stderr, "%s\n", qUtf8Printable(texto));
 }
 
 /// Settles the session's paths; a command is carried out here, without a display.
