@@ -9,60 +9,58 @@ class TestCapas : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void inclusiones_data();
-    void inclusiones();
-};
-
-void TestCapas::inclusiones_data()
-{
-    QTest::addColumn<QString>("donde"); // paths under src, which the rule is about
-    QTest::addColumn<bool>("dentro"); // or about every other one
-    QTest::addColumn<QString>("prohibidas"); // headers
-    const QString ventanas = u"^(QtWidgets|Q(?!StringView)[A-Z]\\w*(Widget|Dialog|Box|Edit|Button|"
-                             u"Window|Label|View)\\b|QWidget|"
-                             u"QApplication|widgets/|[a-z]+/[Ff]rm)"_qs;
-    QTest::newRow("no widget in a record")
-        << u"^(core|dataservice|server|cli)/|^(?!widgets/).*/c[A-Z]\\w*\\.(h|cpp)$"_qs << true
-        << ventanas;
-    QTest::newRow("SQLite in the server only")
-        << u"^server/"_qs << false << u"^(SQLiteCpp|sqlite3|QSql|QtSql)"_qs;
-    QTest::newRow("message boxes in widgets only")
-        << u"^widgets/"_qs << false << u"^(QtWidgets/)?QMessageBox"_qs;
-    QTest::newRow("the server is linked by the program only")
-        << u"^(server/|main\\.cpp$|app/)"_qs << false << u"^server/"_qs;
-}
-
-void TestCapas::inclusiones()
-{
-    QFETCH(QString, donde);
-    QFETCH(bool, dentro);
-    QFETCH(QString, prohibidas);
-    const QRegularExpression ruta(donde);
-    const QRegularExpression prohibida(prohibidas);
-    static const QRegularExpression inclusion(u"^\\s*#\\s*include\\s*[<\"]([^>\"]+)"_qs,
-                                              QRegularExpression::MultilineOption);
-    const QDir raiz(QStringLiteral(OSTREL_SRC));
-    int leidos = 0;
-    QStringList faltas;
-    QDirIterator ficheros(raiz.path(), {u"*.h"_qs, u"*.cpp"_qs}, QDir::Files,
-                          QDirIterator::Subdirectories);
-    while (ficheros.hasNext()) {
-        QFile fichero(ficheros.next());
-        const QString relativa = raiz.relativeFilePath(fichero.fileName());
-        if (ruta.match(relativa).hasMatch() != dentro)
-            continue;
-        QVERIFY(fichero.open(QIODevice::ReadOnly));
-        ++leidos;
-        const QString texto = QString::fromUtf8(fichero.readAll());
-        for (auto i = inclusion.globalMatch(texto); i.hasNext();) {
-            const QString cabecera = i.next().captured(1);
-            if (prohibida.match(cabecera).hasMatch())
-                faltas += relativa + u" <- "_qs + cabecera;
-        }
+    void inclusiones_data()
+    {
+        QTest::addColumn<QString>("donde"); // paths under src, which the rule is about
+        QTest::addColumn<bool>("dentro"); // or about every other one
+        QTest::addColumn<QString>("prohibidas"); // headers
+        const QString ventanas
+            = u"^(QtWidgets|Q(?!StringView)[A-Z]\\w*(Widget|Dialog|Box|Edit|Button|"
+              u"Window|Label|View)\\b|QWidget|"
+              u"QApplication|widgets/|[a-z]+/[Ff]rm)"_qs;
+        QTest::newRow("no widget in a record")
+            << u"^(core|dataservice|server|cli)/|^(?!widgets/).*/c[A-Z]\\w*\\.(h|cpp)$"_qs << true
+            << ventanas;
+        QTest::newRow("SQLite in the server only")
+            << u"^server/"_qs << false << u"^(SQLiteCpp|sqlite3|QSql|QtSql)"_qs;
+        QTest::newRow("message boxes in widgets only")
+            << u"^widgets/"_qs << false << u"^(QtWidgets/)?QMessageBox"_qs;
+        QTest::newRow("the server is linked by the program only")
+            << u"^(server/|main\\.cpp$|app/)"_qs << false << u"^server/"_qs;
     }
-    QVERIFY(leidos > 10);
-    QVERIFY2(faltas.isEmpty(), qPrintable(faltas.join(u'\n')));
-}
+
+    void inclusiones()
+    {
+        QFETCH(QString, donde);
+        QFETCH(bool, dentro);
+        QFETCH(QString, prohibidas);
+        const QRegularExpression ruta(donde);
+        const QRegularExpression prohibida(prohibidas);
+        static const QRegularExpression inclusion(u"^\\s*#\\s*include\\s*[<\"]([^>\"]+)"_qs,
+                                                  QRegularExpression::MultilineOption);
+        const QDir raiz(QStringLiteral(OSTREL_SRC));
+        int leidos = 0;
+        QStringList faltas;
+        QDirIterator ficheros(raiz.path(), {u"*.h"_qs, u"*.cpp"_qs}, QDir::Files,
+                              QDirIterator::Subdirectories);
+        while (ficheros.hasNext()) {
+            QFile fichero(ficheros.next());
+            const QString relativa = raiz.relativeFilePath(fichero.fileName());
+            if (ruta.match(relativa).hasMatch() != dentro)
+                continue;
+            QVERIFY(fichero.open(QIODevice::ReadOnly));
+            ++leidos;
+            const QString texto = QString::fromUtf8(fichero.readAll());
+            for (auto i = inclusion.globalMatch(texto); i.hasNext();) {
+                const QString cabecera = i.next().captured(1);
+                if (prohibida.match(cabecera).hasMatch())
+                    faltas += relativa + u" <- "_qs + cabecera;
+            }
+        }
+        QVERIFY(leidos > 10);
+        QVERIFY2(faltas.isEmpty(), qPrintable(faltas.join(u'\n')));
+    }
+};
 
 QTEST_APPLESS_MAIN(TestCapas)
 #include "tst_capas.moc"

@@ -7,9 +7,6 @@
 #include "support/Entorno.h"
 #include "support/Manos.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QFile>
 #include <QSignalSpy>
 
 #include <optional>
@@ -88,43 +85,29 @@ private Q_SLOTS:
         QCOMPARE(m.texto("txtctot"), u"98,76"_qs);
     }
 
-    void formasDeTeclear_data()
-    {
-        QTest::addColumn<QString>("tecleado");
-        QTest::addColumn<QString>("mostrado");
-        QTest::newRow("comma") << u"1234,5"_qs << u"1.234,50"_qs;
-        QTest::newRow("grouped") << u"1.234,56"_qs << u"1.234,56"_qs;
-        QTest::newRow("lone point") << u"1234.56"_qs << u"1.234,56"_qs;
-        QTest::newRow("letters are not taken") << u"12a3"_qs << u"123,00"_qs;
-        QTest::newRow("third decimal is not taken") << u"1,239"_qs << u"1,23"_qs;
-        QTest::newRow("14th digit is not taken")
-            << u"12345678901234"_qs << u"1.234.567.890.123,00"_qs;
-        QTest::newRow("negative") << u"-7"_qs << u"-7,00"_qs;
-        QTest::newRow("emptied") << QString() << QString();
-    }
     void formasDeTeclear()
     {
-        QFETCH(QString, tecleado);
-        QFETCH(QString, mostrado);
         const auto m = manos();
-        m.escribir("txtbliq", tecleado);
-        m.tecla(Qt::Key_Tab);
-        QCOMPARE(m.texto("txtbliq"), mostrado);
-    }
-
-    void puntoDelTecladoNumerico()
-    {
-        const auto m = manos();
+        for (const auto &[tecleado, mostrado] :
+             {std::pair{u"1234,5"_qs, u"1.234,50"_qs},
+              {u"1.234,56"_qs, u"1.234,56"_qs},
+              {u"1234.56"_qs, u"1.234,56"_qs},
+              {u"12a3"_qs, u"123,00"_qs}, // letters, a third decimal, a 14th digit are not taken
+              {u"1,239"_qs, u"1,23"_qs},
+              {u"12345678901234"_qs, u"1.234.567.890.123,00"_qs},
+              {u"-7"_qs, u"-7,00"_qs},
+              {QString(), QString()}}) {
+            m.escribir("txtbliq", tecleado);
+            m.tecla(Qt::Key_Tab);
+            QCOMPARE(m.texto("txtbliq"), mostrado);
+        }
+        // the point of the numeric keypad is the comma
         m.escribir("txtbliq", u"12"_qs);
         QTest::keyEvent(QTest::Click, m.control("txtbliq"), '.', Qt::KeypadModifier);
         QTest::keyClicks(m.control("txtbliq"), u"5"_qs);
         m.tecla(Qt::Key_Tab);
         QCOMPARE(m.texto("txtbliq"), u"12,50"_qs);
-    }
-
-    void corregirDentroDeUnImporteAgrupado()
-    {
-        const auto m = manos();
+        // a digit more within an amount that the program has grouped
         m.escribir("txtbliq", u"1234,56"_qs);
         m.tecla(Qt::Key_Tab);
         m.tecla(Qt::Key_Backtab);
@@ -137,9 +120,9 @@ private Q_SLOTS:
     void importeQueNoSeEntiendeSeQueda()
     {
         ConductorMensajes conductor;
-        conductor.responder(QMessageBox::Ok);
         const auto m = manos();
         m.escribir("txtbliq", u"1.23.4"_qs);
+        conductor.responder(QMessageBox::Ok);
         m.tecla(Qt::Key_Tab);
         QCOMPARE(conductor.texto(), msj(Msj::ImporteIlegible, u"1.23.4"_qs));
         QTRY_COMPARE(m.foco(), u"txtbliq"_qs);
@@ -149,72 +132,62 @@ private Q_SLOTS:
 
     void totalQueNoCabeSeRechazaEnLaCasilla()
     {
+        ConductorMensajes conductor;
         const auto m = manos();
         m.escribir("txtbliq", u"9999999999999,99"_qs);
         m.pulsar("chkrect");
-        ConductorMensajes conductor;
-        conductor.responder(QMessageBox::Ok);
         m.escribir("txtbrect", u"1"_qs);
+        conductor.responder(QMessageBox::Ok);
         m.tecla(Qt::Key_Tab);
         QCOMPARE(conductor.texto(), msj(Msj::ImporteTotalExcedido, msj(Msj::Total)));
         QCOMPARE(unico::la<cDatos430>().BASETOT(), 999999999999999.0);
         QCOMPARE(unico::la<cDatos430>().BASEREC(), 0.0);
     }
 
-    /// However the accept is given, the box that still has the focus counts.
-    void aceptarTomaLaCasillaConElFoco_data()
-    {
-        QTest::addColumn<QString>("como");
-        for (const char *como : {"cmdAceptar", "PicAce", "access key"})
-            QTest::newRow(como) << QString::fromLatin1(como);
-    }
     void aceptarTomaLaCasillaConElFoco()
     {
-        QFETCH(QString, como);
-        const auto m = manos();
-        QSignalSpy siguiente(m_pantalla.get(), &PantallaBase::mostrar);
-        QSignalSpy cambios(m_pantalla.get(), &PantallaBase::datosCambiados);
-        m.escribir("txtbliq", u"500"_qs);
-        if (como == u"access key")
-            m.tecla(Qt::Key_A, Qt::AltModifier);
-        else
-            m.pulsar(qPrintable(como));
-        // a button answers to its access key a moment later
-        QTRY_COMPARE(siguiente.count(), 1);
-        QCOMPARE(siguiente.front().front().value<Pantalla>(), Pantalla::Resumen);
-        QCOMPARE(cambios.count(), 1);
-        const auto filas = declaraciones();
-        QCOMPARE(filas.size(), 1);
-        QCOMPARE(filas.front().toList().value(FilaDeclaracion::IMPORTE).toDouble(), 4000.0);
-        QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_qs);
-        QCOMPARE(unico::la<cDecResumen>().CSDE(),
-                 filas.front().toList().value(FilaDeclaracion::CSDE));
+        int mes = 0;
+        for (const char *como : {"cmdAceptar", "PicAce", "access key"}) {
+            abrir(u"A"_qs);
+            unico::la<cDecResumen>().PERIODO(quint8(++mes));
+            const auto m = manos();
+            QSignalSpy siguiente(m_pantalla.get(), &PantallaBase::mostrar);
+            QSignalSpy cambios(m_pantalla.get(), &PantallaBase::datosCambiados);
+            m.escribir("txtbliq", u"500"_qs);
+            if (qstrcmp(como, "access key") == 0)
+                m.tecla(Qt::Key_A, Qt::AltModifier);
+            else
+                m.pulsar(como);
+            // a button answers to its access key a moment later
+            QTRY_COMPARE(siguiente.count(), 1);
+            QCOMPARE(siguiente.front().front().value<Pantalla>(), Pantalla::Resumen);
+            QCOMPARE(cambios.count(), 1);
+            const auto fila = declaraciones().constLast().toList();
+            QCOMPARE(declaraciones().size(), mes);
+            QCOMPARE(fila.value(FilaDeclaracion::IMPORTE).toDouble(), 4000.0);
+            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_qs);
+            QCOMPARE(unico::la<cDecResumen>().CSDE(), fila.value(FilaDeclaracion::CSDE));
+        }
     }
 
-    void rectificacionSinImportes_data()
-    {
-        QTest::addColumn<QString>("idioma");
-        QTest::newRow("C") << u"C"_qs;
-        QTest::newRow("E") << u"E"_qs;
-    }
     void rectificacionSinImportes()
     {
-        QFETCH(QString, idioma);
-        unico::la<CEntrada>().IDI(idioma);
         ConductorMensajes conductor;
-        conductor.responder(QMessageBox::Ok);
-        conductor.responder(QMessageBox::Ok);
         const auto m = manos();
         m.pulsar("chkrect");
-        m.pulsar("cmdAceptar");
-        m.escribir("txtbrect", u"10"_qs);
-        m.pulsar("cmdAceptar");
-        const auto cajas = conductor.tomar();
-        QCOMPARE(cajas.size(), 2);
-        QCOMPARE(cajas[0].texto, msj(Msj::ErrorRectificacion430));
-        QCOMPARE(cajas[1].texto, msj(Msj::ErrorRectificacion430));
-        QCOMPARE(cajas[0].icono, QMessageBox::Warning);
-        QCOMPARE(m.foco(), u"txtbrect"_qs);
+        for (const auto &[caja, idioma] :
+             {std::pair{"txtbrect", u"C"_qs}, std::pair{"txtcrect", u"E"_qs}}) {
+            unico::la<CEntrada>().IDI(idioma);
+            m.escribir(caja, u"10"_qs);
+            conductor.responder(QMessageBox::Ok);
+            m.pulsar("cmdAceptar");
+            const auto cajas = conductor.tomar();
+            QCOMPARE(cajas.size(), 1);
+            QCOMPARE(cajas[0].texto, msj(Msj::ErrorRectificacion430));
+            QCOMPARE(cajas[0].icono, QMessageBox::Warning);
+            QCOMPARE(m.foco(), u"txtbrect"_qs);
+            m.escribir(caja, {});
+        }
         QVERIFY(m_pantalla->isVisible());
         QVERIFY(declaraciones().isEmpty());
     }
@@ -223,10 +196,8 @@ private Q_SLOTS:
     {
         const auto m = manos();
         m.escribir("txtbliq", u"500"_qs);
-        // somebody else holds the file
-        const QString apartado = rutas().modelo + u".apartado"_qs;
-        QVERIFY(QFile::rename(rutas().modelo, apartado));
         {
+            const ModeloPerdido perdido;
             ConductorMensajes conductor;
             conductor.responder(QMessageBox::Ok);
             m.pulsar("cmdAceptar");
@@ -234,7 +205,6 @@ private Q_SLOTS:
         }
         QVERIFY(m_pantalla->isVisible());
         QCOMPARE(m.texto("txtbliq"), u"500,00"_qs);
-        QVERIFY(QFile::rename(apartado, rutas().modelo));
         m.pulsar("cmdAceptar");
         QCOMPARE(declaraciones().size(), 1);
     }
@@ -254,34 +224,27 @@ private Q_SLOTS:
         QCOMPARE(unico::la<cDecResumen>().CSDE(), csde);
     }
 
-    void cancelarNoGuarda_data()
-    {
-        QTest::addColumn<QString>("como");
-        for (const char *como : {"cmdCancelar", "Piccan", "frame"})
-            QTest::newRow(como) << QString::fromLatin1(como);
-    }
     void cancelarNoGuarda()
     {
-        QFETCH(QString, como);
-        QSignalSpy siguiente(m_pantalla.get(), &PantallaBase::mostrar);
-        manos().escribir("txtbliq", u"500"_qs);
-        if (como == u"frame")
-            m_pantalla->close();
-        else
-            manos().pulsar(qPrintable(como));
-        QCOMPARE(siguiente.count(), 1);
-        QVERIFY(declaraciones().isEmpty());
-        QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_qs);
-        QCOMPARE(unico::la<cDecResumen>().CSDE(), 0);
+        for (const char *como : {"cmdCancelar", "Piccan", "frame"}) {
+            abrir(u"A"_qs);
+            QSignalSpy siguiente(m_pantalla.get(), &PantallaBase::mostrar);
+            manos().escribir("txtbliq", u"500"_qs);
+            if (qstrcmp(como, "frame") == 0)
+                m_pantalla->close();
+            else
+                manos().pulsar(como);
+            QCOMPARE(siguiente.count(), 1);
+            QVERIFY(declaraciones().isEmpty());
+            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_qs);
+        }
     }
 
     void cambioDeIdiomaConservaLoTecleado()
     {
         manos().escribir("txtbliq", u"500"_qs);
         manos().tecla(Qt::Key_Tab);
-        unico::la<CEntrada>().IDI(u"E"_qs);
-        QEvent cambio(QEvent::LanguageChange);
-        QApplication::sendEvent(m_pantalla.get(), &cambio);
+        Entorno::pasarAEuskera(*m_pantalla);
         QCOMPARE(m_pantalla->windowTitle(), u"Aitorpen - Likidazioa 430"_qs);
         QCOMPARE(manos().texto("lblperiodo"), u"URTARRILA"_qs);
         QCOMPARE(manos().texto("txtbliq"), u"500,00"_qs);

@@ -13,7 +13,6 @@
 #include "support/ServicioDosEneros.h"
 
 #include <QApplication>
-#include <QSignalSpy>
 #include <QTreeWidget>
 
 #include <optional>
@@ -65,13 +64,18 @@ private:
         const auto filas = unico::la<cDecResumen>().CargarDeclaraciones();
         return filas.value(0).toList().value(FilaDeclaracion::IMPORTE, -1).toDouble();
     }
-    /// Fills a whole return of 1,000.00 in box 01 by the keyboard and accepts it; its key.
-    qint32 rellenarYGuardar()
+    /// Fills a whole return of 1,000.00 in box 01 by the keyboard.
+    void rellenar()
     {
         manos().escribir("txt01vida", u"1000"_qs);
         manos().pulsar("cmdSiguiente");
         manos().pulsar("PicSig");
         manos().escribir("txt73ba1", u"1000"_qs);
+    }
+    /// Fills a return and accepts it; its key.
+    qint32 rellenarYGuardar()
+    {
+        rellenar();
         manos().pulsar("cmdAceptar");
         return unico::la<cDecResumen>().CSDE();
     }
@@ -140,24 +144,19 @@ private Q_SLOTS:
         QCOMPARE(manos().texto("txt81res"), u"700.007,41"_qs);
     }
 
-    void totalQueNoCuadraSeDice_data()
-    {
-        QTest::addColumn<QString>("idioma");
-        QTest::newRow("C") << u"C"_qs;
-        QTest::newRow("E") << u"E"_qs;
-    }
     void totalQueNoCuadraSeDice()
     {
-        QFETCH(QString, idioma);
-        unico::la<CEntrada>().IDI(idioma);
         manos().escribir("txt01vida", u"5"_qs);
         manos().pulsar("cmdSiguiente");
         manos().pulsar("cmdSiguiente");
-        ConductorMensajes conductor;
-        conductor.responder(QMessageBox::Ok);
-        manos().pulsar("cmdAceptar");
-        QCOMPARE(conductor.texto(), msj(Msj::ErrorTotal480));
-        QCOMPARE(manos().foco(), u"txt73ba1"_qs);
+        for (const QString &idioma : {u"C"_qs, u"E"_qs}) {
+            unico::la<CEntrada>().IDI(idioma);
+            ConductorMensajes conductor;
+            conductor.responder(QMessageBox::Ok);
+            manos().pulsar("cmdAceptar");
+            QCOMPARE(conductor.texto(), msj(Msj::ErrorTotal480));
+            QCOMPARE(manos().foco(), u"txt73ba1"_qs);
+        }
         QCOMPARE(importeGuardado(), -1.0);
     }
 
@@ -184,10 +183,8 @@ private Q_SLOTS:
         manos().pulsar("cmdSiguiente");
         manos().pulsar("cmdSiguiente");
         // were anything saved, the missing file would be told
-        const QString apartado = rutas().modelo + u".apartado"_qs;
-        QVERIFY(QFile::rename(rutas().modelo, apartado));
+        const ModeloPerdido perdido;
         manos().pulsar("cmdAceptar");
-        QVERIFY(QFile::rename(apartado, rutas().modelo));
         QCOMPARE(m_pedidas.size(), 2);
         QCOMPARE(unico::la<cDecResumen>().CSDE(), csde);
     }
@@ -204,43 +201,32 @@ private Q_SLOTS:
 
     void guardadoQueFallaConservaTodo()
     {
-        manos().escribir("txt01vida", u"1000"_qs);
-        manos().pulsar("cmdSiguiente");
-        manos().pulsar("cmdSiguiente");
-        manos().escribir("txt73ba1", u"1000"_qs);
-        const QString apartado = rutas().modelo + u".apartado"_qs;
-        QVERIFY(QFile::rename(rutas().modelo, apartado));
+        rellenar();
         {
+            const ModeloPerdido perdido;
             ConductorMensajes conductor;
             conductor.responder(QMessageBox::Ok);
             manos().pulsar("PicAce");
             QVERIFY(conductor.texto().contains(u"OstrMod.mdb"_qs));
         }
-        QVERIFY(QFile::rename(apartado, rutas().modelo));
         QVERIFY(m_pedidas.isEmpty());
         manos().pulsar("PicAce");
         QCOMPARE(importeGuardado(), 8000.0);
     }
 
-    void cancelarDesdeCadaPagina_data()
-    {
-        QTest::addColumn<int>("avances");
-        QTest::addColumn<QString>("boton");
-        QTest::newRow("first") << 0 << u"cmdCancelar"_qs;
-        QTest::newRow("second") << 1 << u"Piccan"_qs;
-        QTest::newRow("third") << 2 << u"cmdCancelar"_qs;
-    }
     void cancelarDesdeCadaPagina()
     {
-        QFETCH(int, avances);
-        QFETCH(QString, boton);
-        manos().escribir("txt01vida", u"5"_qs);
-        for (int i = 0; i < avances; ++i)
-            manos().pulsar("cmdSiguiente");
-        manos().pulsar(qPrintable(boton));
-        QCOMPARE(m_pedidas, QList{Pantalla::Resumen});
-        QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_qs);
-        QCOMPARE(importeGuardado(), -1.0);
+        for (int avances = 0; avances < 3; ++avances) {
+            m_pedidas.clear();
+            abrir(Pantalla::Datos480a);
+            manos().escribir("txt01vida", u"5"_qs);
+            for (int i = 0; i < avances; ++i)
+                manos().pulsar("cmdSiguiente");
+            manos().pulsar(avances == 1 ? "Piccan" : "cmdCancelar");
+            QCOMPARE(m_pedidas, QList{Pantalla::Resumen});
+            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_qs);
+            QCOMPARE(importeGuardado(), -1.0);
+        }
     }
 
     void listaDeMensuales()
@@ -249,21 +235,44 @@ private Q_SLOTS:
         manos().pulsar("cmdSiguiente");
         QCOMPARE(manos().texto("lblNo430"), msj(Msj::SinDeclaracionesMensuales));
         QVERIFY(!manos().control("lst430")->isVisible());
-        // two returns of January, one of March
-        const ServicioDosEneros doble;
+        auto &cabecera = unico::la<cDecResumen>();
+        cabecera.CambiarModelo(u"430"_qs);
+        for (const quint8 mes : QList<quint8>{1, 3}) {
+            cDatos430 mensual;
+            cabecera.PERIODO(mes);
+            mensual.BASELIQ(10000.0 * mes);
+            mensual.TIPOLIQ(10);
+            mensual.CalcularValores();
+            QVERIFY(mensual.GuardarDeclaracion(mensual.RegistroGuardar()) > 0);
+        }
+        cabecera.CambiarModelo(u"480"_qs);
         manos().pulsar("cmdanterior");
         manos().pulsar("cmdSiguiente");
         const auto *lista = manos().control<QTreeWidget>("lst430");
         QVERIFY(lista->isVisible());
         QCOMPARE(lista->topLevelItemCount(), 12);
         QCOMPARE(lista->topLevelItem(0)->text(0), u"ENERO"_qs);
-        QCOMPARE(lista->topLevelItem(0)->text(1), u"200,00"_qs);
-        QCOMPARE(lista->topLevelItem(0)->text(2), u"20,00"_qs);
+        QCOMPARE(lista->topLevelItem(0)->text(1), u"100,00"_qs);
         QCOMPARE(lista->topLevelItem(1)->text(1), QString());
         QCOMPARE(lista->topLevelItem(2)->text(2), u"30,00"_qs);
+        QVERIFY(manos().texto("lblTotales430").contains(u"400,00"_qs));
+        QVERIFY(manos().texto("lblTotales430").contains(u"40,00"_qs));
+        QVERIFY(manos().control("picCuotas")->accessibleDescription().contains(u"MARZO: 30,00"_qs));
+        Entorno::pasarAEuskera(*m_pagina);
+        QCOMPARE(lista->topLevelItem(0)->text(0), u"URTARRILA"_qs);
+    }
+
+    /// The last of two returns of one month is shown, both count.
+    void dosDeclaracionesDeUnMes()
+    {
+        const ServicioDosEneros doble;
+        manos().pulsar("cmdSiguiente");
+        manos().pulsar("cmdSiguiente");
+        const auto *lista = manos().control<QTreeWidget>("lst430");
+        QCOMPARE(lista->topLevelItem(0)->text(1), u"200,00"_qs);
+        QCOMPARE(lista->topLevelItem(0)->text(2), u"20,00"_qs);
         QVERIFY(manos().texto("lblTotales430").contains(u"600,00"_qs));
         QVERIFY(manos().texto("lblTotales430").contains(u"60,00"_qs));
-        QVERIFY(manos().control("picCuotas")->accessibleDescription().contains(u"MARZO: 30,00"_qs));
     }
 };
 

@@ -9,26 +9,6 @@
 #include <QTcpServer>
 #include <QTest>
 
-/// Both copies through a real print queue: a CUPS server of our own on a free port, with the PDF
-/// printer behind it.
-class tst_impreso_cola : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void initTestCase();
-    void dosDocumentos();
-    void cleanupTestCase();
-
-private:
-    bool iniciarCups();
-    bool ejecutar(const QString &programa, const QStringList &argumentos);
-    void escribir(const QString &nombre, const QString &texto);
-
-    QTemporaryDir m_carpeta;
-    QProcess m_cups;
-};
-
 static const QString Cola = u"OstrelPrueba"_qs;
 
 static QString programa(const QString &nombre)
@@ -37,88 +17,100 @@ static QString programa(const QString &nombre)
         nombre, {u"/usr/sbin"_qs, u"/usr/bin"_qs, u"/usr/lib/cups/backend"_qs});
 }
 
-void tst_impreso_cola::escribir(const QString &nombre, const QString &texto)
+/// Both copies through a real print queue: a CUPS server of our own on a free port, with the PDF
+/// printer behind it.
+class tst_impreso_cola : public QObject
 {
-    QFile fichero(m_carpeta.filePath(nombre));
-    QVERIFY(fichero.open(QIODevice::WriteOnly));
-    fichero.write(texto.toUtf8());
-}
+    Q_OBJECT
 
-bool tst_impreso_cola::ejecutar(const QString &nombre, const QStringList &argumentos)
-{
-    QProcess proceso;
-    proceso.start(programa(nombre), argumentos);
-    return proceso.waitForFinished() && proceso.exitCode() == 0;
-}
-
-bool tst_impreso_cola::iniciarCups()
-{
-    QTcpServer puerto;
-    if (!puerto.listen(QHostAddress::LocalHost))
-        return false;
-    const QString servidor = u"127.0.0.1:"_qs + QString::number(puerto.serverPort());
-    puerto.close();
-    for (const char *sub : {"estado", "cola", "tmp", "cache", "salida"})
-        QDir(m_carpeta.path()).mkpath(QString::fromLatin1(sub));
-    const QString raiz = m_carpeta.path();
-    escribir(u"cups-files.conf"_qs,
-             u"ServerRoot %1\nStateDir %1/estado\nRequestRoot %1/cola\nTempDir %1/tmp\n"
-             "CacheDir %1/cache\nErrorLog %1/error_log\nAccessLog %1/access_log\n"
-             "PageLog %1/page_log\nFileDevice Yes\n"_qs.arg(raiz));
-    escribir(
-        u"cupsd.conf"_qs,
-        u"Listen %1\nBrowsing Off\nDefaultAuthType None\nPreserveJobFiles Yes\n"
-        "PreserveJobHistory Yes\n<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
-        "<Policy default>\n<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_qs.arg(
-            servidor));
-    qputenv("CUPS_SERVER", servidor.toLatin1());
-    m_cups.start(
-        programa(u"cupsd"_qs),
-        {u"-f"_qs, u"-c"_qs, raiz + u"/cupsd.conf"_qs, u"-s"_qs, raiz + u"/cups-files.conf"_qs});
-    return m_cups.waitForStarted();
-}
-
-void tst_impreso_cola::initTestCase()
-{
-    for (const char *nombre : {"cupsd", "lpadmin", "cups-pdf"})
-        if (programa(QString::fromLatin1(nombre)).isEmpty())
-            QSKIP("needs cups and printer-driver-cups-pdf");
-    QVERIFY(iniciarCups());
-    QTRY_VERIFY(ejecutar(u"lpadmin"_qs,
-                         {u"-p"_qs, Cola, u"-E"_qs, u"-v"_qs, u"cups-pdf:/"_qs, u"-m"_qs,
-                          u"lsb/usr/cups-pdf/CUPS-PDF_opt.ppd"_qs}));
-    QTRY_VERIFY(SalidaImpresora::hayImpresoras());
-}
-
-void tst_impreso_cola::dosDocumentos()
-{
-    const Entorno entorno;
-    pedirImpresion(u"430"_qs);
-    TrabajoImpresion trabajo(unico::la<cImOf>());
-    SalidaImpresora salida;
-    QVERIFY(!salida.elegir(u"OtraQueNoExiste"_qs));
-    QVERIFY(salida.elegir(Cola));
-    QVERIFY(salida.imprimir(trabajo));
-    // the server keeps what each job sent it: d00001-001, d00002-001
-    const QDir cola(m_carpeta.filePath(u"cola"_qs));
-    QTRY_COMPARE(cola.entryList({u"d*"_qs}, QDir::Files).size(), 2);
-    const QStringList trabajos = cola.entryList({u"d*"_qs}, QDir::Files, QDir::Name);
-    const char *leyendas[] = {"ADMINISTRACIÓN", "INTERESADO"};
-    for (int i = 0; i < 2; ++i) {
-        QProcess texto;
-        texto.start(u"pdftotext"_qs, {cola.filePath(trabajos[i]), u"-"_qs});
-        QVERIFY(texto.waitForFinished());
-        QVERIFY(texto.readAllStandardOutput().contains(leyendas[i]));
+private Q_SLOTS:
+    void initTestCase()
+    {
+        for (const char *nombre : {"cupsd", "lpadmin", "cups-pdf"})
+            if (programa(QString::fromLatin1(nombre)).isEmpty())
+                QSKIP("needs cups and printer-driver-cups-pdf");
+        QVERIFY(iniciarCups());
+        QTRY_VERIFY(ejecutar(u"lpadmin"_qs,
+                             {u"-p"_qs, Cola, u"-E"_qs, u"-v"_qs, u"cups-pdf:/"_qs, u"-m"_qs,
+                              u"lsb/usr/cups-pdf/CUPS-PDF_opt.ppd"_qs}));
+        QTRY_VERIFY(SalidaImpresora::hayImpresoras());
     }
-}
 
-void tst_impreso_cola::cleanupTestCase()
-{
-    if (m_cups.state() == QProcess::NotRunning)
-        return;
-    m_cups.terminate();
-    m_cups.waitForFinished(5000);
-}
+    void dosDocumentos()
+    {
+        const Entorno entorno;
+        pedirImpresion(u"430"_qs);
+        TrabajoImpresion trabajo(unico::la<cImOf>());
+        SalidaImpresora salida;
+        QVERIFY(!salida.elegir(u"OtraQueNoExiste"_qs));
+        QVERIFY(salida.elegir(Cola));
+        QVERIFY(salida.imprimir(trabajo));
+        // the server keeps what each job sent it: d00001-001, d00002-001
+        const QDir cola(m_carpeta.filePath(u"cola"_qs));
+        QTRY_COMPARE(cola.entryList({u"d*"_qs}, QDir::Files).size(), 2);
+        const QStringList trabajos = cola.entryList({u"d*"_qs}, QDir::Files, QDir::Name);
+        const char *leyendas[] = {"ADMINISTRACIÓN", "INTERESADO"};
+        for (int i = 0; i < 2; ++i) {
+            QProcess texto;
+            texto.start(u"pdftotext"_qs, {cola.filePath(trabajos[i]), u"-"_qs});
+            QVERIFY(texto.waitForFinished());
+            QVERIFY(texto.readAllStandardOutput().contains(leyendas[i]));
+        }
+    }
+
+    void cleanupTestCase()
+    {
+        if (m_cups.state() == QProcess::NotRunning)
+            return;
+        m_cups.terminate();
+        m_cups.waitForFinished(5000);
+    }
+
+private:
+    bool iniciarCups()
+    {
+        QTcpServer puerto;
+        if (!puerto.listen(QHostAddress::LocalHost))
+            return false;
+        const QString servidor = u"127.0.0.1:"_qs + QString::number(puerto.serverPort());
+        puerto.close();
+        for (const char *sub : {"estado", "cola", "tmp", "cache", "salida"})
+            QDir(m_carpeta.path()).mkpath(QString::fromLatin1(sub));
+        const QString raiz = m_carpeta.path();
+        escribir(u"cups-files.conf"_qs,
+                 u"ServerRoot %1\nStateDir %1/estado\nRequestRoot %1/cola\nTempDir %1/tmp\n"
+                 "CacheDir %1/cache\nErrorLog %1/error_log\nAccessLog %1/access_log\n"
+                 "PageLog %1/page_log\nFileDevice Yes\n"_qs.arg(raiz));
+        escribir(
+            u"cupsd.conf"_qs,
+            u"Listen %1\nBrowsing Off\nDefaultAuthType None\nPreserveJobFiles Yes\n"
+            "PreserveJobHistory Yes\n<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
+            "<Policy default>\n<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_qs
+                .arg(servidor));
+        qputenv("CUPS_SERVER", servidor.toLatin1());
+        m_cups.start(programa(u"cupsd"_qs),
+                     {u"-f"_qs, u"-c"_qs, raiz + u"/cupsd.conf"_qs, u"-s"_qs,
+                      raiz + u"/cups-files.conf"_qs});
+        return m_cups.waitForStarted();
+    }
+
+    bool ejecutar(const QString &nombre, const QStringList &argumentos)
+    {
+        QProcess proceso;
+        proceso.start(programa(nombre), argumentos);
+        return proceso.waitForFinished() && proceso.exitCode() == 0;
+    }
+
+    void escribir(const QString &nombre, const QString &texto)
+    {
+        QFile fichero(m_carpeta.filePath(nombre));
+        QVERIFY(fichero.open(QIODevice::WriteOnly));
+        fichero.write(texto.toUtf8());
+    }
+
+    QTemporaryDir m_carpeta;
+    QProcess m_cups;
+};
 
 QTEST_MAIN(tst_impreso_cola)
 #include "tst_impreso_cola.moc"

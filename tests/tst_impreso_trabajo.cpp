@@ -1,5 +1,3 @@
-#include "core/Textos.h"
-#include "core/cFecha.h"
 #include "declarants/cDecResumen.h"
 #include "printing/Copias.h"
 #include "printing/TomarValores.h"
@@ -13,41 +11,6 @@
 #include <QTest>
 
 namespace {
-
-/// What was asked of the heading service.
-struct Registrado
-{
-    QList<qint16> idiomas;
-    qint16 alPedir = -1;
-    int titulares = 0;
-    int objetos = 0;
-    int vivos = 0;
-};
-
-class MiscelaneosDoble : public SvrKtComunLib::cMiscelaneos
-{
-public:
-    explicit MiscelaneosDoble(Registrado &r)
-        : m_r(r)
-    {
-        ++m_r.objetos;
-        ++m_r.vivos;
-    }
-    ~MiscelaneosDoble() override { --m_r.vivos; }
-    void Idioma(qint16 idioma) override { m_r.idiomas += idioma; }
-    void Parent(quintptr) override {}
-    QString HaciendaFiscalidad() override
-    {
-        ++m_r.titulares;
-        m_r.alPedir = m_r.idiomas.constLast();
-        return u"Saila\nDepartamento"_qs;
-    }
-    void AccesoAyuOnline() override {}
-    void MostrarOnlineInfo() override {}
-
-private:
-    Registrado &m_r;
-};
 
 QStringList textos(TrabajoImpresion &trabajo, const QString &copia)
 {
@@ -68,149 +31,113 @@ class tst_impreso_trabajo : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void modelo430_data();
-    void modelo430();
-    void modelo480();
-    void otraProvincia();
-    void titularDeHacienda();
-    void documentos();
-    void registrosIntactos();
-    void noExiste();
-};
-
-void tst_impreso_trabajo::modelo430_data()
-{
-    QTest::addColumn<QString>("idioma");
-    QTest::addColumn<QString>("fecha");
-    QTest::newRow("C") << u"C"_qs << u"31/01/2026"_qs;
-    QTest::newRow("E") << u"E"_qs << u"2026/01/31"_qs;
-}
-
-void tst_impreso_trabajo::modelo430()
-{
-    QFETCH(QString, idioma);
-    QFETCH(QString, fecha);
-    const Entorno entorno(idioma);
-    pedirImpresion(u"430"_qs);
-    // a header that says otherwise is of no account
-    unico::la<cDecResumen>().PERIODICIDAD(2);
-    TrabajoImpresion trabajo(unico::la<cImOf>());
-    const QStringList impreso = textos(trabajo, u"AD"_qs);
-    // totals: 1234.56 + 1000.00, 8 %, 98.76 + 80.00
-    for (const QString &esperado :
-         {u"2.234,56"_qs, u"8,00"_qs, u"URTARRILA / ENERO"_qs, u"A58818501"_qs, u"SEGUROS UNO"_qs,
-          u"VARLENDA"_qs, u"2026"_qs, fecha, u"943000000"_qs, u"CL MAYOR"_qs})
-        QVERIFY2(impreso.contains(esperado), qPrintable(esperado));
-    QCOMPARE(impreso.count(u"178,76"_qs), 2); // line 3 and the slip
-    QCOMPARE(trabajo.nombreFichero(trabajo.copias()), u"430_2026-01_A58818501_AD-IT.pdf"_qs);
-}
-
-void tst_impreso_trabajo::modelo480()
-{
-    const Entorno entorno;
-    pedirImpresion(u"480"_qs);
-    TrabajoImpresion trabajo(unico::la<cImOf>());
-    const QStringList impreso = textos(trabajo, u"IT"_qs);
-    QCOMPARE(impreso.count(u"10.000,00"_qs), 3); // boxes 01, 70, 73
-    QCOMPARE(impreso.count(u"2.345,67"_qs), 2); // 02, 71
-    QCOMPARE(impreso.count(u"12.345,67"_qs), 2); // 03, 72
-    QCOMPARE(impreso.count(u"800,00"_qs), 2); // 75, 81
-    QVERIFY(impreso.contains(u"URTEKOA / ANUAL"_qs));
-    QCOMPARE(trabajo.nombreFichero({u"IT"_qs}), u"480_2026_A58818501_IT.pdf"_qs);
-}
-
-void tst_impreso_trabajo::otraProvincia()
-{
-    const Entorno entorno;
-    auto &d = unico::la<cDecDatos>();
-    d.MODO(u"A"_qs);
-    d.CODPROV(u"48"_qs);
-    d.NOMPROV(u"LA DEL REGISTRO"_qs);
-    d.CODMUN(u"001"_qs);
-    d.NOMMUN(u"MUNICIPIO TECLEADO"_qs);
-    auto valores = tomarValores430({});
-    QCOMPARE(valores.texto(Valor::Municipio), u"MUNICIPIO TECLEADO"_qs);
-    QCOMPARE(valores.texto(Valor::Provincia), u"LA DEL REGISTRO"_qs);
-    QCOMPARE(valores.texto(Valor::Numero), QString());
-    QCOMPARE(valores.texto(Valor::Piso), QString());
-
-    d.CODPROV(u"20"_qs);
-    valores = tomarValores430({});
-    QCOMPARE(valores.texto(Valor::Provincia), u"VARLENDA"_qs);
-    QVERIFY(valores.texto(Valor::Municipio) != u"MUNICIPIO TECLEADO");
-    d.CODMUN(u"998"_qs); // unknown to the service
-    QCOMPARE(tomarValores430({}).texto(Valor::Municipio), u"MUNICIPIO TECLEADO"_qs);
-}
-
-void tst_impreso_trabajo::titularDeHacienda()
-{
-    const Entorno entorno;
-    pedirImpresion(u"430"_qs);
-    Registrado r;
-    servicio::registrar(SvrKtComunLib::cMiscelaneos::ID,
-                        [&r] { return std::make_unique<MiscelaneosDoble>(r); });
+    void modelo430()
     {
-        TrabajoImpresion trabajo(unico::la<cImOf>());
-        QVERIFY(textos(trabajo, u"AD"_qs).contains(u"Saila"_qs));
-        QVERIFY(textos(trabajo, u"IT"_qs).contains(u"Departamento"_qs));
-        QCOMPARE(r.vivos, 1);
+        for (const auto &[idioma, fecha] :
+             {std::pair{u"C"_qs, u"31/01/2026"_qs}, {u"E"_qs, u"2026/01/31"_qs}}) {
+            const Entorno entorno(idioma);
+            pedirImpresion(u"430"_qs);
+            // a header that says otherwise is of no account
+            unico::la<cDecResumen>().PERIODICIDAD(2);
+            TrabajoImpresion trabajo(unico::la<cImOf>());
+            const QStringList impreso = textos(trabajo, u"AD"_qs);
+            // totals: 1234.56 + 1000.00, 8 %, 98.76 + 80.00
+            for (const QString &esperado : {u"2.234,56"_qs, u"8,00"_qs, u"URTARRILA / ENERO"_qs,
+                                            u"A58818501"_qs, u"SEGUROS UNO"_qs, u"VARLENDA"_qs,
+                                            u"2026"_qs, fecha, u"943000000"_qs, u"CL MAYOR"_qs})
+                QVERIFY2(impreso.contains(esperado), qPrintable(esperado));
+            QCOMPARE(impreso.count(u"178,76"_qs), 2); // line 3 and the slip
+            QCOMPARE(trabajo.nombreFichero(trabajo.copias()),
+                     u"430_2026-01_A58818501_AD-IT.pdf"_qs);
+        }
     }
-    QCOMPARE(r.objetos, 1);
-    QCOMPARE(r.vivos, 0);
-    QCOMPARE(r.titulares, 2);
-    QCOMPARE(r.alPedir, qint16(1000));
-    QCOMPARE(r.idiomas, (QList<qint16>{1000, 0, 1000, 0}));
-}
 
-void tst_impreso_trabajo::documentos()
-{
-    const Entorno entorno;
-    pedirImpresion(u"430"_qs);
-    TrabajoImpresion trabajo(unico::la<cImOf>());
-    QCOMPARE(trabajo.copias(), (QStringList{u"AD"_qs, u"IT"_qs}));
-    QBuffer memoria;
-    memoria.open(QIODevice::WriteOnly);
-    QPdfWriter dispositivo(&memoria);
-    prepararPagina(dispositivo);
-    QList<qsizetype> comienzos;
-    QVERIFY(trabajo.imprimir(dispositivo, [&] { comienzos += memoria.size(); }));
-    QCOMPARE(comienzos.size(), 2);
-    QCOMPARE(memoria.data().count("%%EOF"), 2);
-    QVERIFY(comienzos[1] > 10000);
-    // all in one
-    const QByteArray junto = trabajo.pdf(trabajo.copias());
-    QCOMPARE(junto.count("%%EOF"), 1);
-    QVERIFY(junto.contains("/Count 2"));
-    unico::la<cImOf>().PedirBorrador();
-    QCOMPARE(TrabajoImpresion(unico::la<cImOf>()).copias(), QStringList{u"BO"_qs});
-}
+    /// The records of a screen that shows the return stay as they are.
+    void modelo480()
+    {
+        const Entorno entorno;
+        const qint32 csde = pedirImpresion(u"480"_qs);
+        auto &figuras = unico::la<cDatos480>();
+        figuras.CSDE(csde);
+        figuras.CargarDeclaracion(csde);
+        const Registro antes = figuras.RegistroGuardar();
+        const Registro cabeceraAntes = unico::la<cDecResumen>().Cabecera();
+        TrabajoImpresion trabajo(unico::la<cImOf>());
+        const QStringList impreso = textos(trabajo, u"IT"_qs);
+        QCOMPARE(impreso.count(u"10.000,00"_qs), 3); // boxes 01, 70, 73
+        QCOMPARE(impreso.count(u"2.345,67"_qs), 2); // 02, 71
+        QCOMPARE(impreso.count(u"12.345,67"_qs), 2); // 03, 72
+        QCOMPARE(impreso.count(u"800,00"_qs), 2); // 75, 81
+        QVERIFY(impreso.contains(u"URTEKOA / ANUAL"_qs));
+        QCOMPARE(trabajo.nombreFichero({u"IT"_qs}), u"480_2026_A58818501_IT.pdf"_qs);
+        QCOMPARE(figuras.RegistroGuardar(), antes);
+        QCOMPARE(unico::la<cDecResumen>().Cabecera(), cabeceraAntes);
+    }
 
-void tst_impreso_trabajo::registrosIntactos()
-{
-    const Entorno entorno;
-    const qint32 csde = pedirImpresion(u"480"_qs);
-    auto &cabecera = unico::la<cDecResumen>();
-    auto &figuras = unico::la<cDatos480>();
-    figuras.MODO(u"C"_qs);
-    figuras.CSDE(csde);
-    figuras.CargarDeclaracion(csde);
-    const Registro antes = figuras.RegistroGuardar();
-    const Registro cabeceraAntes = cabecera.Cabecera();
-    TrabajoImpresion trabajo(unico::la<cImOf>());
-    QVERIFY(!trabajo.pdf(trabajo.copias()).isEmpty());
-    QCOMPARE(figuras.RegistroGuardar(), antes);
-    QCOMPARE(cabecera.Cabecera(), cabeceraAntes);
-    QCOMPARE(unico::la<cImOf>().FECHAPRE(), 20260131);
-    QCOMPARE(desplazamientoIdioma(), qint16(0));
-}
+    void otraProvincia()
+    {
+        const Entorno entorno;
+        auto &d = unico::la<cDecDatos>();
+        d.MODO(u"A"_qs);
+        d.CODPROV(u"48"_qs);
+        d.NOMPROV(u"LA DEL REGISTRO"_qs);
+        d.CODMUN(u"001"_qs);
+        d.NOMMUN(u"MUNICIPIO TECLEADO"_qs);
+        auto valores = tomarValores430({});
+        QCOMPARE(valores.texto(Valor::Municipio), u"MUNICIPIO TECLEADO"_qs);
+        QCOMPARE(valores.texto(Valor::Provincia), u"LA DEL REGISTRO"_qs);
+        QCOMPARE(valores.texto(Valor::Numero), QString());
+        QCOMPARE(valores.texto(Valor::Piso), QString());
 
-void tst_impreso_trabajo::noExiste()
-{
-    const Entorno entorno;
-    pedirImpresion(u"430"_qs);
-    unico::la<cImOf>().CSDE(9999);
-    QVERIFY_EXCEPTION_THROWN(TrabajoImpresion(unico::la<cImOf>()), std::exception);
-}
+        d.CODPROV(u"20"_qs);
+        valores = tomarValores430({});
+        QCOMPARE(valores.texto(Valor::Provincia), u"VARLENDA"_qs);
+        QVERIFY(valores.texto(Valor::Municipio) != u"MUNICIPIO TECLEADO");
+        d.CODMUN(u"998"_qs); // unknown to the service
+        QCOMPARE(tomarValores430({}).texto(Valor::Municipio), u"MUNICIPIO TECLEADO"_qs);
+    }
+
+    void titularDeHacienda()
+    {
+        const Entorno entorno(u"E"_qs);
+        pedirImpresion(u"430"_qs);
+        TrabajoImpresion trabajo(unico::la<cImOf>());
+        const QStringList impreso = textos(trabajo, u"AD"_qs);
+        QVERIFY(impreso.contains(u"Ogasun eta Finantza Saila"_qs));
+        QVERIFY(impreso.contains(u"Departamento de Hacienda y Finanzas"_qs));
+    }
+
+    void documentos()
+    {
+        const Entorno entorno;
+        pedirImpresion(u"430"_qs);
+        TrabajoImpresion trabajo(unico::la<cImOf>());
+        QCOMPARE(trabajo.copias(), (QStringList{u"AD"_qs, u"IT"_qs}));
+        QBuffer memoria;
+        memoria.open(QIODevice::WriteOnly);
+        QPdfWriter dispositivo(&memoria);
+        prepararPagina(dispositivo);
+        QList<qsizetype> comienzos;
+        QVERIFY(trabajo.imprimir(dispositivo, [&] { comienzos += memoria.size(); }));
+        QCOMPARE(comienzos.size(), 2);
+        QCOMPARE(memoria.data().count("%%EOF"), 2);
+        QVERIFY(comienzos[1] > 10000);
+        // all in one
+        const QByteArray junto = trabajo.pdf(trabajo.copias());
+        QCOMPARE(junto.count("%%EOF"), 1);
+        QVERIFY(junto.contains("/Count 2"));
+        unico::la<cImOf>().PedirBorrador();
+        QCOMPARE(TrabajoImpresion(unico::la<cImOf>()).copias(), QStringList{u"BO"_qs});
+    }
+
+    void noExiste()
+    {
+        const Entorno entorno;
+        pedirImpresion(u"430"_qs);
+        unico::la<cImOf>().CSDE(9999);
+        QVERIFY_EXCEPTION_THROWN(TrabajoImpresion(unico::la<cImOf>()), std::exception);
+    }
+};
 
 QTEST_MAIN(tst_impreso_trabajo)
 #include "tst_impreso_trabajo.moc"

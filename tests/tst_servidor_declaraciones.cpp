@@ -9,7 +9,7 @@ private Q_SLOTS:
     {
         m_servidor.emplace();
         QVERIFY(!m_servidor->traspaso());
-        m_declarante = m_servidor->alta(QStringLiteral("12345678Z"), QStringLiteral("ANA"));
+        m_declarante = m_servidor->alta(u"12345678Z"_qs, u"ANA"_qs);
         QVERIFY(m_declarante > 0);
     }
 
@@ -29,11 +29,9 @@ private Q_SLOTS:
         QCOMPARE(figuras, datos480.mid(RegGuardar::Figuras));
         Filas filas;
         QCOMPARE(objeto->dameResultado(filas, m_declarante), 2);
-        QCOMPARE(
-            filas[0].toList(),
-            (QVariantList{mensual, 2026, 1, 3, QStringLiteral("430"), 1, 999'999'999'999'999.0}));
-        QCOMPARE(filas[1].toList(),
-                 (QVariantList{anual, 2026, 2, 12, QStringLiteral("480"), 2, 56.0}));
+        QCOMPARE(filas[0].toList(),
+                 (QVariantList{mensual, 2026, 1, 3, u"430"_qs, 1, 999'999'999'999'999.0}));
+        QCOMPARE(filas[1].toList(), (QVariantList{anual, 2026, 2, 12, u"480"_qs, 2, 56.0}));
         QCOMPARE(contadores(), (QVariantList{1.0, 1.0}));
     }
 
@@ -52,9 +50,9 @@ private Q_SLOTS:
         objeto->Cargar430(clave, figuras);
         QCOMPARE(figuras, nuevo.mid(RegGuardar::Figuras));
         QCOMPARE(contadores(), (QVariantList{1.0, 0.0}));
-        QCOMPARE(objeto->ValidarDatosComunes(
-                     {2026, 1, 3, 2002, 1, 2030, 12, QStringLiteral("430"), m_declarante}),
-                 5);
+        QCOMPARE(
+            objeto->ValidarDatosComunes({2026, 1, 3, 2002, 1, 2030, 12, u"430"_qs, m_declarante}),
+            5);
         QCOMPARE(falloDe([&] { objeto->Guardar430(ServidorPrueba::datos430(999, 2026, 1, 1.0)); }),
                  Fallo::NoEncontrado);
         QCOMPARE(falloDe([&] {
@@ -63,73 +61,57 @@ private Q_SLOTS:
                  Fallo::NoEncontrado);
     }
 
-    void rechazados_data()
-    {
-        using namespace RegGuardar;
-        QTest::addColumn<int>("campo");
-        QTest::addColumn<QVariant>("valor");
-        QTest::newRow("short") << -1 << QVariant();
-        QTest::newRow("half a cent") << int(Figuras) + Reg430::BASELIQ << QVariant(1.5);
-        QTest::newRow("not a number") << int(Figuras) + Reg430::BASELIQ << QVariant(qQNaN());
-        QTest::newRow("infinite") << int(Figuras) + Reg430::CUOTATOT << QVariant(qInf());
-        QTest::newRow("16 digits") << int(Figuras) + Reg430::CUOTATOT << QVariant(1e15);
-        QTest::newRow("text") << int(Figuras) + Reg430::BASELIQ << QVariant(QStringLiteral("1"));
-        QTest::newRow("rate") << int(Figuras) + Reg430::TIPOLIQ << QVariant(8.123F);
-        QTest::newRow("period 13") << int(PERIODO) << QVariant(13);
-        QTest::newRow("other model") << int(MODELO) << QVariant(QStringLiteral("480"));
-        QTest::newRow("periodicity") << int(PERIODICIDAD) << QVariant(2);
-        QTest::newRow("no declarant") << int(CSCO) << QVariant(0);
-    }
     void rechazados()
     {
-        QFETCH(int, campo);
-        QFETCH(QVariant, valor);
-        Registro datos = ServidorPrueba::datos430(m_declarante, 2026, 3, 1.0);
-        if (campo < 0)
-            datos.removeLast();
-        else
+        using namespace RegGuardar;
+        const Registro bueno = ServidorPrueba::datos430(m_declarante, 2026, 3, 1.0);
+        const int base = int(Figuras) + Reg430::BASELIQ;
+        const int total = int(Figuras) + Reg430::CUOTATOT;
+        QCOMPARE(m_servidor->declaraciones()->Guardar430(bueno.first(bueno.size() - 1)), 0);
+        for (const auto &[campo, valor] : {std::pair{base, QVariant(1.5)},
+                                           {base, QVariant(qQNaN())},
+                                           {base, QVariant(u"1"_qs)},
+                                           {total, QVariant(qInf())},
+                                           {total, QVariant(1e15)},
+                                           {int(Figuras) + Reg430::TIPOLIQ, QVariant(8.123F)},
+                                           {int(PERIODO), QVariant(13)},
+                                           {int(MODELO), QVariant(u"480"_qs)},
+                                           {int(PERIODICIDAD), QVariant(2)},
+                                           {int(CSCO), QVariant(0)}}) {
+            Registro datos = bueno;
             datos[campo] = valor;
-        QCOMPARE(m_servidor->declaraciones()->Guardar430(datos), 0);
+            QCOMPARE(m_servidor->declaraciones()->Guardar430(datos), 0);
+        }
         QCOMPARE(importes(), QVariantList());
     }
 
-    void ultima()
+    void ultimaYMensuales()
     {
         const auto objeto = m_servidor->declaraciones();
         Registro cabecera{m_declarante};
         qint32 clave = 77;
         QVERIFY(!objeto->ObtenerUltimaDeclaracion(cabecera, clave));
         QCOMPARE(clave, 77);
+        const auto guardar430 = [&](int ejercicio, int periodo) {
+            return objeto->Guardar430(
+                ServidorPrueba::datos430(m_declarante, ejercicio, periodo, 1.0));
+        };
         const auto esperar = [&](qint32 guardada, const Registro &comunes) {
             QVERIFY(objeto->ObtenerUltimaDeclaracion(cabecera, clave));
             QCOMPARE(clave, guardada);
             QCOMPARE(cabecera, Registro{m_declarante} + comunes);
         };
-        const QString m430 = QStringLiteral("430");
         const qint32 anual = objeto->Guardar480(ServidorPrueba::datos480(m_declarante, 2025));
-        const qint32 noviembre
-            = objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2024, 11, 1.0));
-        QVERIFY(noviembre > 0);
-        esperar(anual, {2025, 2, 12, QStringLiteral("480"), 2});
-        QVERIFY(objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2025, 12, 1.0)) > 0);
-        esperar(anual, {2025, 2, 12, QStringLiteral("480"), 2});
-        const qint32 enero
-            = objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2026, 1, 1.0));
-        esperar(enero, {2026, 1, 1, m430, 1});
-    }
-
-    void mensualesDelAnio()
-    {
-        const auto objeto = m_servidor->declaraciones();
-        const qint32 mayo
-            = objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2025, 5, 1.0));
-        const qint32 enero
-            = objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2025, 1, 1.0));
-        QVERIFY(objeto->Guardar480(ServidorPrueba::datos480(m_declarante, 2025)) > 0);
+        QVERIFY(guardar430(2024, 11) > 0);
+        const qint32 diciembre = guardar430(2025, 12);
+        esperar(anual, {2025, 2, 12, u"480"_qs, 2});
+        const qint32 mayo = guardar430(2025, 5);
+        const qint32 enero = guardar430(2026, 1);
+        esperar(enero, {2026, 1, 1, u"430"_qs, 1});
         Filas filas;
         QVERIFY(m_servidor->declarantes()->ObtListDecl430(filas, 2025, m_declarante));
-        QCOMPARE(filas, (Filas{QVariantList{enero, 1}, QVariantList{mayo, 5}}));
-        QVERIFY(!m_servidor->declarantes()->ObtListDecl430(filas, 2024, m_declarante));
+        QCOMPARE(filas, (Filas{QVariantList{mayo, 5}, QVariantList{diciembre, 12}}));
+        QVERIFY(!m_servidor->declarantes()->ObtListDecl430(filas, 2023, m_declarante));
         QVERIFY(filas.isEmpty());
     }
 
@@ -139,12 +121,11 @@ private Q_SLOTS:
             = m_servidor->declaraciones()->Guardar480(ServidorPrueba::datos480(m_declarante, 2025));
         {
             const auto objeto = m_servidor->declaraciones();
-            objeto->BorrarDatosNoComunes(clave, QStringLiteral("480"));
-            QCOMPARE(
-                falloDe([&] {
-                    m_servidor->generales(m_servidor->modelo())->CambiarIdioma(QStringLiteral("E"));
-                }),
-                Fallo::EnUso);
+            objeto->BorrarDatosNoComunes(clave, u"480"_qs);
+            QCOMPARE(falloDe([&] {
+                         m_servidor->generales(m_servidor->modelo())->CambiarIdioma(u"E"_qs);
+                     }),
+                     Fallo::EnUso);
         }
         Registro figuras;
         m_servidor->declaraciones()->Cargar480(clave, figuras);
@@ -152,10 +133,10 @@ private Q_SLOTS:
         QCOMPARE(contadores(), (QVariantList{0.0, 1.0}));
 
         const auto objeto = m_servidor->declaraciones();
-        QCOMPARE(falloDe([&] { objeto->BorrarDatosNoComunes(clave, QStringLiteral("430")); }),
+        QCOMPARE(falloDe([&] { objeto->BorrarDatosNoComunes(clave, u"430"_qs); }),
                  Fallo::NoEncontrado);
         QVERIFY_EXCEPTION_THROWN(objeto->BorrarDeclaracion(clave), std::logic_error);
-        objeto->BorrarDatosNoComunes(clave, QStringLiteral("480"));
+        objeto->BorrarDatosNoComunes(clave, u"480"_qs);
         objeto->BorrarDeclaracion(clave);
         QCOMPARE(importes(), QVariantList());
         QCOMPARE(contadores(), (QVariantList{0.0, 0.0}));

@@ -7,6 +7,9 @@
 #include "declarations/cDatos480.h"
 #include "server/Registro.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 #include <stdexcept>
 
 static void exigir(bool cierto, const char *que)
@@ -55,4 +58,18 @@ qint32 Entorno::altaDeclaracion(qint32 csco, qint16 ejercicio, quint8 periodo,
         : cDatos430().GuardarDeclaracion(cDatos430().RegistroGuardar());
     exigir(csde > 0, "return not saved");
     return csde;
+}
+
+void Entorno::pasarAEuskera(QObject &pantalla)
+{
+    unico::la<CEntrada>().IDI(u"E"_qs);
+    QEvent cambio(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(&pantalla, &cambio);
+}
+
+ModeloPerdido::ModeloPerdido()
+{
+    Rutas malas = m_buenas;
+    malas.modelo = malas.tablas + u"ninguna/OstrMod.mdb"_qs;
+    fijarRutas(malas);
 }

@@ -23,7 +23,23 @@ public:
     static qint32 altaDeclaracion(qint32 csco, qint16 ejercicio, quint8 periodo,
                                   const QString &modelo = QStringLiteral("430"));
 
+    /// Switches the session to Basque and tells the screen so.
+    static void pasarAEuskera(QObject &pantalla);
+
 private:
     QTemporaryDir m_carpeta;
     InicioSesion m_inicio;
+};
+
+/// While it lives, the session's model database is nowhere to be found.
+class ModeloPerdido
+{
+public:
+    ModeloPerdido();
+    ~ModeloPerdido() { fijarRutas(m_buenas); }
+    ModeloPerdido(const ModeloPerdido &) = delete;
+    ModeloPerdido &operator=(const ModeloPerdido &) = delete;
+
+private:
+    Rutas m_buenas = rutas();
 };

@@ -6,7 +6,7 @@ namespace {
 
 [[noreturn]] void fallar()
 {
-    throw ErrorDatos(Fallo::SinEspacio, QStringLiteral("OstrMod.mdb"));
+    throw ErrorDatos(Fallo::SinEspacio, u"OstrMod.mdb"_qs);
 }
 
 class Doble : public SvrOstr::cDatosGeneral
