@@ -1,4 +1,5 @@
 #include "app/MDIOstrel.h"
+#include "app/TextosQt.h"
 #include "core/CEntrada.h"
 #include "core/Textos.h"
 #include "declarants/cDecLista.h"
@@ -302,6 +303,8 @@ private Q_SLOTS:
 
     void cambioDeIdiomaLlegaALasPantallas()
     {
+        TextosQt textosQt;
+        QApplication::installTranslator(&textosQt);
         Entorno::altaDeclarante();
         elegir("mnuDeclarante", "mnuAbrirDeclarante");
         unico::la<CEntrada>().IDI(u"E"_qs);

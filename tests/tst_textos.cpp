@@ -2,6 +2,7 @@
 #include "core/Textos.h"
 #include "resources/Mensajes.h"
 
+#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
@@ -64,6 +65,28 @@ private Q_SLOTS:
         // a value that looks like a placeholder stays as it is
         QCOMPARE(msj(Msj::CliDeclaranteAlta, u"%2"_qs, u"X"_qs),
                  u"Declarante dado de alta: %2 - X"_qs);
+    }
+
+    /// Qt's own texts: English, Castilian, Basque, the same placeholders in all.
+    void textosDeQt()
+    {
+        QFile fichero(u":/textos/textos_qt.txt"_qs);
+        QVERIFY(fichero.open(QIODevice::ReadOnly));
+        QSet<QString> vistos;
+        const QStringList lineas
+            = QString::fromUtf8(fichero.readAll()).split(u'\n', Qt::SkipEmptyParts);
+        for (const QString &linea : lineas) {
+            if (linea.startsWith(u'#'))
+                continue;
+            const QStringList campos = linea.split(u'|');
+            QVERIFY2(campos.size() == 3 && !campos.contains(QString()), qPrintable(linea));
+            QVERIFY2(huecos(campos[0]) == huecos(campos[1])
+                         && huecos(campos[0]) == huecos(campos[2]),
+                     qPrintable(linea));
+            QVERIFY2(!vistos.contains(campos[0]), qPrintable(linea));
+            vistos.insert(campos[0]);
+        }
+        QVERIFY(vistos.contains(u"File &name:"_qs));
     }
 
     void idiomas()

@@ -1,8 +1,8 @@
 #include "app/MarcoInterior.h"
 
-#include "core/Textos.h"
 #include "widgets/Iconos.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QMenu>
 
@@ -43,9 +43,11 @@ void MarcoInterior::changeEvent(QEvent *evento)
 void MarcoInterior::traducirMenu()
 {
     // Qt gives the entries no names; their order is fixed
-    int puesto = 0;
+    static constexpr const char *entradas[]
+        = {"&Restore", "&Move", "&Size", "Mi&nimize", "Ma&ximize", "Stay on &Top", "&Close"};
+    size_t puesto = 0;
     for (auto *accion : systemMenu()->actions()) {
-        if (!accion->isSeparator() && puesto < 7)
-            accion->setText(msjDesde(Msj::MarcoRestaurar, puesto++));
+        if (!accion->isSeparator() && puesto < std::size(entradas))
+            accion->setText(QCoreApplication::translate("QMdiSubWindow", entradas[puesto++]));
     }
 }

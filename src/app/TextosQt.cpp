@@ -2,54 +2,23 @@
 
 #include "core/Textos.h"
 
-#include <string_view>
+#include <QFile>
 
-namespace {
-
-struct TextoQt
+TextosQt::TextosQt()
 {
-    std::string_view texto;
-    Msj nuestro;
-    bool conAcceso = true; ///< the access key belongs to it
-};
-
-} // namespace
-
-static constexpr TextoQt Textos[] = {
-    {"&Restore", Msj::MarcoRestaurar},
-    {"&Move", Msj::MarcoMover},
-    {"&Size", Msj::MarcoTamano},
-    {"Mi&nimize", Msj::MarcoMinimizar},
-    {"Ma&ximize", Msj::MarcoMaximizar},
-    {"Stay on &Top", Msj::MarcoEncima},
-    {"&Close", Msj::MarcoCerrar},
-    {"Restore Down", Msj::MarcoRestaurar, false},
-    {"Restore", Msj::MarcoRestaurar, false},
-    {"Minimize", Msj::MarcoMinimizar, false},
-    {"Maximize", Msj::MarcoMaximizar, false},
-    {"Close", Msj::MarcoCerrar, false},
-    {"&Undo", Msj::EdicionDeshacer},
-    {"&Redo", Msj::EdicionRehacer},
-    {"Cu&t", Msj::EdicionCortar},
-    {"&Copy", Msj::EdicionCopiar},
-    {"&Paste", Msj::EdicionPegar},
-    {"Delete", Msj::EdicionBorrar},
-    {"Select All", Msj::EdicionSeleccionarTodo},
-};
-
-static bool esNuestro(std::string_view contexto)
-{
-    return contexto == "QMdiSubWindow" || contexto == "QLineEdit"
-        || contexto == "QWidgetTextControl" || contexto == "QAbstractSpinBox";
+    QFile fichero(u":/textos/textos_qt.txt"_qs);
+    if (!fichero.open(QIODevice::ReadOnly))
+        return;
+    for (const QByteArray &linea : fichero.readAll().replace("\\n", "\v").split('\n')) {
+        const auto campos = QByteArray(linea).replace('\v', '\n').split('|');
+        if (campos.size() == 3 && !linea.startsWith('#'))
+            m_textos.insert(campos[0],
+                            {QString::fromUtf8(campos[1]), QString::fromUtf8(campos[2])});
+    }
 }
 
-QString TextosQt::translate(const char *contexto, const char *texto, const char *, int) const
+QString TextosQt::translate(const char *, const char *texto, const char *, int) const
 {
-    if (!contexto || !texto || !esNuestro(contexto))
-        return {};
-    for (const auto &fila : Textos) {
-        if (fila.texto == texto)
-            return fila.conAcceso ? msj(fila.nuestro) : msj(fila.nuestro).remove(u'&');
-    }
-    return {};
+    const auto hallado = m_textos.constFind(QByteArray::fromRawData(texto, qstrlen(texto)));
+    return hallado == m_textos.constEnd() ? QString() : elegir(hallado->first, hallado->second);
 }
