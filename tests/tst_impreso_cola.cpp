@@ -74,7 +74,7 @@ private:
             return false;
         const QString servidor = u"127.0.0.1:"_qs + QString::number(puerto.serverPort());
         puerto.close();
-        for (const char *sub : {"estado", "cola", "tmp", "cache", "salida"})
+        for (const char *sub : {"estado", "cola", "tmp", "cache"})
             QDir(m_carpeta.path()).mkpath(QString::fromLatin1(sub));
         const QString raiz = m_carpeta.path();
         escribir(u"cups-files.conf"_qs,
