@@ -30,6 +30,7 @@ bool BotonImagen::eventFilter(QObject *objeto, QEvent *evento)
     switch (evento->type()) {
     case QEvent::EnabledChange:
     case QEvent::ToolTipChange:
+    case QEvent::LanguageChange:
     case QEvent::ShowToParent:
     case QEvent::HideToParent:
         copiarEstado();
