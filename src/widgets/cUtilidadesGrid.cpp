@@ -1,10 +1,9 @@
 #include "widgets/cUtilidadesGrid.h"
 
-#include "core/Textos.h"
+#include "widgets/CajaBusqueda.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QTableView>
 
 /// Capital without accent, so that "a" finds "Á". Ñ and Ç keep their own place.
@@ -27,11 +26,8 @@ static QString plegar(QString texto)
 cUtilidadesGrid::cUtilidadesGrid(QTableView *Flex)
     : QObject(Flex)
     , m_flex(Flex)
-    , m_txtBusqueda(new QLineEdit(Flex))
+    , m_txtBusqueda(new CajaBusqueda(Flex))
 {
-    m_txtBusqueda->setObjectName(u"txtBusqueda"_qs);
-    m_txtBusqueda->setFocusPolicy(Qt::NoFocus);
-    m_txtBusqueda->hide();
     m_flex->installEventFilter(this);
 }
 
@@ -44,18 +40,13 @@ void cUtilidadesGrid::columna(int columna)
 void cUtilidadesGrid::PosicionarTxtBusqueda()
 {
     const auto *cabecera = m_flex->horizontalHeader();
-    const int ancho = std::max(cabecera->sectionSize(m_columna), 160);
-    m_txtBusqueda->setGeometry(cabecera->x() + cabecera->sectionViewportPosition(m_columna),
-                               cabecera->y(), ancho, cabecera->height());
-    m_txtBusqueda->setAccessibleName(msj(Msj::AccesibleCuadroBusqueda));
-    m_txtBusqueda->show();
-    m_txtBusqueda->raise();
+    m_txtBusqueda->mostrarEn({cabecera->x() + cabecera->sectionViewportPosition(m_columna),
+                              cabecera->y(), cabecera->sectionSize(m_columna), cabecera->height()});
 }
 
 void cUtilidadesGrid::OcultarTxtBusqueda()
 {
-    m_txtBusqueda->clear();
-    m_txtBusqueda->hide();
+    m_txtBusqueda->vaciar();
 }
 
 bool cUtilidadesGrid::hayAlgunaCondicion() const
@@ -79,11 +70,8 @@ void cUtilidadesGrid::SeleccionarGrid(const QString &texto)
     }
     if (contenido >= 0)
         m_flex->selectRow(contenido);
-    // nothing found: the box says so by its colour, the selection stays
-    QPalette colores;
-    if (contenido < 0)
-        colores.setColor(QPalette::Text, Qt::red);
-    m_txtBusqueda->setPalette(colores);
+    // nothing found: the box says so, the selection stays
+    m_txtBusqueda->hallado(contenido >= 0);
 }
 
 bool cUtilidadesGrid::tecla(QKeyEvent *evento)
@@ -101,7 +89,7 @@ bool cUtilidadesGrid::tecla(QKeyEvent *evento)
         texto += evento->text();
     else
         return false;
-    m_txtBusqueda->setPalette({});
+    m_txtBusqueda->hallado(true);
     m_txtBusqueda->setText(texto);
     if (texto.isEmpty()) {
         OcultarTxtBusqueda();

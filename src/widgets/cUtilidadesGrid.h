@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-class QLineEdit;
+class CajaBusqueda;
 class QTableView;
 
 /// Type-to-search for a list grid: what is typed in the grid appears in a box laid over it and the
@@ -28,6 +28,6 @@ private:
     bool tecla(class QKeyEvent *evento);
 
     QTableView *m_flex;
-    QLineEdit *m_txtBusqueda;
+    CajaBusqueda *m_txtBusqueda;
     int m_columna = 0;
 };
