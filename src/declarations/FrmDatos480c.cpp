@@ -107,12 +107,6 @@ void FrmDatos480c::Anadir_captions()
     m_mensuales->Anadir_captions();
 }
 
-void FrmDatos480c::alCambiarIdioma()
-{
-    Pantalla480::alCambiarIdioma();
-    m_mensuales->Anadir_captions();
-}
-
 void FrmDatos480c::PresentaDatos()
 {
     const auto &r = registro();

@@ -18,7 +18,6 @@ public:
 
 protected:
     void PresentaDatos() override;
-    void alCambiarIdioma() override;
     void showEvent(QShowEvent *evento) override;
 
 private:

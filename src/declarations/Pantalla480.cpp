@@ -32,11 +32,10 @@ cDatos480 &Pantalla480::registro()
 
 CajaImporte *Pantalla480::cajaNumero(const QString &nombre, int numero)
 {
-    auto *caja = cajaEntrada(nombre, registro(), [numero](cDatos480 &r, double centimos) {
+    return cajaEntrada(nombre, registro(), [numero](cDatos480 &r, double centimos) {
         r.casilla(numero, centimos);
         r.MODIFICADO(true);
     });
-    return caja;
 }
 
 void Pantalla480::Anadir_captions()
