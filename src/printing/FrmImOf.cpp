@@ -11,7 +11,7 @@
 #include "printing/GuardarCopias.h"
 #include "printing/TrabajoImpresion.h"
 #include "printing/cImOf.h"
-#include "widgets/BotonImagen.h"
+#include "widgets/BarraBotones.h"
 #include "widgets/CajaFecha.h"
 #include "widgets/Mensajes.h"
 
@@ -83,35 +83,24 @@ void FrmImOf::crearDestinatario()
     fecha->addStretch(1);
 }
 
-QPushButton *FrmImOf::crearBoton(const QString &nombre, const QString &imagen, Icono cual,
-                                 QBoxLayout *donde)
-{
-    auto *boton = crear<QPushButton>(nombre, this);
-    if (!imagen.isEmpty())
-        donde->addWidget(new BotonImagen(imagen, cual, boton));
-    donde->addWidget(boton);
-    return boton;
-}
-
 void FrmImOf::disponer()
 {
-    auto *salidas = new QHBoxLayout;
-    m_btnOpciones = crearBoton(u"btnOpcionesImpresora"_qs, u"picimp"_qs, Icono::Imprimir, salidas);
-    m_btnVistaPrevia = crearBoton(u"btnVistaPrevia"_qs, {}, Icono::Imprimir, salidas);
-    m_btnGuardarPdf = crearBoton(u"btnGuardarPdf"_qs, {}, Icono::Imprimir, salidas);
-    auto *pie = new QHBoxLayout;
-    pie->addStretch(1);
-    m_btnAceptar = crearBoton(u"btnAceptar"_qs, u"PicAce"_qs, Icono::Aceptar, pie);
-    m_btnCancelar = crearBoton(u"btnCancelar"_qs, u"Piccan"_qs, Icono::Cancelar, pie);
+    auto *salidas = new BarraBotones(u"fraSalidas"_qs, this);
+    m_btnOpciones = salidas->anadir(u"btnOpcionesImpresora"_qs, u"picimp"_qs, Icono::Imprimir);
+    m_btnVistaPrevia = salidas->anadir(u"btnVistaPrevia"_qs, {}, Icono::Imprimir);
+    m_btnGuardarPdf = salidas->anadir(u"btnGuardarPdf"_qs, {}, Icono::Imprimir);
+    auto *pie = new BarraBotones(u"fraBotones"_qs, this);
+    m_btnAceptar = pie->anadir(u"btnAceptar"_qs, u"PicAce"_qs, Icono::Aceptar);
+    m_btnCancelar = pie->anadir(u"btnCancelar"_qs, u"Piccan"_qs, Icono::Cancelar);
 
     auto *todo = new QVBoxLayout(this);
     todo->addWidget(m_frameTipo);
     todo->addWidget(m_fraDestinatario);
     todo->addWidget(m_fraFecha);
-    todo->addLayout(salidas);
+    todo->addWidget(salidas);
     todo->addWidget(m_chkUnPdf);
     todo->addStretch(1);
-    todo->addLayout(pie);
+    todo->addWidget(pie);
 
     QWidget *const orden[] = {m_opt->button(Oficial),
                               m_opt->button(Borrador),
@@ -146,8 +135,8 @@ void FrmImOf::Anadir_captions()
     m_btnGuardarPdf->setText(msj(Msj::BotonGuardarPdf));
     m_btnGuardarPdf->setToolTip(msj(Msj::PistaGuardarPdf));
     m_btnAceptar->setText(msj(Msj::BotonAceptar));
-    m_btnAceptar->setToolTip(msj(Msj::PistaImprimirCopias));
     m_btnCancelar->setText(msj(Msj::BotonCancelar));
+    m_btnAceptar->setToolTip(msj(Msj::PistaImprimirCopias));
     m_btnCancelar->setToolTip(msj(Msj::PistaCerrarSinImprimir));
 }
 

@@ -1,12 +1,9 @@
 #pragma once
 
 #include "printing/SalidaImpresora.h"
-#include "widgets/Iconos.h"
 #include "widgets/PantallaBase.h"
 
-class BotonImagen;
 class CajaFecha;
-class QBoxLayout;
 class QButtonGroup;
 class QCheckBox;
 class QGroupBox;
@@ -32,8 +29,6 @@ protected:
 private:
     void crearTipo();
     void crearDestinatario();
-    QPushButton *crearBoton(const QString &nombre, const QString &imagen, Icono cual,
-                            QBoxLayout *donde);
     void disponer();
     void conectar();
     void cargarPeticion();
