@@ -16,6 +16,28 @@ if(OSTREL_SANITIZE)
     target_link_options(ostrel_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Qt's headers take most of the time of a build, so they are compiled once a kind of target. A build without
+# them (the one with the sanitizers) shows that every file includes what it uses.
+option(OSTREL_PRECOMPILE "Compile Qt's headers once" ON)
+if(OSTREL_PRECOMPILE)
+    file(WRITE ${PROJECT_BINARY_DIR}/vacio.cpp "")
+    set(pch_widgets <QBoxLayout> <QKeyEvent> <QLabel> <QLineEdit> <QPushButton> <QTableView>)
+    foreach(kind core widgets)
+        add_library(precompiled_${kind} OBJECT ${PROJECT_BINARY_DIR}/vacio.cpp)
+        target_precompile_headers(precompiled_${kind} PRIVATE
+            <QCoreApplication> <QHash> <QVariant> <functional> <memory> ${pch_${kind}})
+        target_link_libraries(precompiled_${kind} PUBLIC ostrel_options Qt6::Core)
+    endforeach()
+    target_link_libraries(precompiled_widgets PUBLIC Qt6::Widgets)
+endif()
+
+# ostrel_precompile(target core|widgets)
+function(ostrel_precompile name kind)
+    if(OSTREL_PRECOMPILE)
+        target_precompile_headers(${name} REUSE_FROM precompiled_${kind})
+    endif()
+endfunction()
+
 # ostrel_library(name [MOC] SOURCES file... LINK target...): the link line is the architecture. MOC for
 # folders with QObject classes of their own.
 function(ostrel_library name)
@@ -23,6 +45,11 @@ function(ostrel_library name)
     add_library(${name} STATIC ${ARG_SOURCES})
     set_target_properties(${name} PROPERTIES AUTOMOC ${ARG_MOC})
     target_link_libraries(${name} PUBLIC ostrel_options ${ARG_LINK})
+    if(ARG_MOC)
+        ostrel_precompile(${name} widgets)
+    else()
+        ostrel_precompile(${name} core)
+    endif()
 endfunction()
 
 # ostrel_test(name LINK target...): one program from tests/<name>.cpp, run without a display.
@@ -32,6 +59,7 @@ function(ostrel_test name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_link_libraries(${name} PRIVATE ostrel_options Qt6::Test ${ARG_LINK})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    ostrel_precompile(${name} core)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 120
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")

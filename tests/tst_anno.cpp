@@ -8,6 +8,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 
+using namespace Qt::StringLiterals;
+
 /// A whole year filed in the main window by keyboard alone: twelve 430s, their 480 as proposed
 /// after December, and the January after it.
 class PruebaAnno : public QObject
@@ -45,11 +47,11 @@ private:
     {
         esperar("FrmDecResumen");
         acceso("ImgNueva");
-        QTRY_COMPARE(Manos(*m_pantalla).foco(), u"txtejer"_qs);
+        QTRY_COMPARE(Manos(*m_pantalla).foco(), u"txtejer"_s);
         if (primera) {
-            escribir(u"2026"_qs);
+            escribir(u"2026"_s);
             tecla(Qt::Key_Tab);
-            escribir(u"430"_qs);
+            escribir(u"430"_s);
             tecla(Qt::Key_Tab);
             escribir(nombreMes(1));
         }
@@ -69,8 +71,8 @@ private Q_SLOTS:
     void unAnno_data()
     {
         QTest::addColumn<QString>("idioma");
-        QTest::newRow("C") << u"C"_qs;
-        QTest::newRow("E") << u"E"_qs;
+        QTest::newRow("C") << u"C"_s;
+        QTest::newRow("E") << u"E"_s;
     }
     void unAnno()
     {
@@ -86,17 +88,17 @@ private Q_SLOTS:
         tecla(Qt::Key_Return);
 
         for (int mes = 1; mes <= 12; ++mes)
-            declarar430(u"%1,50"_qs.arg(mes * 100), mes == 1);
+            declarar430(u"%1,50"_s.arg(mes * 100), mes == 1);
         nueva(false);
         esperar("FrmDatos480a");
-        escribir(u"7806,00"_qs);
+        escribir(u"7806,00"_s);
         acceso("cmdSiguiente");
         esperar("FrmDatos480b");
         acceso("cmdSiguiente");
         esperar("FrmDatos480c");
-        escribir(u"7806"_qs);
+        escribir(u"7806"_s);
         acceso("cmdAceptar");
-        declarar430(u"1"_qs, false);
+        declarar430(u"1"_s, false);
         esperar("FrmDecResumen");
 
         const auto filas = unico::la<cDecResumen>().CargarDeclaraciones();

@@ -3,6 +3,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 /// The layers that the link lines cannot check by themselves, read from the #include lines.
 class TestCapas : public QObject
 {
@@ -17,16 +19,16 @@ private Q_SLOTS:
         const QString ventanas
             = u"^(QtWidgets|Q(?!StringView)[A-Z]\\w*(Widget|Dialog|Box|Edit|Button|"
               u"Window|Label|View)\\b|QWidget|"
-              u"QApplication|widgets/|[a-z]+/[Ff]rm)"_qs;
+              u"QApplication|widgets/|[a-z]+/[Ff]rm)"_s;
         QTest::newRow("no widget in a record")
-            << u"^(core|dataservice|server|cli)/|^(?!widgets/).*/c[A-Z]\\w*\\.(h|cpp)$"_qs << true
+            << u"^(core|dataservice|server|cli)/|^(?!widgets/).*/c[A-Z]\\w*\\.(h|cpp)$"_s << true
             << ventanas;
         QTest::newRow("SQLite in the server only")
-            << u"^server/"_qs << false << u"^(SQLiteCpp|sqlite3|QSql|QtSql)"_qs;
+            << u"^server/"_s << false << u"^(SQLiteCpp|sqlite3|QSql|QtSql)"_s;
         QTest::newRow("message boxes in widgets only")
-            << u"^widgets/"_qs << false << u"^(QtWidgets/)?QMessageBox"_qs;
+            << u"^widgets/"_s << false << u"^(QtWidgets/)?QMessageBox"_s;
         QTest::newRow("the server is linked by the program only")
-            << u"^(server/|main\\.cpp$|app/)"_qs << false << u"^server/"_qs;
+            << u"^(server/|main\\.cpp$|app/)"_s << false << u"^server/"_s;
     }
 
     void inclusiones()
@@ -36,12 +38,12 @@ private Q_SLOTS:
         QFETCH(QString, prohibidas);
         const QRegularExpression ruta(donde);
         const QRegularExpression prohibida(prohibidas);
-        static const QRegularExpression inclusion(u"^\\s*#\\s*include\\s*[<\"]([^>\"]+)"_qs,
+        static const QRegularExpression inclusion(u"^\\s*#\\s*include\\s*[<\"]([^>\"]+)"_s,
                                                   QRegularExpression::MultilineOption);
         const QDir raiz(QStringLiteral(OSTREL_SRC));
         int leidos = 0;
         QStringList faltas;
-        QDirIterator ficheros(raiz.path(), {u"*.h"_qs, u"*.cpp"_qs}, QDir::Files,
+        QDirIterator ficheros(raiz.path(), {u"*.h"_s, u"*.cpp"_s}, QDir::Files,
                               QDirIterator::Subdirectories);
         while (ficheros.hasNext()) {
             QFile fichero(ficheros.next());
@@ -54,7 +56,7 @@ private Q_SLOTS:
             for (auto i = inclusion.globalMatch(texto); i.hasNext();) {
                 const QString cabecera = i.next().captured(1);
                 if (prohibida.match(cabecera).hasMatch())
-                    faltas += relativa + u" <- "_qs + cabecera;
+                    faltas += relativa + u" <- "_s + cabecera;
             }
         }
         QVERIFY(leidos > 10);

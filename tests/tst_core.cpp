@@ -11,6 +11,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 /// The 128-bit type is an extension that the pedantic flags would refuse by its plain name.
 __extension__ using Entero = __int128;
 
@@ -80,13 +82,13 @@ private Q_SLOTS:
     void escribeImportes()
     {
         QCOMPARE(textoCasilla(0), QString());
-        QCOMPARE(textoImporte(0), u"0,00"_qs);
-        QCOMPARE(textoImporte(1), u"0,01"_qs);
-        QCOMPARE(textoImporte(-5), u"-0,05"_qs);
-        QCOMPARE(textoCasilla(12300), u"123,00"_qs);
-        QCOMPARE(textoCasilla(-123456780), u"-1.234.567,80"_qs);
-        QCOMPARE(textoImporte(999999999999999), u"9.999.999.999.999,99"_qs);
-        QCOMPARE(textoTipo(7.15F), u"7,15"_qs);
+        QCOMPARE(textoImporte(0), u"0,00"_s);
+        QCOMPARE(textoImporte(1), u"0,01"_s);
+        QCOMPARE(textoImporte(-5), u"-0,05"_s);
+        QCOMPARE(textoCasilla(12300), u"123,00"_s);
+        QCOMPARE(textoCasilla(-123456780), u"-1.234.567,80"_s);
+        QCOMPARE(textoImporte(999999999999999), u"9.999.999.999.999,99"_s);
+        QCOMPARE(textoTipo(7.15F), u"7,15"_s);
     }
 
     /// Every power of ten and its neighbours, both signs: never a cent, never a factor of 100.
@@ -161,28 +163,28 @@ private Q_SLOTS:
             QVERIFY2(fecha.EsFecha(texto) == (numero != 0), escrita);
             QVERIFY2(numero == 0 || fecha.LongToString(numero) == texto, escrita);
         };
-        comprobar(u"C"_qs, "31/12/2026", 20261231);
-        comprobar(u"C"_qs, "29/02/2024", 20240229);
-        comprobar(u"C"_qs, "29/02/2000", 20000229);
-        comprobar(u"E"_qs, "2024/02/29", 20240229);
+        comprobar(u"C"_s, "31/12/2026", 20261231);
+        comprobar(u"C"_s, "29/02/2024", 20240229);
+        comprobar(u"C"_s, "29/02/2000", 20000229);
+        comprobar(u"E"_s, "2024/02/29", 20240229);
         comprobar({}, "2026/01/05", 20260105);
         for (const char *mala :
              {"", "//", "__/__/____", "01//2026", "/01/2026", "01/01/26", "29/02/2023",
               "29/02/1900", "31/04/2026", "00/01/2026", "01/13/2026", "01/01/2026x", "2026/12/31"})
-            comprobar(u"C"_qs, mala, 0);
+            comprobar(u"C"_s, mala, 0);
         for (const char *mala :
              {"//", "____/__/__", "2026//", "2026/01/", "2026/01/32", "2023/02/29", "31/12/2026"})
-            comprobar(u"E"_qs, mala, 0);
+            comprobar(u"E"_s, mala, 0);
     }
 
     void fechasVacias()
     {
         cFecha fecha;
-        QCOMPARE(fecha.FecVacia(), u"__/__/____"_qs);
-        QCOMPARE(fecha.LongToString(9010203), u"03/02/0901"_qs);
-        fecha.fecidioma(u"E"_qs);
-        QCOMPARE(fecha.FecVacia(), u"____/__/__"_qs);
-        QCOMPARE(fecha.LongToString(9010203), u"0901/02/03"_qs);
+        QCOMPARE(fecha.FecVacia(), u"__/__/____"_s);
+        QCOMPARE(fecha.LongToString(9010203), u"03/02/0901"_s);
+        fecha.fecidioma(u"E"_s);
+        QCOMPARE(fecha.FecVacia(), u"____/__/__"_s);
+        QCOMPARE(fecha.LongToString(9010203), u"0901/02/03"_s);
         QCOMPARE(fecha.miYear(), QDate::currentDate().year());
     }
 
@@ -191,17 +193,17 @@ private Q_SLOTS:
     {
         const QString raiz = QDir::rootPath();
         for (const auto &[programa, tablas] :
-             {std::pair{u"datos/ostrel"_qs, u"datos/ostrel/Tablas/"_qs},
-              {u"datos/ostrel/"_qs, u"datos/ostrel/Tablas/"_qs},
-              {u"datos/CLIENTE/x"_qs, u"datos/Tablas/"_qs},
-              {u"datos/clientes viejos"_qs, u"datos/Tablas/"_qs},
-              {u"datos/micliente"_qs, u"datos/m/Tablas/"_qs},
-              {u"cliente"_qs, u"Tablas/"_qs}}) {
+             {std::pair{u"datos/ostrel"_s, u"datos/ostrel/Tablas/"_s},
+              {u"datos/ostrel/"_s, u"datos/ostrel/Tablas/"_s},
+              {u"datos/CLIENTE/x"_s, u"datos/Tablas/"_s},
+              {u"datos/clientes viejos"_s, u"datos/Tablas/"_s},
+              {u"datos/micliente"_s, u"datos/m/Tablas/"_s},
+              {u"cliente"_s, u"Tablas/"_s}}) {
             const Rutas rutas = Rutas::desde(raiz + programa);
             QCOMPARE(rutas.programa, QDir::cleanPath(raiz + programa));
             QCOMPARE(rutas.tablas, raiz + tablas);
-            QCOMPARE(rutas.modelo, rutas.tablas + u"OstrMod.mdb"_qs);
-            QCOMPARE(rutas.lectura, rutas.tablas + u"OstrLec.mdb"_qs);
+            QCOMPARE(rutas.modelo, rutas.tablas + u"OstrMod.mdb"_s);
+            QCOMPARE(rutas.lectura, rutas.tablas + u"OstrLec.mdb"_s);
         }
     }
 
@@ -213,9 +215,9 @@ private Q_SLOTS:
         QCOMPARE(filtrarTexto(TeclaRetroceso), TeclaRetroceso);
         QCOMPARE(filtrarCifra(QChar(u'7')), QChar(u'7'));
         QCOMPARE(filtrarCifra(QChar(u'٣')), QChar());
-        QCOMPARE(filtrarTexto(u"c/ mayor @ 3º\b"_qs), u"C/ MAYOR  3º"_qs);
+        QCOMPARE(filtrarTexto(u"c/ mayor @ 3º\b"_s), u"C/ MAYOR  3º"_s);
         const QString todos
-            = u"0123456789ABCDEFGHIJKLMNÑOPQRSTUVWXYZ !$%&()*+,-./:;<=>?\\_ºª¿¡çÇ"_qs;
+            = u"0123456789ABCDEFGHIJKLMNÑOPQRSTUVWXYZ !$%&()*+,-./:;<=>?\\_ºª¿¡çÇ"_s;
         int admitidos = 0;
         for (char16_t c = 32; c < 0x3000; ++c) {
             const QChar tomada = filtrarTexto(QChar(c));

@@ -11,6 +11,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 /// The 430 entry screen for a new return of January 2026 (rate 8 %), as the summary opens it.
 class PruebaDatos430 : public QObject
 {
@@ -40,11 +42,11 @@ private Q_SLOTS:
         m_entorno.emplace();
         m_csco = Entorno::altaDeclarante();
         auto &cabecera = unico::la<cDecResumen>();
-        cabecera.TomarDeclarante(m_csco, u"12345678Z"_qs, u"SEGUROS UNO"_qs);
+        cabecera.TomarDeclarante(m_csco, u"12345678Z"_s, u"SEGUROS UNO"_s);
         cabecera.EJERCICIO(2026);
-        cabecera.CambiarModelo(u"430"_qs);
+        cabecera.CambiarModelo(u"430"_s);
         cabecera.PERIODO(1);
-        abrir(u"A"_qs);
+        abrir(u"A"_s);
     }
     void cleanup()
     {
@@ -55,78 +57,78 @@ private Q_SLOTS:
     void muestraCabeceraYCasillasVacias()
     {
         const auto m = manos();
-        QCOMPARE(m.texto("lbldni"), u"12345678Z"_qs);
-        QCOMPARE(m.texto("txtper"), u"01"_qs);
-        QCOMPARE(m.texto("lblperiodo"), u"ENERO"_qs);
-        QCOMPARE(m.texto("txttliq"), u"8,00"_qs);
+        QCOMPARE(m.texto("lbldni"), u"12345678Z"_s);
+        QCOMPARE(m.texto("txtper"), u"01"_s);
+        QCOMPARE(m.texto("lblperiodo"), u"ENERO"_s);
+        QCOMPARE(m.texto("txttliq"), u"8,00"_s);
         for (const char *vacia :
              {"txtbliq", "txtcliq", "txtbrect", "txtcrect", "txtbtot", "txtctot"})
             QCOMPARE(m.texto(vacia), QString());
-        QCOMPARE(m.foco(), u"txtbliq"_qs);
+        QCOMPARE(m.foco(), u"txtbliq"_s);
         QVERIFY(!m.control("txtbrect")->isEnabled());
     }
 
     void recalculaEnCadaCambio()
     {
         const auto m = manos();
-        m.escribir("txtbliq", u"1234,56"_qs);
+        m.escribir("txtbliq", u"1234,56"_s);
         m.tecla(Qt::Key_Return);
-        QCOMPARE(m.foco(), u"chkrect"_qs);
-        QCOMPARE(m.texto("txtbliq"), u"1.234,56"_qs);
-        QCOMPARE(m.texto("txtcliq"), u"98,76"_qs); // 98.7648
+        QCOMPARE(m.foco(), u"chkrect"_s);
+        QCOMPARE(m.texto("txtbliq"), u"1.234,56"_s);
+        QCOMPARE(m.texto("txtcliq"), u"98,76"_s); // 98.7648
         m.tecla(Qt::Key_Space);
-        m.escribir("txtbrect", u"-100"_qs);
-        m.escribir("txtcrect", u"-8,76"_qs);
+        m.escribir("txtbrect", u"-100"_s);
+        m.escribir("txtcrect", u"-8,76"_s);
         m.tecla(Qt::Key_Tab);
-        QCOMPARE(m.texto("txtbtot"), u"1.134,56"_qs);
-        QCOMPARE(m.texto("txtctot"), u"90,00"_qs);
+        QCOMPARE(m.texto("txtbtot"), u"1.134,56"_s);
+        QCOMPARE(m.texto("txtctot"), u"90,00"_s);
         m.pulsar("chkrect");
         QCOMPARE(m.texto("txtbrect"), QString());
-        QCOMPARE(m.texto("txtctot"), u"98,76"_qs);
+        QCOMPARE(m.texto("txtctot"), u"98,76"_s);
     }
 
     void formasDeTeclear()
     {
         const auto m = manos();
         for (const auto &[tecleado, mostrado] :
-             {std::pair{u"1234,5"_qs, u"1.234,50"_qs},
-              {u"1.234,56"_qs, u"1.234,56"_qs},
-              {u"1234.56"_qs, u"1.234,56"_qs},
-              {u"12a3"_qs, u"123,00"_qs}, // letters, a third decimal, a 14th digit are not taken
-              {u"1,239"_qs, u"1,23"_qs},
-              {u"12345678901234"_qs, u"1.234.567.890.123,00"_qs},
-              {u"-7"_qs, u"-7,00"_qs},
+             {std::pair{u"1234,5"_s, u"1.234,50"_s},
+              {u"1.234,56"_s, u"1.234,56"_s},
+              {u"1234.56"_s, u"1.234,56"_s},
+              {u"12a3"_s, u"123,00"_s}, // letters, a third decimal, a 14th digit are not taken
+              {u"1,239"_s, u"1,23"_s},
+              {u"12345678901234"_s, u"1.234.567.890.123,00"_s},
+              {u"-7"_s, u"-7,00"_s},
               {QString(), QString()}}) {
             m.escribir("txtbliq", tecleado);
             m.tecla(Qt::Key_Tab);
             QCOMPARE(m.texto("txtbliq"), mostrado);
         }
         // the point of the numeric keypad is the comma
-        m.escribir("txtbliq", u"12"_qs);
+        m.escribir("txtbliq", u"12"_s);
         QTest::keyEvent(QTest::Click, m.control("txtbliq"), '.', Qt::KeypadModifier);
-        QTest::keyClicks(m.control("txtbliq"), u"5"_qs);
+        QTest::keyClicks(m.control("txtbliq"), u"5"_s);
         m.tecla(Qt::Key_Tab);
-        QCOMPARE(m.texto("txtbliq"), u"12,50"_qs);
+        QCOMPARE(m.texto("txtbliq"), u"12,50"_s);
         // a digit more within an amount that the program has grouped
-        m.escribir("txtbliq", u"1234,56"_qs);
+        m.escribir("txtbliq", u"1234,56"_s);
         m.tecla(Qt::Key_Tab);
         m.tecla(Qt::Key_Backtab);
         m.tecla(Qt::Key_Home);
-        QTest::keyClicks(m.control("txtbliq"), u"9"_qs);
+        QTest::keyClicks(m.control("txtbliq"), u"9"_s);
         m.tecla(Qt::Key_Tab);
-        QCOMPARE(m.texto("txtbliq"), u"91.234,56"_qs);
+        QCOMPARE(m.texto("txtbliq"), u"91.234,56"_s);
     }
 
     void importeQueNoSeEntiendeSeQueda()
     {
         ConductorMensajes conductor;
         const auto m = manos();
-        m.escribir("txtbliq", u"1.23.4"_qs);
+        m.escribir("txtbliq", u"1.23.4"_s);
         conductor.responder(QMessageBox::Ok);
         m.tecla(Qt::Key_Tab);
-        QCOMPARE(conductor.texto(), msj(Msj::ImporteIlegible, u"1.23.4"_qs));
-        QTRY_COMPARE(m.foco(), u"txtbliq"_qs);
-        QCOMPARE(m.texto("txtbliq"), u"1.23.4"_qs);
+        QCOMPARE(conductor.texto(), msj(Msj::ImporteIlegible, u"1.23.4"_s));
+        QTRY_COMPARE(m.foco(), u"txtbliq"_s);
+        QCOMPARE(m.texto("txtbliq"), u"1.23.4"_s);
         QCOMPARE(unico::la<cDatos430>().BASELIQ(), 0.0);
     }
 
@@ -134,9 +136,9 @@ private Q_SLOTS:
     {
         ConductorMensajes conductor;
         const auto m = manos();
-        m.escribir("txtbliq", u"9999999999999,99"_qs);
+        m.escribir("txtbliq", u"9999999999999,99"_s);
         m.pulsar("chkrect");
-        m.escribir("txtbrect", u"1"_qs);
+        m.escribir("txtbrect", u"1"_s);
         conductor.responder(QMessageBox::Ok);
         m.tecla(Qt::Key_Tab);
         QCOMPARE(conductor.texto(), msj(Msj::ImporteTotalExcedido, msj(Msj::Total)));
@@ -148,12 +150,12 @@ private Q_SLOTS:
     {
         int mes = 0;
         for (const char *como : {"cmdAceptar", "PicAce", "access key"}) {
-            abrir(u"A"_qs);
+            abrir(u"A"_s);
             unico::la<cDecResumen>().PERIODO(quint8(++mes));
             const auto m = manos();
             QSignalSpy siguiente(m_pantalla.get(), &PantallaBase::mostrar);
             QSignalSpy cambios(m_pantalla.get(), &PantallaBase::datosCambiados);
-            m.escribir("txtbliq", u"500"_qs);
+            m.escribir("txtbliq", u"500"_s);
             if (qstrcmp(como, "access key") == 0)
                 m.tecla(Qt::Key_A, Qt::AltModifier);
             else
@@ -165,7 +167,7 @@ private Q_SLOTS:
             const auto fila = declaraciones().constLast().toList();
             QCOMPARE(declaraciones().size(), mes);
             QCOMPARE(fila.value(FilaDeclaracion::IMPORTE).toDouble(), 4000.0);
-            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_qs);
+            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_s);
             QCOMPARE(unico::la<cDecResumen>().CSDE(), fila.value(FilaDeclaracion::CSDE));
         }
     }
@@ -176,16 +178,16 @@ private Q_SLOTS:
         const auto m = manos();
         m.pulsar("chkrect");
         for (const auto &[caja, idioma] :
-             {std::pair{"txtbrect", u"C"_qs}, std::pair{"txtcrect", u"E"_qs}}) {
+             {std::pair{"txtbrect", u"C"_s}, std::pair{"txtcrect", u"E"_s}}) {
             unico::la<CEntrada>().IDI(idioma);
-            m.escribir(caja, u"10"_qs);
+            m.escribir(caja, u"10"_s);
             conductor.responder(QMessageBox::Ok);
             m.pulsar("cmdAceptar");
             const auto cajas = conductor.tomar();
             QCOMPARE(cajas.size(), 1);
             QCOMPARE(cajas[0].texto, msj(Msj::ErrorRectificacion430));
             QCOMPARE(cajas[0].icono, QMessageBox::Warning);
-            QCOMPARE(m.foco(), u"txtbrect"_qs);
+            QCOMPARE(m.foco(), u"txtbrect"_s);
             m.escribir(caja, {});
         }
         QVERIFY(m_pantalla->isVisible());
@@ -195,28 +197,28 @@ private Q_SLOTS:
     void guardadoQueFallaDejaLaPantalla()
     {
         const auto m = manos();
-        m.escribir("txtbliq", u"500"_qs);
+        m.escribir("txtbliq", u"500"_s);
         {
             const ModeloPerdido perdido;
             ConductorMensajes conductor;
             conductor.responder(QMessageBox::Ok);
             m.pulsar("cmdAceptar");
-            QVERIFY(conductor.texto().contains(u"OstrMod.mdb"_qs));
+            QVERIFY(conductor.texto().contains(u"OstrMod.mdb"_s));
         }
         QVERIFY(m_pantalla->isVisible());
-        QCOMPARE(m.texto("txtbliq"), u"500,00"_qs);
+        QCOMPARE(m.texto("txtbliq"), u"500,00"_s);
         m.pulsar("cmdAceptar");
         QCOMPARE(declaraciones().size(), 1);
     }
 
     void existenteSeCargaYSeCambia()
     {
-        manos().escribir("txtbliq", u"500"_qs);
+        manos().escribir("txtbliq", u"500"_s);
         manos().pulsar("cmdAceptar");
         const qint32 csde = unico::la<cDecResumen>().CSDE();
-        abrir(u"C"_qs, csde);
-        QCOMPARE(manos().texto("txtctot"), u"40,00"_qs);
-        manos().escribir("txtbliq", u"600"_qs);
+        abrir(u"C"_s, csde);
+        QCOMPARE(manos().texto("txtctot"), u"40,00"_s);
+        manos().escribir("txtbliq", u"600"_s);
         manos().pulsar("PicAce");
         QCOMPARE(declaraciones().size(), 1);
         QCOMPARE(declaraciones().front().toList().value(FilaDeclaracion::IMPORTE).toDouble(),
@@ -227,27 +229,27 @@ private Q_SLOTS:
     void cancelarNoGuarda()
     {
         for (const char *como : {"cmdCancelar", "Piccan", "frame"}) {
-            abrir(u"A"_qs);
+            abrir(u"A"_s);
             QSignalSpy siguiente(m_pantalla.get(), &PantallaBase::mostrar);
-            manos().escribir("txtbliq", u"500"_qs);
+            manos().escribir("txtbliq", u"500"_s);
             if (qstrcmp(como, "frame") == 0)
                 m_pantalla->close();
             else
                 manos().pulsar(como);
             QCOMPARE(siguiente.count(), 1);
             QVERIFY(declaraciones().isEmpty());
-            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_qs);
+            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_s);
         }
     }
 
     void cambioDeIdiomaConservaLoTecleado()
     {
-        manos().escribir("txtbliq", u"500"_qs);
+        manos().escribir("txtbliq", u"500"_s);
         manos().tecla(Qt::Key_Tab);
         Entorno::pasarAEuskera(*m_pantalla);
-        QCOMPARE(m_pantalla->windowTitle(), u"Aitorpen - Likidazioa 430"_qs);
-        QCOMPARE(manos().texto("lblperiodo"), u"URTARRILA"_qs);
-        QCOMPARE(manos().texto("txtbliq"), u"500,00"_qs);
+        QCOMPARE(m_pantalla->windowTitle(), u"Aitorpen - Likidazioa 430"_s);
+        QCOMPARE(manos().texto("lblperiodo"), u"URTARRILA"_s);
+        QCOMPARE(manos().texto("txtbliq"), u"500,00"_s);
     }
 };
 

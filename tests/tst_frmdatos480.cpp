@@ -17,6 +17,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 /// The three pages of a 480, opened one after the other as the main window does.
 class PruebaDatos480 : public QObject
 {
@@ -53,9 +55,9 @@ private:
     }
     void abrirGuardada(qint32 csde)
     {
-        registro().MODO(u"C"_qs);
+        registro().MODO(u"C"_s);
         registro().CSDE(csde);
-        registro().ENTRADA(u"A"_qs);
+        registro().ENTRADA(u"A"_s);
         abrir(Pantalla::Datos480a);
     }
     Manos manos() const { return Manos(*m_pagina); }
@@ -67,10 +69,10 @@ private:
     /// Fills a whole return of 1,000.00 in box 01 by the keyboard.
     void rellenar()
     {
-        manos().escribir("txt01vida", u"1000"_qs);
+        manos().escribir("txt01vida", u"1000"_s);
         manos().pulsar("cmdSiguiente");
         manos().pulsar("PicSig");
-        manos().escribir("txt73ba1", u"1000"_qs);
+        manos().escribir("txt73ba1", u"1000"_s);
     }
     /// Fills a return and accepts it; its key.
     qint32 rellenarYGuardar()
@@ -87,11 +89,11 @@ private Q_SLOTS:
         m_pedidas.clear();
         const qint32 csco = Entorno::altaDeclarante();
         auto &cabecera = unico::la<cDecResumen>();
-        cabecera.TomarDeclarante(csco, u"12345678Z"_qs, u"SEGUROS UNO"_qs);
+        cabecera.TomarDeclarante(csco, u"12345678Z"_s, u"SEGUROS UNO"_s);
         cabecera.EJERCICIO(2026);
-        cabecera.CambiarModelo(u"480"_qs);
-        registro().MODO(u"A"_qs);
-        registro().ENTRADA(u"A"_qs);
+        cabecera.CambiarModelo(u"480"_s);
+        registro().MODO(u"A"_s);
+        registro().ENTRADA(u"A"_s);
         abrir(Pantalla::Datos480a);
     }
     void cleanup()
@@ -110,7 +112,7 @@ private Q_SLOTS:
             for (int columna = 0; columna < 2; ++columna) {
                 QCOMPARE(manos().foco(), controlClase(clase, columna));
                 const int numero = Reg480::casilla(clase, columna);
-                QTest::keyClicks(m_pagina->focusWidget(), u"%1,%2"_qs.arg(numero).arg(10 + clase));
+                QTest::keyClicks(m_pagina->focusWidget(), u"%1,%2"_s.arg(numero).arg(10 + clase));
                 manos().tecla(columna == 0 ? Qt::Key_Return : Qt::Key_Tab);
                 columnas[columna] += numero * 100 + 10 + clase;
                 QCOMPARE(registro().casilla(Casilla480::C70_TOT + columna), columnas[columna]);
@@ -121,9 +123,9 @@ private Q_SLOTS:
         QCOMPARE(manos().texto("txt71tot"), textoImporte(columnas[1]));
         manos().pulsar("picant");
         manos().pulsar("cmdanterior");
-        QCOMPARE(m_pagina->objectName(), u"FrmDatos480a"_qs);
-        QCOMPARE(manos().texto("txt31otr"), u"31,20"_qs);
-        QCOMPARE(manos().texto("txt02vida"), u"2,10"_qs);
+        QCOMPARE(m_pagina->objectName(), u"FrmDatos480a"_s);
+        QCOMPARE(manos().texto("txt31otr"), u"31,20"_s);
+        QCOMPARE(manos().texto("txt02vida"), u"2,10"_s);
     }
 
     void liquidacionConDosTipos()
@@ -132,44 +134,44 @@ private Q_SLOTS:
         registro().C77_TI2(6.0F);
         manos().pulsar("cmdSiguiente");
         manos().pulsar("cmdSiguiente");
-        manos().escribir("txt73ba1", u"10.000.000,00"_qs);
+        manos().escribir("txt73ba1", u"10.000.000,00"_s);
         manos().tecla(Qt::Key_Tab);
-        QCOMPARE(manos().foco(), u"txt76ba2"_qs);
-        QCOMPARE(manos().texto("txt75cu1"), u"715.000,00"_qs);
-        QVERIFY(manos().texto("lblDiferencia").contains(u"-10.000.000,00"_qs));
-        manos().escribir("txt76ba2", u"123,45"_qs);
-        manos().escribir("txt80cu3", u"-15.000"_qs);
+        QCOMPARE(manos().foco(), u"txt76ba2"_s);
+        QCOMPARE(manos().texto("txt75cu1"), u"715.000,00"_s);
+        QVERIFY(manos().texto("lblDiferencia").contains(u"-10.000.000,00"_s));
+        manos().escribir("txt76ba2", u"123,45"_s);
+        manos().escribir("txt80cu3", u"-15.000"_s);
         manos().tecla(Qt::Key_Tab);
-        QCOMPARE(manos().texto("txt78cu2"), u"7,41"_qs);
-        QCOMPARE(manos().texto("txt81res"), u"700.007,41"_qs);
+        QCOMPARE(manos().texto("txt78cu2"), u"7,41"_s);
+        QCOMPARE(manos().texto("txt81res"), u"700.007,41"_s);
     }
 
     void totalQueNoCuadraSeDice()
     {
-        manos().escribir("txt01vida", u"5"_qs);
+        manos().escribir("txt01vida", u"5"_s);
         manos().pulsar("cmdSiguiente");
         manos().pulsar("cmdSiguiente");
-        for (const QString &idioma : {u"C"_qs, u"E"_qs}) {
+        for (const QString &idioma : {u"C"_s, u"E"_s}) {
             unico::la<CEntrada>().IDI(idioma);
             ConductorMensajes conductor;
             conductor.responder(QMessageBox::Ok);
             manos().pulsar("cmdAceptar");
             QCOMPARE(conductor.texto(), msj(Msj::ErrorTotal480));
-            QCOMPARE(manos().foco(), u"txt73ba1"_qs);
+            QCOMPARE(manos().foco(), u"txt73ba1"_s);
         }
         QCOMPARE(importeGuardado(), -1.0);
     }
 
     void totalQueNoCabeSeRechazaEnLaCasilla()
     {
-        manos().escribir("txt01vida", u"9999999999999,99"_qs);
+        manos().escribir("txt01vida", u"9999999999999,99"_s);
         ConductorMensajes conductor;
         conductor.responder(QMessageBox::Ok);
-        manos().escribir("txt04acc", u"0,01"_qs);
+        manos().escribir("txt04acc", u"0,01"_s);
         manos().tecla(Qt::Key_Tab);
         QCOMPARE(conductor.texto(), msj(Msj::ImporteTotalExcedido, msj(Msj::Total)));
         QCOMPARE(registro().casilla(Casilla480::C70_TOT), 999999999999999.0);
-        QTRY_COMPARE(manos().foco(), u"txt04acc"_qs);
+        QTRY_COMPARE(manos().foco(), u"txt04acc"_s);
     }
 
     void guardarCargarYAceptarSinCambios()
@@ -179,7 +181,7 @@ private Q_SLOTS:
         QCOMPARE(m_pedidas, QList{Pantalla::Resumen});
         QCOMPARE(importeGuardado(), 8000.0);
         abrirGuardada(csde);
-        QCOMPARE(manos().texto("txt01vida"), u"1.000,00"_qs);
+        QCOMPARE(manos().texto("txt01vida"), u"1.000,00"_s);
         manos().pulsar("cmdSiguiente");
         manos().pulsar("cmdSiguiente");
         // were anything saved, the missing file would be told
@@ -192,10 +194,10 @@ private Q_SLOTS:
     void volverALaPrimeraNoRecarga()
     {
         abrirGuardada(rellenarYGuardar());
-        manos().escribir("txt04acc", u"7"_qs);
+        manos().escribir("txt04acc", u"7"_s);
         manos().pulsar("cmdSiguiente");
         manos().pulsar("cmdanterior");
-        QCOMPARE(manos().texto("txt04acc"), u"7,00"_qs);
+        QCOMPARE(manos().texto("txt04acc"), u"7,00"_s);
         QVERIFY(registro().MODIFICADO());
     }
 
@@ -207,7 +209,7 @@ private Q_SLOTS:
             ConductorMensajes conductor;
             conductor.responder(QMessageBox::Ok);
             manos().pulsar("PicAce");
-            QVERIFY(conductor.texto().contains(u"OstrMod.mdb"_qs));
+            QVERIFY(conductor.texto().contains(u"OstrMod.mdb"_s));
         }
         QVERIFY(m_pedidas.isEmpty());
         manos().pulsar("PicAce");
@@ -219,12 +221,12 @@ private Q_SLOTS:
         for (int avances = 0; avances < 3; ++avances) {
             m_pedidas.clear();
             abrir(Pantalla::Datos480a);
-            manos().escribir("txt01vida", u"5"_qs);
+            manos().escribir("txt01vida", u"5"_s);
             for (int i = 0; i < avances; ++i)
                 manos().pulsar("cmdSiguiente");
             manos().pulsar(avances == 1 ? "Piccan" : "cmdCancelar");
             QCOMPARE(m_pedidas, QList{Pantalla::Resumen});
-            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_qs);
+            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_s);
             QCOMPARE(importeGuardado(), -1.0);
         }
     }
@@ -236,7 +238,7 @@ private Q_SLOTS:
         QCOMPARE(manos().texto("lblNo430"), msj(Msj::SinDeclaracionesMensuales));
         QVERIFY(!manos().control("lst430")->isVisible());
         auto &cabecera = unico::la<cDecResumen>();
-        cabecera.CambiarModelo(u"430"_qs);
+        cabecera.CambiarModelo(u"430"_s);
         for (const quint8 mes : QList<quint8>{1, 3}) {
             cDatos430 mensual;
             cabecera.PERIODO(mes);
@@ -245,21 +247,21 @@ private Q_SLOTS:
             mensual.CalcularValores();
             QVERIFY(mensual.GuardarDeclaracion(mensual.RegistroGuardar()) > 0);
         }
-        cabecera.CambiarModelo(u"480"_qs);
+        cabecera.CambiarModelo(u"480"_s);
         manos().pulsar("cmdanterior");
         manos().pulsar("cmdSiguiente");
         const auto *lista = manos().control<QTreeWidget>("lst430");
         QVERIFY(lista->isVisible());
         QCOMPARE(lista->topLevelItemCount(), 12);
-        QCOMPARE(lista->topLevelItem(0)->text(0), u"ENERO"_qs);
-        QCOMPARE(lista->topLevelItem(0)->text(1), u"100,00"_qs);
+        QCOMPARE(lista->topLevelItem(0)->text(0), u"ENERO"_s);
+        QCOMPARE(lista->topLevelItem(0)->text(1), u"100,00"_s);
         QCOMPARE(lista->topLevelItem(1)->text(1), QString());
-        QCOMPARE(lista->topLevelItem(2)->text(2), u"30,00"_qs);
-        QVERIFY(manos().texto("lblTotales430").contains(u"400,00"_qs));
-        QVERIFY(manos().texto("lblTotales430").contains(u"40,00"_qs));
-        QVERIFY(manos().control("picCuotas")->accessibleDescription().contains(u"MARZO: 30,00"_qs));
+        QCOMPARE(lista->topLevelItem(2)->text(2), u"30,00"_s);
+        QVERIFY(manos().texto("lblTotales430").contains(u"400,00"_s));
+        QVERIFY(manos().texto("lblTotales430").contains(u"40,00"_s));
+        QVERIFY(manos().control("picCuotas")->accessibleDescription().contains(u"MARZO: 30,00"_s));
         Entorno::pasarAEuskera(*m_pagina);
-        QCOMPARE(lista->topLevelItem(0)->text(0), u"URTARRILA"_qs);
+        QCOMPARE(lista->topLevelItem(0)->text(0), u"URTARRILA"_s);
     }
 
     /// The last of two returns of one month is shown, both count.
@@ -269,10 +271,10 @@ private Q_SLOTS:
         manos().pulsar("cmdSiguiente");
         manos().pulsar("cmdSiguiente");
         const auto *lista = manos().control<QTreeWidget>("lst430");
-        QCOMPARE(lista->topLevelItem(0)->text(1), u"200,00"_qs);
-        QCOMPARE(lista->topLevelItem(0)->text(2), u"20,00"_qs);
-        QVERIFY(manos().texto("lblTotales430").contains(u"600,00"_qs));
-        QVERIFY(manos().texto("lblTotales430").contains(u"60,00"_qs));
+        QCOMPARE(lista->topLevelItem(0)->text(1), u"200,00"_s);
+        QCOMPARE(lista->topLevelItem(0)->text(2), u"20,00"_s);
+        QVERIFY(manos().texto("lblTotales430").contains(u"600,00"_s));
+        QVERIFY(manos().texto("lblTotales430").contains(u"60,00"_s));
     }
 };
 

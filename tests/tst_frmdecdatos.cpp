@@ -9,13 +9,15 @@
 #include <QSignalSpy>
 #include <QTreeWidget>
 
+using namespace Qt::StringLiterals;
+
 /// The declarant form, for a new declarant or for a stored one.
 struct Formulario : PantallaAbierta<frmDecDatos>
 {
     explicit Formulario(bool existente = false)
     {
         auto &datos = unico::la<cDecDatos>();
-        datos.MODO(existente ? u"C"_qs : u"A"_qs);
+        datos.MODO(existente ? u"C"_s : u"A"_s);
         if (existente) {
             csco = Entorno::altaDeclarante();
             datos.CSCO(csco);
@@ -26,12 +28,12 @@ struct Formulario : PantallaAbierta<frmDecDatos>
 
     void rellenar() const
     {
-        manos->escribir("txtdni", u"12345678z"_qs);
-        manos->escribir("txtnombre", u"seguros uno"_qs);
-        manos->escribir("txtdomicilio", u"mayor"_qs);
-        manos->escribir("txtcodpos", u"20001"_qs);
-        manos->escribir("txtcodmun", u"1"_qs);
-        manos->escribir("txttelefono", u"943000000"_qs);
+        manos->escribir("txtdni", u"12345678z"_s);
+        manos->escribir("txtnombre", u"seguros uno"_s);
+        manos->escribir("txtdomicilio", u"mayor"_s);
+        manos->escribir("txtcodpos", u"20001"_s);
+        manos->escribir("txtcodmun", u"1"_s);
+        manos->escribir("txttelefono", u"943000000"_s);
     }
     QTreeWidget *lista(const char *nombre) const { return manos->control<QTreeWidget>(nombre); }
     bool bloqueada(const char *nombre) const
@@ -78,14 +80,14 @@ private Q_SLOTS:
             else
                 f.manos->pulsar(manera);
             QTRY_COMPARE(f.siguiente, Pantalla::Resumen);
-            const qint32 csco = registro().ObtenerCodigoDeclarante(u"12345678Z"_qs);
+            const qint32 csco = registro().ObtenerCodigoDeclarante(u"12345678Z"_s);
             QVERIFY(csco > 0);
             QCOMPARE(unico::la<cDecResumen>().CSCO(), csco);
-            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"A"_qs);
+            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"A"_s);
             QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 1);
             registro().CargarDeclarante(csco);
-            QCOMPARE(registro().TELEFONO(), u"943000000"_qs);
-            QCOMPARE(registro().CODMUN(), u"001"_qs);
+            QCOMPARE(registro().TELEFONO(), u"943000000"_s);
+            QCOMPARE(registro().CODMUN(), u"001"_s);
             QVERIFY(!registro().NOMMUN().isEmpty());
         }
     }
@@ -93,16 +95,16 @@ private Q_SLOTS:
     void filtro()
     {
         Formulario f;
-        f.manos->escribir("txtnombre", u"pe"_qs);
+        f.manos->escribir("txtnombre", u"pe"_s);
         // letters outside ASCII come from the keyboard as text only
-        for (const QChar c : u"ñ@ç"_qs)
+        for (const QChar c : u"ñ@ç"_s)
             QTest::sendKeyEvent(QTest::Click, f.manos->control("txtnombre"), Qt::Key_unknown, c,
                                 {});
-        f.manos->escribir("txtnumero", u"1a23456"_qs);
-        QCOMPARE(f.manos->texto("txtnumero"), u"12345"_qs);
-        f.manos->escribir("txtdni", u"1234567890"_qs);
+        f.manos->escribir("txtnumero", u"1a23456"_s);
+        QCOMPARE(f.manos->texto("txtnumero"), u"12345"_s);
+        f.manos->escribir("txtdni", u"1234567890"_s);
         QCOMPARE(f.manos->texto("txtdni").size(), 9);
-        QCOMPARE(registro().NOMBRE(), u"PEÑÇ"_qs);
+        QCOMPARE(registro().NOMBRE(), u"PEÑÇ"_s);
         QCOMPARE(registro().NUMERO(), 12345);
     }
 
@@ -118,19 +120,19 @@ private Q_SLOTS:
             const auto vistos = f.mensajes.tomar();
             QCOMPARE(vistos.size(), 1);
             QCOMPARE(vistos[0].texto, msjDesde(Msj::ErrorDni, codigo - 1));
-            QCOMPARE(vistos[0].titulo, u"Datos del declarante"_qs);
+            QCOMPARE(vistos[0].titulo, u"Datos del declarante"_s);
             QCOMPARE(vistos[0].icono, QMessageBox::Warning);
             QCOMPARE(f.manos->foco(), QString::fromLatin1(campo));
             QCOMPARE(f.manos->texto(campo), malo);
             f.manos->escribir(campo, bueno);
         };
         caso("txtcodmun", {}, 9);
-        caso("txtdni", u"12345678A"_qs, 1);
+        caso("txtdni", u"12345678A"_s, 1);
         caso("txtnombre", {}, 2);
         caso("txtdomicilio", {}, 3);
-        caso("txtcodpos", u"48001"_qs, 5);
+        caso("txtcodpos", u"48001"_s, 5);
         caso("txtcodpos", {}, 6);
-        caso("txttelefono", u"94300"_qs, 11);
+        caso("txttelefono", u"94300"_s, 11);
         caso("txttelefono", {}, 12);
         QVERIFY(!f.siguiente);
         QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 0);
@@ -144,9 +146,9 @@ private Q_SLOTS:
         f.responderYPulsar(QMessageBox::Ok, "cmdAceptar");
         QCOMPARE(f.mensajes.texto(), msj(Msj::ErrorAltaDniExiste));
         QCOMPARE(registro().CSCO(), 0);
-        f.manos->escribir("txtdni", u"00000001R"_qs);
+        f.manos->escribir("txtdni", u"00000001R"_s);
         f.manos->pulsar("cmdAceptar");
-        QVERIFY(registro().ObtenerCodigoDeclarante(u"00000001R"_qs) > 0);
+        QVERIFY(registro().ObtenerCodigoDeclarante(u"00000001R"_s) > 0);
     }
 
     void cambioDeProvincia()
@@ -154,15 +156,15 @@ private Q_SLOTS:
         Formulario f;
         f.rellenar();
         QVERIFY(f.bloqueada("txtnommun"));
-        f.manos->escribir("txtcodprov", u"1"_qs);
+        f.manos->escribir("txtcodprov", u"1"_s);
         f.manos->tecla(Qt::Key_Tab);
-        QCOMPARE(f.manos->texto("txtcodprov"), u"01"_qs);
-        QCOMPARE(registro().CODPROV(), u"01"_qs);
+        QCOMPARE(f.manos->texto("txtcodprov"), u"01"_s);
+        QCOMPARE(registro().CODPROV(), u"01"_s);
         QCOMPARE(registro().CODMUN(), QString());
         QCOMPARE(f.manos->texto("txtnommun"), QString());
         QVERIFY(!f.bloqueada("txtnommun"));
         QVERIFY(f.bloqueada("txtcodmun"));
-        f.manos->escribir("txtcodprov", u"20"_qs);
+        f.manos->escribir("txtcodprov", u"20"_s);
         f.manos->tecla(Qt::Key_Tab);
         QVERIFY(f.bloqueada("txtnommun"));
         QVERIFY(!f.bloqueada("txtcodmun"));
@@ -171,8 +173,8 @@ private Q_SLOTS:
     void codigoDesconocidoAbreLaLista()
     {
         Formulario f;
-        for (const auto &[caja, lista, codigo] : {std::tuple("txtcodprov", "lstCodProv", u"99"_qs),
-                                                  {"txtcodmun", "lstCodMun", u"999"_qs}}) {
+        for (const auto &[caja, lista, codigo] : {std::tuple("txtcodprov", "lstCodProv", u"99"_s),
+                                                  {"txtcodmun", "lstCodMun", u"999"_s}}) {
             const QString antes = f.manos->texto(caja);
             f.manos->escribir(caja, codigo);
             f.manos->tecla(Qt::Key_Tab);
@@ -183,11 +185,11 @@ private Q_SLOTS:
             QVERIFY(!f.lista(lista)->isVisible());
             QCOMPARE(f.manos->foco(), QString::fromLatin1(caja));
             QCOMPARE(f.manos->texto(caja), codigo);
-            QCOMPARE(registro().CODPROV(), u"20"_qs);
+            QCOMPARE(registro().CODPROV(), u"20"_s);
             f.manos->escribir(caja, antes);
         }
         // a wrong code does not stand in the way out
-        f.manos->escribir("txtcodmun", u"999"_qs);
+        f.manos->escribir("txtcodmun", u"999"_s);
         f.manos->pulsar("cmdCancelar");
         QVERIFY(!f.pantalla->isVisible());
     }
@@ -195,27 +197,27 @@ private Q_SLOTS:
     void elegirEnLista()
     {
         Formulario f;
-        f.manos->escribir("txtdni", u"123"_qs);
+        f.manos->escribir("txtdni", u"123"_s);
         f.manos->pulsar("cmdProvincia");
         auto *provincias = f.lista("lstCodProv");
-        QCOMPARE(provincias->currentItem()->text(0), u"VARLENDA"_qs);
-        QTest::keyClicks(provincias, u"barce"_qs);
+        QCOMPARE(provincias->currentItem()->text(0), u"VARLENDA"_s);
+        QTest::keyClicks(provincias, u"barce"_s);
         QTest::keyClick(provincias, Qt::Key_Return);
-        QCOMPARE(f.manos->foco(), u"txtcodpos"_qs);
-        QCOMPARE(registro().CODPROV(), u"08"_qs);
-        QCOMPARE(f.manos->texto("txtnomprov"), u"BARCELONA"_qs);
-        QCOMPARE(f.manos->texto("txtdni"), u"123"_qs);
+        QCOMPARE(f.manos->foco(), u"txtcodpos"_s);
+        QCOMPARE(registro().CODPROV(), u"08"_s);
+        QCOMPARE(f.manos->texto("txtnomprov"), u"BARCELONA"_s);
+        QCOMPARE(f.manos->texto("txtdni"), u"123"_s);
 
         f.manos->control("txtvia")->setFocus();
         f.manos->tecla(Qt::Key_F4);
         auto *vias = f.lista("lstVia");
-        QCOMPARE(vias->currentItem()->text(0), u"CALLE"_qs);
+        QCOMPARE(vias->currentItem()->text(0), u"CALLE"_s);
         const auto lugar = vias->visualItemRect(vias->topLevelItem(0)).center();
         QTest::mouseClick(vias->viewport(), Qt::LeftButton, {}, lugar);
         QTest::mouseDClick(vias->viewport(), Qt::LeftButton, {}, lugar);
         QVERIFY(!vias->isVisible());
-        QCOMPARE(registro().VIA(), u"AL"_qs);
-        QCOMPARE(f.manos->foco(), u"txtdomicilio"_qs);
+        QCOMPARE(registro().VIA(), u"AL"_s);
+        QCOMPARE(f.manos->foco(), u"txtdomicilio"_s);
     }
 
     void cancelarYMarco()
@@ -224,7 +226,7 @@ private Q_SLOTS:
             for (const bool marco : {false, true}) {
                 Formulario f(existente);
                 unico::la<cDecResumen>().CSDE(7);
-                f.manos->escribir("txtnombre", u"otro"_qs);
+                f.manos->escribir("txtnombre", u"otro"_s);
                 if (marco)
                     f.pantalla->close();
                 else
@@ -235,9 +237,9 @@ private Q_SLOTS:
                 if (!existente)
                     continue;
                 QCOMPARE(f.siguiente, Pantalla::Resumen);
-                QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_qs);
+                QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_s);
                 registro().CargarDeclarante(f.csco);
-                QCOMPARE(registro().NOMBRE(), u"SEGUROS UNO"_qs);
+                QCOMPARE(registro().NOMBRE(), u"SEGUROS UNO"_s);
             }
     }
 
@@ -246,7 +248,7 @@ private Q_SLOTS:
     {
         Formulario f(true);
         QSignalSpy cambios(f.pantalla.get(), &PantallaBase::datosCambiados);
-        f.manos->escribir("txtnombre", u"SEGUROS UNO"_qs);
+        f.manos->escribir("txtnombre", u"SEGUROS UNO"_s);
         f.manos->pulsar("cmdAceptar");
         QCOMPARE(f.siguiente, Pantalla::Resumen);
         QCOMPARE(cambios.count(), 0);
@@ -256,24 +258,24 @@ private Q_SLOTS:
     void calleLarga()
     {
         Formulario f;
-        const QString calle = u"ÁNGEL GARCÍA DE LA CALLE NUEVA"_qs;
+        const QString calle = u"ÁNGEL GARCÍA DE LA CALLE NUEVA"_s;
         const qint32 csco = Entorno::altaDeclarante();
         auto &datos = registro();
-        datos.MODO(u"C"_qs);
+        datos.MODO(u"C"_s);
         datos.CSCO(csco);
         datos.CargarDeclarante(csco);
         datos.DOMICILIO(calle);
-        f.manos->escribir("txtnombre", u"otro nombre"_qs);
+        f.manos->escribir("txtnombre", u"otro nombre"_s);
         f.manos->tecla(Qt::Key_Tab);
         QCOMPARE(f.manos->texto("txtdomicilio"), calle);
         f.manos->control("txtdomicilio")->setFocus();
         f.manos->tecla(Qt::Key_End);
-        QTest::keyClicks(f.manos->control("txtdomicilio"), u"x"_qs);
+        QTest::keyClicks(f.manos->control("txtdomicilio"), u"x"_s);
         QCOMPARE(f.manos->texto("txtdomicilio"), calle);
         f.manos->pulsar("cmdAceptar");
         registro().CargarDeclarante(csco);
         QCOMPARE(registro().DOMICILIO(), calle);
-        QCOMPARE(registro().NOMBRE(), u"OTRO NOMBRE"_qs);
+        QCOMPARE(registro().NOMBRE(), u"OTRO NOMBRE"_s);
     }
 
     void falloAlGuardar()
@@ -284,30 +286,30 @@ private Q_SLOTS:
             const ModeloPerdido perdido;
             f.responderYPulsar(QMessageBox::Ok, "cmdAceptar");
         }
-        QVERIFY(f.mensajes.texto().contains(u"OstrMod.mdb"_qs));
+        QVERIFY(f.mensajes.texto().contains(u"OstrMod.mdb"_s));
         QVERIFY(f.pantalla->isVisible());
-        QCOMPARE(f.manos->texto("txttelefono"), u"943000000"_qs);
+        QCOMPARE(f.manos->texto("txttelefono"), u"943000000"_s);
         f.manos->pulsar("cmdAceptar");
         QCOMPARE(f.siguiente, Pantalla::Resumen);
-        QVERIFY(registro().ObtenerCodigoDeclarante(u"12345678Z"_qs) > 0);
+        QVERIFY(registro().ObtenerCodigoDeclarante(u"12345678Z"_s) > 0);
     }
 
     void idioma()
     {
         Formulario f;
-        f.manos->escribir("txtcodprov", u"48"_qs);
+        f.manos->escribir("txtcodprov", u"48"_s);
         f.manos->tecla(Qt::Key_Tab);
-        QCOMPARE(f.manos->texto("txtnomprov"), u"VIZCAYA"_qs);
-        f.manos->escribir("txtnombre", u"a medias"_qs);
+        QCOMPARE(f.manos->texto("txtnomprov"), u"VIZCAYA"_s);
+        f.manos->escribir("txtnombre", u"a medias"_s);
         accesosDistintos(f);
         Entorno::pasarAEuskera(*f.pantalla);
         accesosDistintos(f);
-        QCOMPARE(f.pantalla->windowTitle(), u"Aitortzailearen datuak"_qs);
-        QCOMPARE(f.manos->texto("txtnomprov"), u"BIZKAIA"_qs);
-        QCOMPARE(f.manos->texto("txtviaaux"), u"KALEA"_qs);
-        QCOMPARE(f.manos->texto("txtnombre"), u"A MEDIAS"_qs);
-        QCOMPARE(f.lista("lstCodProv")->findItems(u"BIZKAIA"_qs, Qt::MatchExactly).size(), 1);
-        QVERIFY(f.lista("lstCodProv")->findItems(u"VIZCAYA"_qs, Qt::MatchExactly).isEmpty());
+        QCOMPARE(f.pantalla->windowTitle(), u"Aitortzailearen datuak"_s);
+        QCOMPARE(f.manos->texto("txtnomprov"), u"BIZKAIA"_s);
+        QCOMPARE(f.manos->texto("txtviaaux"), u"KALEA"_s);
+        QCOMPARE(f.manos->texto("txtnombre"), u"A MEDIAS"_s);
+        QCOMPARE(f.lista("lstCodProv")->findItems(u"BIZKAIA"_s, Qt::MatchExactly).size(), 1);
+        QVERIFY(f.lista("lstCodProv")->findItems(u"VIZCAYA"_s, Qt::MatchExactly).isEmpty());
     }
 
     void ordenDelTeclado()
@@ -323,10 +325,10 @@ private Q_SLOTS:
             vistos.join(u' '),
             u"txtdni txtnombre txtvia cmdVia txtdomicilio txtnumero txtletra txtescalera txtpiso "
             "txtmano txtcodprov cmdProvincia txtcodpos txtcodmun cmdMunicipio txttelefono "
-            "cmdAceptar cmdCancelar"_qs);
+            "cmdAceptar cmdCancelar"_s);
         f.manos->control("txtvia")->setFocus();
         f.manos->tecla(Qt::Key_Return);
-        QCOMPARE(f.manos->foco(), u"txtdomicilio"_qs);
+        QCOMPARE(f.manos->foco(), u"txtdomicilio"_s);
     }
 };
 

@@ -11,15 +11,17 @@
 #include <QSignalSpy>
 #include <QTableView>
 
+using namespace Qt::StringLiterals;
+
 /// The list over three declarants, whose order by DNI is not that by name.
 struct Lista : PantallaAbierta<FrmDecLista>
 {
-    explicit Lista(const QString &modo = u"C"_qs, bool conDatos = true)
+    explicit Lista(const QString &modo = u"C"_s, bool conDatos = true)
     {
         if (conDatos) {
-            zeta = Entorno::altaDeclarante(u"00000001R"_qs, u"ZETA"_qs);
-            Entorno::altaDeclarante(u"12345678Z"_qs, u"ALFA"_qs);
-            media = Entorno::altaDeclarante(u"00000002W"_qs, u"MEDIA"_qs);
+            zeta = Entorno::altaDeclarante(u"00000001R"_s, u"ZETA"_s);
+            Entorno::altaDeclarante(u"12345678Z"_s, u"ALFA"_s);
+            media = Entorno::altaDeclarante(u"00000002W"_s, u"MEDIA"_s);
         }
         unico::la<cDecLista>().MODO(modo);
         abrir();
@@ -56,14 +58,14 @@ private Q_SLOTS:
     void columnas()
     {
         Lista l;
-        QCOMPARE(l.pantalla->windowTitle(), u"Abrir Declarante"_qs);
-        QCOMPARE(l.manos->texto("lblNumDecla"), u"3 declarantes seleccionados"_qs);
+        QCOMPARE(l.pantalla->windowTitle(), u"Abrir Declarante"_s);
+        QCOMPARE(l.manos->texto("lblNumDecla"), u"3 declarantes seleccionados"_s);
         const auto *modelo = l.grid()->model();
         QCOMPARE(modelo->columnCount(), 7);
         for (const int oculta : {0, 5, 6})
             QVERIFY(l.grid()->isColumnHidden(oculta));
-        QCOMPARE(modelo->index(0, 4).data().toString(), u"VARLENDA"_qs);
-        QCOMPARE(l.elegido(), u"ZETA"_qs);
+        QCOMPARE(modelo->index(0, 4).data().toString(), u"VARLENDA"_s);
+        QCOMPARE(l.elegido(), u"ZETA"_s);
         QCOMPARE(unico::la<cDecLista>().CSCO(), l.zeta);
     }
 
@@ -71,14 +73,14 @@ private Q_SLOTS:
     {
         Lista l;
         l.cabecera(FilaDeclarante::NOMBRE);
-        QCOMPARE(l.nombres(), QStringList({u"ALFA"_qs, u"MEDIA"_qs, u"ZETA"_qs}));
-        QCOMPARE(l.elegido(), u"ZETA"_qs);
+        QCOMPARE(l.nombres(), QStringList({u"ALFA"_s, u"MEDIA"_s, u"ZETA"_s}));
+        QCOMPARE(l.elegido(), u"ZETA"_s);
         auto *cabecera = l.grid()->horizontalHeader();
         QCOMPARE(cabecera->sortIndicatorSection(), 2);
         l.cabecera(FilaDeclarante::NOMMUN);
         QCOMPARE(unico::la<cDecLista>().ORDEN(), cDecLista::PorNombre);
         QTest::keyClick(l.grid(), Qt::Key_1, Qt::ControlModifier);
-        QCOMPARE(l.nombres(), QStringList({u"ZETA"_qs, u"MEDIA"_qs, u"ALFA"_qs}));
+        QCOMPARE(l.nombres(), QStringList({u"ZETA"_s, u"MEDIA"_s, u"ALFA"_s}));
         QCOMPARE(cabecera->sortIndicatorSection(), 1);
         QVERIFY(cabecera->isSortIndicatorShown());
     }
@@ -98,9 +100,9 @@ private Q_SLOTS:
             else
                 l.manos->pulsar(manera);
             QCOMPARE(l.siguiente, Pantalla::Resumen);
-            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"A"_qs);
+            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"A"_s);
             QCOMPARE(unico::la<cDecResumen>().CSCO(), l.media);
-            QCOMPARE(unico::la<cDecResumen>().NOMBRE(), u"MEDIA"_qs);
+            QCOMPARE(unico::la<cDecResumen>().NOMBRE(), u"MEDIA"_s);
         }
     }
 
@@ -108,16 +110,16 @@ private Q_SLOTS:
     {
         Lista l;
         l.cabecera(FilaDeclarante::NOMBRE);
-        QTest::keyClicks(l.grid(), u"me"_qs);
+        QTest::keyClicks(l.grid(), u"me"_s);
         auto *caja = l.manos->control<QLineEdit>("txtBusqueda");
         QVERIFY(caja->isVisible());
-        QCOMPARE(caja->text(), u"me"_qs);
-        QCOMPARE(l.elegido(), u"MEDIA"_qs);
+        QCOMPARE(caja->text(), u"me"_s);
+        QCOMPARE(l.elegido(), u"MEDIA"_s);
         QTest::keyClick(l.grid(), Qt::Key_Escape);
         QVERIFY(!caja->isVisible());
         QVERIFY(l.pantalla->isVisible());
-        QTest::keyClicks(l.grid(), u"xx"_qs);
-        QCOMPARE(l.elegido(), u"MEDIA"_qs);
+        QTest::keyClicks(l.grid(), u"xx"_s);
+        QCOMPARE(l.elegido(), u"MEDIA"_s);
         QTest::keyClick(l.grid(), Qt::Key_Backspace);
         QTest::keyClick(l.grid(), Qt::Key_Backspace);
         QVERIFY(!caja->isVisible());
@@ -125,8 +127,8 @@ private Q_SLOTS:
 
     void vacia()
     {
-        Lista l(u"C"_qs, false);
-        QCOMPARE(l.manos->texto("lblNumDecla"), u"0 declarantes seleccionados"_qs);
+        Lista l(u"C"_s, false);
+        QCOMPARE(l.manos->texto("lblNumDecla"), u"0 declarantes seleccionados"_s);
         QVERIFY(l.manos->control("lblVacio")->isVisible());
         QVERIFY(!l.manos->control("cmdAceptar")->isEnabled());
         QTest::keyClick(l.grid(), Qt::Key_Return);
@@ -135,16 +137,16 @@ private Q_SLOTS:
 
     void borrar()
     {
-        Lista l(u"E"_qs);
-        QCOMPARE(l.pantalla->windowTitle(), u"Eliminar Declarante"_qs);
+        Lista l(u"E"_s);
+        QCOMPARE(l.pantalla->windowTitle(), u"Eliminar Declarante"_s);
         QSignalSpy cambios(l.pantalla.get(), &PantallaBase::datosCambiados);
         QTest::keyClick(l.grid(), Qt::Key_Down);
         l.responderYPulsar(QMessageBox::No, "cmdAceptar");
         const auto vistos = l.mensajes.tomar();
         QCOMPARE(vistos.size(), 1);
-        QCOMPARE(vistos[0].titulo, u"Borrado del declarante"_qs);
+        QCOMPARE(vistos[0].titulo, u"Borrado del declarante"_s);
         QCOMPARE(vistos[0].texto,
-                 u"¿Está seguro que desea eliminar el declarante: 00000002W - MEDIA?"_qs);
+                 u"¿Está seguro que desea eliminar el declarante: 00000002W - MEDIA?"_s);
         QCOMPARE(vistos[0].porDefecto, QMessageBox::No);
         QCOMPARE(l.nombres().size(), 3);
         QCOMPARE(cambios.count(), 0);
@@ -152,16 +154,16 @@ private Q_SLOTS:
         l.grid()->setFocus();
         l.mensajes.responder(QMessageBox::Yes);
         QTest::keyClick(l.grid(), Qt::Key_Return);
-        QCOMPARE(l.nombres(), QStringList({u"ZETA"_qs, u"ALFA"_qs}));
-        QCOMPARE(l.elegido(), u"ALFA"_qs);
+        QCOMPARE(l.nombres(), QStringList({u"ZETA"_s, u"ALFA"_s}));
+        QCOMPARE(l.elegido(), u"ALFA"_s);
         QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 2);
         QCOMPARE(cambios.count(), 1);
     }
 
     void conDeclaraciones()
     {
-        Lista l(u"E"_qs);
-        Entorno::altaDeclaracion(l.zeta, 2026, 12, u"480"_qs);
+        Lista l(u"E"_s);
+        Entorno::altaDeclaracion(l.zeta, 2026, 12, u"480"_s);
         l.pantalla->Actualizar();
         l.responderYPulsar(QMessageBox::Ok, "cmdAceptar");
         QCOMPARE(l.mensajes.texto(), msj(Msj::AvisoTieneDeclaraciones));
@@ -170,7 +172,7 @@ private Q_SLOTS:
 
     void falloAlBorrar()
     {
-        Lista l(u"E"_qs);
+        Lista l(u"E"_s);
         {
             const ModeloPerdido perdido;
             l.mensajes.responder(QMessageBox::Yes);
@@ -184,15 +186,15 @@ private Q_SLOTS:
 
     void idioma()
     {
-        Lista l(u"E"_qs);
+        Lista l(u"E"_s);
         QTest::keyClick(l.grid(), Qt::Key_Down);
         Entorno::pasarAEuskera(*l.pantalla);
-        QCOMPARE(l.pantalla->windowTitle(), u"Deuseztatu aitortzailea"_qs);
-        QCOMPARE(l.manos->texto("lblNumDecla"), u"3 aitortzaile hautatu d(ir)a"_qs);
+        QCOMPARE(l.pantalla->windowTitle(), u"Deuseztatu aitortzailea"_s);
+        QCOMPARE(l.manos->texto("lblNumDecla"), u"3 aitortzaile hautatu d(ir)a"_s);
         QCOMPARE(l.grid()->model()->headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(),
-                 u"Sozietatearen izena"_qs);
-        QCOMPARE(l.manos->texto("cmdAceptar").remove(u'&').trimmed(), u"Deuseztatu"_qs);
-        QCOMPARE(l.elegido(), u"MEDIA"_qs);
+                 u"Sozietatearen izena"_s);
+        QCOMPARE(l.manos->texto("cmdAceptar").remove(u'&').trimmed(), u"Deuseztatu"_s);
+        QCOMPARE(l.elegido(), u"MEDIA"_s);
     }
 
     void cancelar()

@@ -14,6 +14,8 @@
 #include <QSignalSpy>
 #include <QTableView>
 
+using namespace Qt::StringLiterals;
+
 /// The summary of one declarant with the 430 returns of the months given, of 2025.
 struct Resumen : PantallaAbierta<FrmDecResumen>
 {
@@ -23,10 +25,10 @@ struct Resumen : PantallaAbierta<FrmDecResumen>
         for (const int mes : meses)
             claves += Entorno::altaDeclaracion(csco, 2025, static_cast<quint8>(mes));
         if (anual)
-            claves += Entorno::altaDeclaracion(csco, 2025, 12, u"480"_qs);
+            claves += Entorno::altaDeclaracion(csco, 2025, 12, u"480"_s);
         auto &cabecera = unico::la<cDecResumen>();
-        cabecera.TomarDeclarante(csco, u"12345678Z"_qs, u"SEGUROS UNO"_qs);
-        cabecera.ENTRADA(u"A"_qs);
+        cabecera.TomarDeclarante(csco, u"12345678Z"_s, u"SEGUROS UNO"_s);
+        cabecera.ENTRADA(u"A"_s);
         cabecera.CSDE(99);
         abrir();
     }
@@ -75,18 +77,18 @@ private Q_SLOTS:
     {
         Resumen r({1, 12}, true);
         QCOMPARE(cabecera().CSDE(), 0);
-        QCOMPARE(cabecera().MODO(), u"L"_qs);
-        QCOMPARE(r.manos->texto("lblnombre"), u"SEGUROS UNO"_qs);
-        QVERIFY(r.manos->texto("lbldni").contains(u"12345678Z"_qs));
-        QCOMPARE(r.manos->texto("lblNumDecla"), u"3 declaraciones seleccionadas"_qs);
+        QCOMPARE(cabecera().MODO(), u"L"_s);
+        QCOMPARE(r.manos->texto("lblnombre"), u"SEGUROS UNO"_s);
+        QVERIFY(r.manos->texto("lbldni").contains(u"12345678Z"_s));
+        QCOMPARE(r.manos->texto("lblNumDecla"), u"3 declaraciones seleccionadas"_s);
         QCOMPARE(r.grid()->model()->columnCount(), 8);
         for (const int oculta : {0, 2, 5, 7})
             QVERIFY(r.grid()->isColumnHidden(oculta));
-        QCOMPARE(r.celda(0, 3), u"ENERO"_qs);
-        QCOMPARE(r.celda(2, 3), u"ANUAL"_qs);
-        QCOMPARE(r.celda(2, 4), u"480"_qs);
-        QCOMPARE(r.celda(0, 6), u"0,00"_qs);
-        QCOMPARE(r.celda(1, 7), u"12"_qs);
+        QCOMPARE(r.celda(0, 3), u"ENERO"_s);
+        QCOMPARE(r.celda(2, 3), u"ANUAL"_s);
+        QCOMPARE(r.celda(2, 4), u"480"_s);
+        QCOMPARE(r.celda(0, 6), u"0,00"_s);
+        QCOMPARE(r.celda(1, 7), u"12"_s);
         for (const char *boton : {"cmdDatos", "cmdImprimir", "cmdEliminar"})
             QVERIFY(!r.manos->control(boton)->isEnabled());
         QTest::keyClick(r.grid(), Qt::Key_Down);
@@ -101,9 +103,9 @@ private Q_SLOTS:
         QVERIFY(!r.manos->control("fraNueva")->isVisible());
         r.manos->pulsar("ImgNueva");
         QVERIFY(r.manos->control("fraNueva")->isVisible());
-        QCOMPARE(cabecera().MODO(), u"N"_qs);
-        QCOMPARE(r.propuesta(), u"2025/480/ANUAL"_qs);
-        QCOMPARE(r.manos->foco(), u"txtejer"_qs);
+        QCOMPARE(cabecera().MODO(), u"N"_s);
+        QCOMPARE(r.propuesta(), u"2025/480/ANUAL"_s);
+        QCOMPARE(r.manos->foco(), u"txtejer"_s);
     }
 
     /// By hand, from an empty proposal; the last entry is committed by the press itself.
@@ -111,20 +113,19 @@ private Q_SLOTS:
     {
         for (const bool anual : {false, true}) {
             Resumen r;
-            const QString periodo = anual ? u"ANUAL"_qs : u"MARZO"_qs;
+            const QString periodo = anual ? u"ANUAL"_s : u"MARZO"_s;
             r.manos->pulsar("ImgNueva");
-            QTest::keyClicks(r.manos->control("txtejer"), u"2026"_qs);
-            r.elegirEntrada("cmbmodelo", anual ? u"480"_qs : u"430"_qs);
+            QTest::keyClicks(r.manos->control("txtejer"), u"2026"_s);
+            r.elegirEntrada("cmbmodelo", anual ? u"480"_s : u"430"_s);
             r.manos->escribir("cmbperiodo", periodo.toLower());
             QCOMPARE(r.combo("cmbperiodo")->currentText(), periodo);
             r.manos->tecla(Qt::Key_Return);
-            QCOMPARE(r.manos->foco(), u"ImgNueva"_qs);
+            QCOMPARE(r.manos->foco(), u"ImgNueva"_s);
             r.manos->tecla(Qt::Key_Return);
             QCOMPARE(cabecera().EJERCICIO(), 2026);
             QCOMPARE(int(cabecera().PERIODO()), anual ? 12 : 3);
             QCOMPARE(r.siguiente, anual ? Pantalla::Datos480a : Pantalla::Datos430);
-            QCOMPARE(anual ? unico::la<cDatos480>().MODO() : unico::la<cDatos430>().MODO(),
-                     u"A"_qs);
+            QCOMPARE(anual ? unico::la<cDatos480>().MODO() : unico::la<cDatos430>().MODO(), u"A"_s);
             QVERIFY(!r.pantalla->isVisible());
         }
     }
@@ -133,14 +134,14 @@ private Q_SLOTS:
     {
         Resumen r({1});
         r.manos->pulsar("ImgNueva");
-        r.manos->escribir("txtejer", u"2o24"_qs);
-        QCOMPARE(r.manos->texto("txtejer"), u"224"_qs);
-        r.manos->escribir("txtejer", u"2025"_qs);
+        r.manos->escribir("txtejer", u"2o24"_s);
+        QCOMPARE(r.manos->texto("txtejer"), u"224"_s);
+        r.manos->escribir("txtejer", u"2025"_s);
         r.manos->tecla(Qt::Key_Tab);
-        QCOMPARE(r.propuesta(), u"2025/430/FEBRERO"_qs);
-        r.manos->escribir("txtejer", u"2024"_qs);
+        QCOMPARE(r.propuesta(), u"2025/430/FEBRERO"_s);
+        r.manos->escribir("txtejer", u"2024"_s);
         r.manos->control("ImgNueva")->setFocus();
-        QCOMPARE(r.propuesta(), u"2024//"_qs);
+        QCOMPARE(r.propuesta(), u"2024//"_s);
         QCOMPARE(cabecera().EJERCICIO(), 2024);
         QCOMPARE(cabecera().MODELO(), QString());
     }
@@ -151,7 +152,7 @@ private Q_SLOTS:
                              const QString &periodo, qint16 codigo, const QString &foco) {
             Resumen r({1});
             r.manos->pulsar("ImgNueva");
-            r.manos->escribir("txtejer", u"1"_qs);
+            r.manos->escribir("txtejer", u"1"_s);
             r.manos->tecla(Qt::Key_Return);
             r.manos->escribir("txtejer", ejercicio);
             if (!modelo.isEmpty())
@@ -163,10 +164,10 @@ private Q_SLOTS:
             QCOMPARE(r.manos->foco(), foco);
             QVERIFY(r.pantalla->isVisible() && !r.siguiente);
         };
-        caso({}, {}, {}, 1, u"txtejer"_qs);
-        caso(u"2025"_qs, u"430"_qs, {}, 2, u"cmbperiodo"_qs);
-        caso(u"2031"_qs, u"430"_qs, u"MAYO"_qs, 4, u"txtejer"_qs);
-        caso(u"2025"_qs, u"430"_qs, u"ENERO"_qs, 5, u"txtejer"_qs);
+        caso({}, {}, {}, 1, u"txtejer"_s);
+        caso(u"2025"_s, u"430"_s, {}, 2, u"cmbperiodo"_s);
+        caso(u"2031"_s, u"430"_s, u"MAYO"_s, 4, u"txtejer"_s);
+        caso(u"2025"_s, u"430"_s, u"ENERO"_s, 5, u"txtejer"_s);
     }
 
     void noEstaEnLaLista()
@@ -176,12 +177,12 @@ private Q_SLOTS:
         auto *combo = r.combo("cmbperiodo");
         combo->setFocus(Qt::PopupFocusReason);
         combo->lineEdit()->selectAll();
-        QTest::keyClicks(combo, u"x9"_qs);
+        QTest::keyClicks(combo, u"x9"_s);
         r.mensajes.responder(QMessageBox::Ok);
         QTest::keyClick(combo, Qt::Key_Tab);
         QCOMPARE(r.mensajes.texto(), msj(Msj::ErrorPeriodoLista));
-        QTRY_COMPARE(r.manos->foco(), u"cmbperiodo"_qs);
-        QCOMPARE(combo->currentText(), u"X9"_qs);
+        QTRY_COMPARE(r.manos->foco(), u"cmbperiodo"_s);
+        QCOMPARE(combo->currentText(), u"X9"_s);
         QCOMPARE(int(cabecera().PERIODO()), 2);
     }
 
@@ -195,11 +196,11 @@ private Q_SLOTS:
         QTest::keyClick(modelo->view(), Qt::Key_Down);
         QTest::keyClick(modelo->view(), Qt::Key_Tab);
         QVERIFY(!modelo->view()->isVisible());
-        QCOMPARE(r.manos->foco(), u"cmbperiodo"_qs);
-        QCOMPARE(r.propuesta(), u"2025/480/ANUAL"_qs);
+        QCOMPARE(r.manos->foco(), u"cmbperiodo"_s);
+        QCOMPARE(r.propuesta(), u"2025/480/ANUAL"_s);
         QCOMPARE(int(cabecera().PERIODO()), 12);
-        r.elegirEntrada("cmbmodelo", u"430"_qs);
-        QCOMPARE(r.propuesta(), u"2025/430/"_qs);
+        r.elegirEntrada("cmbmodelo", u"430"_s);
+        QCOMPARE(r.propuesta(), u"2025/430/"_s);
     }
 
     void abandonar()
@@ -207,9 +208,9 @@ private Q_SLOTS:
         Resumen r({1});
         const auto comprobar = [&] {
             QVERIFY(!r.manos->control("fraNueva")->isVisible());
-            QCOMPARE(cabecera().MODO(), u"L"_qs);
+            QCOMPARE(cabecera().MODO(), u"L"_s);
             QCOMPARE(cabecera().EJERCICIO(), 0);
-            QCOMPARE(r.manos->foco(), u"flxDeclaraciones"_qs);
+            QCOMPARE(r.manos->foco(), u"flxDeclaraciones"_s);
         };
         r.manos->pulsar("ImgNueva");
         r.manos->tecla(Qt::Key_Escape);
@@ -237,7 +238,7 @@ private Q_SLOTS:
             QCOMPARE(int(cabecera().TIPOLOGIA()), fila + 1);
             const auto &mensual = unico::la<cDatos430>();
             const auto &anual = unico::la<cDatos480>();
-            QCOMPARE(fila == 1 ? anual.MODO() : mensual.MODO(), u"C"_qs);
+            QCOMPARE(fila == 1 ? anual.MODO() : mensual.MODO(), u"C"_s);
             QCOMPARE(fila == 1 ? anual.CSDE() : mensual.CSDE(), r.claves[fila]);
         }
     }
@@ -256,7 +257,7 @@ private Q_SLOTS:
         const auto &peticion = unico::la<cImOf>();
         QCOMPARE(peticion.CSCO(), r.csco);
         QCOMPARE(peticion.CSDE(), r.claves[0]);
-        QCOMPARE(peticion.MODELO(), u"430"_qs);
+        QCOMPARE(peticion.MODELO(), u"430"_s);
     }
 
     void borrar()
@@ -267,15 +268,15 @@ private Q_SLOTS:
         r.responderYPulsar(QMessageBox::No, "cmdEliminar");
         const auto vistos = r.mensajes.tomar();
         QCOMPARE(vistos.size(), 1);
-        QCOMPARE(vistos[0].titulo, u"Borrado de la declaración"_qs);
+        QCOMPARE(vistos[0].titulo, u"Borrado de la declaración"_s);
         QCOMPARE(vistos[0].texto,
-                 u"¿Esta seguro que desea eliminar la declaración: 2025 - FEBRERO ?"_qs);
+                 u"¿Esta seguro que desea eliminar la declaración: 2025 - FEBRERO ?"_s);
         QCOMPARE(vistos[0].porDefecto, QMessageBox::No);
         QCOMPARE(r.grid()->model()->rowCount(), 2);
 
         r.responderYPulsar(QMessageBox::Yes, "cmdEliminar");
         QCOMPARE(r.grid()->model()->rowCount(), 1);
-        QCOMPARE(r.manos->foco(), u"flxDeclaraciones"_qs);
+        QCOMPARE(r.manos->foco(), u"flxDeclaraciones"_s);
         QVERIFY(!r.manos->control("cmdEliminar")->isEnabled());
         QCOMPARE(cambios.count(), 1);
         r.elegir(0);
@@ -286,15 +287,15 @@ private Q_SLOTS:
         }
         QCOMPARE(r.grid()->model()->rowCount(), 1);
         r.responderYPulsar(QMessageBox::Yes, "cmdEliminar");
-        QCOMPARE(r.manos->foco(), u"cmdDeclarante"_qs);
-        QCOMPARE(r.manos->texto("lblNumDecla"), u"No existen declaraciones"_qs);
+        QCOMPARE(r.manos->foco(), u"cmdDeclarante"_s);
+        QCOMPARE(r.manos->texto("lblNumDecla"), u"No existen declaraciones"_s);
     }
 
     /// Back from an entry screen, the return is selected again.
     void volver()
     {
         Resumen r({1, 2, 3});
-        cabecera().ENTRADA(u"P"_qs);
+        cabecera().ENTRADA(u"P"_s);
         cabecera().CSDE(r.claves[1]);
         r.abrir();
         QCOMPARE(cabecera().CSDE(), r.claves[1]);
@@ -308,7 +309,7 @@ private Q_SLOTS:
         r.manos->pulsar("cmdDeclarante");
         QCOMPARE(r.siguiente, Pantalla::DatosDeclarante);
         const auto &datos = unico::la<cDecDatos>();
-        QCOMPARE(datos.MODO(), u"C"_qs);
+        QCOMPARE(datos.MODO(), u"C"_s);
         QCOMPARE(datos.CSCO(), r.csco);
         QCOMPARE(datos.NUM430(), 1.0);
     }
@@ -319,11 +320,11 @@ private Q_SLOTS:
         r.elegir(0);
         r.manos->pulsar("ImgNueva");
         Entorno::pasarAEuskera(*r.pantalla);
-        QCOMPARE(r.pantalla->windowTitle(), u"Aitortzailea - Aitorpenak"_qs);
-        QCOMPARE(r.celda(0, 3), u"URTARRILA"_qs);
-        QCOMPARE(r.propuesta(), u"2025/430/OTSAILA"_qs);
+        QCOMPARE(r.pantalla->windowTitle(), u"Aitortzailea - Aitorpenak"_s);
+        QCOMPARE(r.celda(0, 3), u"URTARRILA"_s);
+        QCOMPARE(r.propuesta(), u"2025/430/OTSAILA"_s);
         QCOMPARE(r.grid()->currentIndex().row(), 0);
-        QCOMPARE(r.manos->texto("lblNumDecla"), u"1 aitorpen hautatu d(ir)a"_qs);
+        QCOMPARE(r.manos->texto("lblNumDecla"), u"1 aitorpen hautatu d(ir)a"_s);
     }
 };
 

@@ -9,12 +9,14 @@
 #include <QTcpServer>
 #include <QTest>
 
-static const QString Cola = u"OstrelPrueba"_qs;
+using namespace Qt::StringLiterals;
+
+static const QString Cola = u"OstrelPrueba"_s;
 
 static QString programa(const QString &nombre)
 {
     return QStandardPaths::findExecutable(
-        nombre, {u"/usr/sbin"_qs, u"/usr/bin"_qs, u"/usr/lib/cups/backend"_qs});
+        nombre, {u"/usr/sbin"_s, u"/usr/bin"_s, u"/usr/lib/cups/backend"_s});
 }
 
 /// Both copies through a real print queue: a CUPS server of our own on a free port, with the PDF
@@ -30,29 +32,29 @@ private Q_SLOTS:
             if (programa(QString::fromLatin1(nombre)).isEmpty())
                 QSKIP("needs cups and printer-driver-cups-pdf");
         QVERIFY(iniciarCups());
-        QTRY_VERIFY(ejecutar(u"lpadmin"_qs,
-                             {u"-p"_qs, Cola, u"-E"_qs, u"-v"_qs, u"cups-pdf:/"_qs, u"-m"_qs,
-                              u"lsb/usr/cups-pdf/CUPS-PDF_opt.ppd"_qs}));
+        QTRY_VERIFY(ejecutar(u"lpadmin"_s,
+                             {u"-p"_s, Cola, u"-E"_s, u"-v"_s, u"cups-pdf:/"_s, u"-m"_s,
+                              u"lsb/usr/cups-pdf/CUPS-PDF_opt.ppd"_s}));
         QTRY_VERIFY(SalidaImpresora::hayImpresoras());
     }
 
     void dosDocumentos()
     {
         const Entorno entorno;
-        pedirImpresion(u"430"_qs);
+        pedirImpresion(u"430"_s);
         TrabajoImpresion trabajo(unico::la<cImOf>());
         SalidaImpresora salida;
-        QVERIFY(!salida.elegir(u"OtraQueNoExiste"_qs));
+        QVERIFY(!salida.elegir(u"OtraQueNoExiste"_s));
         QVERIFY(salida.elegir(Cola));
         QVERIFY(salida.imprimir(trabajo));
         // the server keeps what each job sent it: d00001-001, d00002-001
-        const QDir cola(m_carpeta.filePath(u"cola"_qs));
-        QTRY_COMPARE(cola.entryList({u"d*"_qs}, QDir::Files).size(), 2);
-        const QStringList trabajos = cola.entryList({u"d*"_qs}, QDir::Files, QDir::Name);
+        const QDir cola(m_carpeta.filePath(u"cola"_s));
+        QTRY_COMPARE(cola.entryList({u"d*"_s}, QDir::Files).size(), 2);
+        const QStringList trabajos = cola.entryList({u"d*"_s}, QDir::Files, QDir::Name);
         const char *leyendas[] = {"ADMINISTRACIÓN", "INTERESADO"};
         for (int i = 0; i < 2; ++i) {
             QProcess texto;
-            texto.start(u"pdftotext"_qs, {cola.filePath(trabajos[i]), u"-"_qs});
+            texto.start(u"pdftotext"_s, {cola.filePath(trabajos[i]), u"-"_s});
             QVERIFY(texto.waitForFinished());
             QVERIFY(texto.readAllStandardOutput().contains(leyendas[i]));
         }
@@ -72,25 +74,25 @@ private:
         QTcpServer puerto;
         if (!puerto.listen(QHostAddress::LocalHost))
             return false;
-        const QString servidor = u"127.0.0.1:"_qs + QString::number(puerto.serverPort());
+        const QString servidor = u"127.0.0.1:"_s + QString::number(puerto.serverPort());
         puerto.close();
         for (const char *sub : {"estado", "cola", "tmp", "cache"})
             QDir(m_carpeta.path()).mkpath(QString::fromLatin1(sub));
         const QString raiz = m_carpeta.path();
-        escribir(u"cups-files.conf"_qs,
+        escribir(u"cups-files.conf"_s,
                  u"ServerRoot %1\nStateDir %1/estado\nRequestRoot %1/cola\nTempDir %1/tmp\n"
                  "CacheDir %1/cache\nErrorLog %1/error_log\nAccessLog %1/access_log\n"
-                 "PageLog %1/page_log\nFileDevice Yes\n"_qs.arg(raiz));
+                 "PageLog %1/page_log\nFileDevice Yes\n"_s.arg(raiz));
         escribir(
-            u"cupsd.conf"_qs,
+            u"cupsd.conf"_s,
             u"Listen %1\nBrowsing Off\nDefaultAuthType None\nPreserveJobFiles Yes\n"
             "PreserveJobHistory Yes\n<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
-            "<Policy default>\n<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_qs
+            "<Policy default>\n<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_s
                 .arg(servidor));
         qputenv("CUPS_SERVER", servidor.toLatin1());
-        m_cups.start(programa(u"cupsd"_qs),
-                     {u"-f"_qs, u"-c"_qs, raiz + u"/cupsd.conf"_qs, u"-s"_qs,
-                      raiz + u"/cups-files.conf"_qs});
+        m_cups.start(
+            programa(u"cupsd"_s),
+            {u"-f"_s, u"-c"_s, raiz + u"/cupsd.conf"_s, u"-s"_s, raiz + u"/cups-files.conf"_s});
         return m_cups.waitForStarted();
     }
 

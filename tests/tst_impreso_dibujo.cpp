@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 /// Where things are drawn, read from the drawing itself.
 class tst_impreso_dibujo : public QObject
 {
@@ -25,16 +27,16 @@ private:
     static void modelos()
     {
         QTest::addColumn<QString>("modelo");
-        QTest::newRow("430") << u"430"_qs;
-        QTest::newRow("480") << u"480"_qs;
+        QTest::newRow("430") << u"430"_s;
+        QTest::newRow("480") << u"480"_s;
     }
 
 private Q_SLOTS:
     void secciones()
     {
         for (const auto &[modelo, lugares] :
-             {std::pair{u"430"_qs, QList{32.0, 38.22, 100.0, 150.0, 180.0, 225.0}},
-              {u"480"_qs, QList{28.0, 29.0, 55.2, 72.9, 221.0}}}) {
+             {std::pair{u"430"_s, QList{32.0, 38.22, 100.0, 150.0, 180.0, 225.0}},
+              {u"480"_s, QList{28.0, 29.0, 55.2, 72.9, 221.0}}}) {
             GrabadorDibujo g;
             grabar(g, modelo, valoresPrueba::lleno());
             for (const double arriba : lugares) {
@@ -57,20 +59,20 @@ private Q_SLOTS:
             QPointF lugar; ///< left end and middle of the capitals, millimetres
         };
         const QMap<QString, QList<Rotulo>> rotulos{
-            {u"430"_qs,
-             {{u"Aitorpen - likidazioa /"_qs, {12, 34.7}},
-              {u"NA / IFZ"_qs, {11, 40.4}},
-              {u"W5881850W"_qs, {12, 48.8}},
-              {u"Posta helbidea"_qs, {11, 118.5}},
-              {u"EZARPEN TASA"_qs, {13, 164.5}},
-              {u"Ordainketa-gutuna/"_qs, {12, 227.7}}}},
-            {u"480"_qs,
-             {{u"IFZ/"_qs, {60.5, 30.9}},
-              {u"Posta helbidea /"_qs, {60.5, 65.4}},
-              {u"Bizi aseguruak /"_qs, {12, 87.8}},
-              {u"BATURA /"_qs, {12, 216.9}},
-              {u"Urteko likidazioaren emaitza (75+78+80)/"_qs, {12, 249.3}},
-              {u"31/12/2026"_qs, {12, 262.2}}}}};
+            {u"430"_s,
+             {{u"Aitorpen - likidazioa /"_s, {12, 34.7}},
+              {u"NA / IFZ"_s, {11, 40.4}},
+              {u"W5881850W"_s, {12, 48.8}},
+              {u"Posta helbidea"_s, {11, 118.5}},
+              {u"EZARPEN TASA"_s, {13, 164.5}},
+              {u"Ordainketa-gutuna/"_s, {12, 227.7}}}},
+            {u"480"_s,
+             {{u"IFZ/"_s, {60.5, 30.9}},
+              {u"Posta helbidea /"_s, {60.5, 65.4}},
+              {u"Bizi aseguruak /"_s, {12, 87.8}},
+              {u"BATURA /"_s, {12, 216.9}},
+              {u"Urteko likidazioaren emaitza (75+78+80)/"_s, {12, 249.3}},
+              {u"31/12/2026"_s, {12, 262.2}}}}};
         for (const auto &[modelo, lista] : rotulos.asKeyValueRange()) {
             GrabadorDibujo g;
             grabar(g, modelo, valoresPrueba::lleno());
@@ -142,17 +144,17 @@ private Q_SLOTS:
                 // advances may touch, ink may not
                 const QRectF primero = g.textos[i].caja.adjusted(0.05, 0, -0.05, 0);
                 QVERIFY2(!primero.intersects(g.textos[k].caja),
-                         qPrintable(g.textos[i].texto + u" | "_qs + g.textos[k].texto));
+                         qPrintable(g.textos[i].texto + u" | "_s + g.textos[k].texto));
             }
     }
 
     void marcas()
     {
         const QMap<QString, QString> leyendas{
-            {u"AD"_qs, u"ADMINISTRAZIOARENTZAKO ALEA|EJEMPLAR PARA LA ADMINISTRACIÓN"_qs},
-            {u"IT"_qs, u"INTERESDUNARENTZAKO ALEA|EJEMPLAR PARA EL INTERESADO"_qs},
-            {u"BO"_qs, u"ZIRRIBORROA|BORRADOR"_qs}};
-        for (const QString &modelo : {u"430"_qs, u"480"_qs})
+            {u"AD"_s, u"ADMINISTRAZIOARENTZAKO ALEA|EJEMPLAR PARA LA ADMINISTRACIÓN"_s},
+            {u"IT"_s, u"INTERESDUNARENTZAKO ALEA|EJEMPLAR PARA EL INTERESADO"_s},
+            {u"BO"_s, u"ZIRRIBORROA|BORRADOR"_s}};
+        for (const QString &modelo : {u"430"_s, u"480"_s})
             for (const auto &[copia, leyenda] : leyendas.asKeyValueRange()) {
                 GrabadorDibujo g;
                 grabar(g, modelo, valoresPrueba::lleno(), copia);

@@ -19,13 +19,15 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 #endif
 
 static const QString Comunes
     = u"Varlendako Foru Aldundia|Diputación Foral de Varlenda|Ogasun eta Finantza Departamentua|"
       "Departamento de Hacienda y Finanzas|www.varlenda.example|Aseguru Primen gaineko Zerga|"
       "Impuesto sobre las Primas de Seguros|W5881850W|943123456|99999 WW|ESC. WW WW WWW|38001|"
-      "2026|31/12/2026|9.999.999.999.999,99|-9.999.999.999.999,99|100,00|"_qs;
+      "2026|31/12/2026|9.999.999.999.999,99|-9.999.999.999.999,99|100,00|"_s;
 
 static const QString Del430
     = u"430|Aitorpen - likidazioa|Declaración - liquidación|NA / IFZ|DNI / NIF|"
@@ -38,7 +40,7 @@ static const QString Del430
       "/ BASE IMPONIBLE|EZARPEN TASA|/ TIPO IMPOSITIVO|%|KUOTA OSOA|/ CUOTA TOTAL|Data /|"
       "Fecha:|Aitortzailearen sinadura|Firma del declarante|Ordainketa-gutuna/|Carta de pago|"
       "Zigilua eta sinadura/|Sello y Firma|Entitatearen gakoa/|Clave Entidad|Data/|Fecha|"
-      "Zenbatekoa/|Importe"_qs;
+      "Zenbatekoa/|Importe"_s;
 
 static const QString Del480
     = u"480|Urteko Aitorpen Laburpena|Declaración Resumen Anual|Ekitaldia:|Ejercicio:|"
@@ -67,7 +69,7 @@ static const QString Del480
       "Aurreko ekitaldietako eragiketen zuzenketa /|Rectificación de|"
       "operaciones de ejercicios anteriores|Urteko likidazioaren emaitza (75+78+80)/|"
       "Resultado liquidación anual (75+78+80)|Data /|Fecha:|"
-      "Entitatearen ordezkariaren sinadura /|Firma del representante de la Entidad"_qs;
+      "Entitatearen ordezkariaren sinadura /|Firma del representante de la Entidad"_s;
 
 /// Largest difference of a channel between two pixels.
 static int diferencia(QRgb a, QRgb b)
@@ -83,7 +85,7 @@ static void guardarRestringido(const QString &carpeta, const QByteArray &bytes,
                                void (*restringir)(), QFile::Permissions permisos)
 {
     QVERIFY(QDir().mkpath(carpeta));
-    const QString ruta = carpeta + u"/a.pdf"_qs;
+    const QString ruta = carpeta + u"/a.pdf"_s;
     QCOMPARE(guardarPdf(ruta, "antes"), QString());
     const auto deAntes = QFile::permissions(carpeta);
     QVERIFY(QFile::setPermissions(carpeta, permisos));
@@ -111,7 +113,7 @@ class tst_impreso_pdf : public QObject
 private:
     static QByteArray pdf(const QString &modelo, const ValoresImpreso &v, const QString &copia)
     {
-        return documentoPdf(u"Modelo de prueba"_qs, [&](QPagedPaintDevice &dispositivo) {
+        return documentoPdf(u"Modelo de prueba"_s, [&](QPagedPaintDevice &dispositivo) {
             QPainter pintor(&dispositivo);
             valoresPrueba::dibujar(pintor, modelo, v, copia);
             return pintor.end();
@@ -133,8 +135,8 @@ private:
     static void modelos()
     {
         QTest::addColumn<QString>("modelo");
-        QTest::newRow("430") << u"430"_qs;
-        QTest::newRow("480") << u"480"_qs;
+        QTest::newRow("430") << u"430"_s;
+        QTest::newRow("480") << u"480"_s;
     }
 
     QTemporaryDir m_carpeta;
@@ -143,11 +145,11 @@ private Q_SLOTS:
     void textos_data() { modelos(); }
     void textos()
     {
-        if (QStandardPaths::findExecutable(u"pdftotext"_qs).isEmpty())
+        if (QStandardPaths::findExecutable(u"pdftotext"_s).isEmpty())
             QSKIP("pdftotext (poppler-utils) is not installed");
         QFETCH(QString, modelo);
-        const QString ruta = guardado(u"t.pdf"_qs, pdf(modelo, valoresPrueba::lleno(), u"AD"_qs));
-        const QString texto = ejecutar(u"pdftotext"_qs, {u"-raw"_qs, ruta, u"-"_qs}).simplified();
+        const QString ruta = guardado(u"t.pdf"_s, pdf(modelo, valoresPrueba::lleno(), u"AD"_s));
+        const QString texto = ejecutar(u"pdftotext"_s, {u"-raw"_s, ruta, u"-"_s}).simplified();
         QVERIFY(texto.contains(QString(40, u'W')));
         for (const QString &esperado : (Comunes + (modelo == u"430" ? Del430 : Del480)).split(u'|'))
             QVERIFY2(texto.contains(esperado), qPrintable(esperado));
@@ -157,14 +159,14 @@ private Q_SLOTS:
 
     void propiedades()
     {
-        const QByteArray bytes = pdf(u"430"_qs, valoresPrueba::vacio(), u"BO"_qs);
+        const QByteArray bytes = pdf(u"430"_s, valoresPrueba::vacio(), u"BO"_s);
         QVERIFY(bytes.contains("<rdf:li>Ostrel de seguros</rdf:li>"));
         QVERIFY(bytes.contains("<rdf:li>eu</rdf:li><rdf:li>es</rdf:li>"));
         QVERIFY(bytes.contains(">Modelo de prueba</rdf:li>"));
-        if (QStandardPaths::findExecutable(u"pdffonts"_qs).isEmpty())
+        if (QStandardPaths::findExecutable(u"pdffonts"_s).isEmpty())
             QSKIP("pdffonts (poppler-utils) is not installed");
-        const QString fuentes = ejecutar(u"pdffonts"_qs, {guardado(u"f.pdf"_qs, bytes)});
-        QVERIFY(fuentes.contains(u"TrueType"_qs));
+        const QString fuentes = ejecutar(u"pdffonts"_s, {guardado(u"f.pdf"_s, bytes)});
+        QVERIFY(fuentes.contains(u"TrueType"_s));
         for (const QString &linea : fuentes.split(u'\n', Qt::SkipEmptyParts).mid(2))
             QVERIFY2(linea.contains(u" yes "), qPrintable(linea)); // embedded
     }
@@ -174,12 +176,12 @@ private Q_SLOTS:
     {
         QFETCH(QString, modelo);
         const auto lleno = valoresPrueba::lleno();
-        QVERIFY(!pdf(modelo, lleno, u"AD"_qs).isEmpty()); // loads the fonts
+        QVERIFY(!pdf(modelo, lleno, u"AD"_s).isEmpty()); // loads the fonts
         constexpr int veces = 5;
         const std::clock_t inicio = std::clock();
         qsizetype mayor = 0;
         for (int i = 0; i < veces; ++i)
-            mayor = std::max(mayor, pdf(modelo, lleno, u"AD"_qs).size());
+            mayor = std::max(mayor, pdf(modelo, lleno, u"AD"_s).size());
         const double ms
             = 1000.0 * static_cast<double>(std::clock() - inicio) / CLOCKS_PER_SEC / veces;
         QVERIFY(mayor < 60 * 1024);
@@ -205,7 +207,7 @@ private Q_SLOTS:
         imagen.setDotsPerMeterY(static_cast<int>(pixelesMm * 1000));
         imagen.fill(Qt::white);
         QPainter pintor(&imagen);
-        valoresPrueba::dibujar(pintor, modelo, valoresPrueba::lleno(), u"AD"_qs);
+        valoresPrueba::dibujar(pintor, modelo, valoresPrueba::lleno(), u"AD"_s);
         pintor.end();
         const QImage hecha
             = imagen.scaled(imagen.size() / 2, Qt::KeepAspectRatio, Qt::SmoothTransformation);
@@ -225,12 +227,12 @@ private Q_SLOTS:
 
     void guardadosQueFallan()
     {
-        const QString motivo = guardarPdf(m_carpeta.filePath(u"no/esta.pdf"_qs), "x");
-        QVERIFY(motivo.startsWith(u"No existe el fichero"_qs));
+        const QString motivo = guardarPdf(m_carpeta.filePath(u"no/esta.pdf"_s), "x");
+        QVERIFY(motivo.startsWith(u"No existe el fichero"_s));
 #ifdef Q_OS_UNIX
         QFile::setPermissions(m_carpeta.path(), QFile::Permissions(0x5755));
         guardarRestringido(
-            m_carpeta.filePath(u"fija"_qs), "nuevo",
+            m_carpeta.filePath(u"fija"_s), "nuevo",
             [] {
                 // file modes do not hold for root
                 if (geteuid() == 0 && setuid(65534) != 0)
@@ -238,7 +240,7 @@ private Q_SLOTS:
             },
             QFile::Permissions(0x5555));
         guardarRestringido(
-            m_carpeta.filePath(u"llena"_qs), pdf(u"430"_qs, valoresPrueba::lleno(), u"AD"_qs),
+            m_carpeta.filePath(u"llena"_s), pdf(u"430"_s, valoresPrueba::lleno(), u"AD"_s),
             [] {
                 // no file can grow past 10 KB
                 const rlimit limite{10240, 10240};

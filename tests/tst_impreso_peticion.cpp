@@ -7,6 +7,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class tst_impreso_peticion : public QObject
 {
     Q_OBJECT
@@ -20,17 +22,17 @@ private Q_SLOTS:
         QTest::addColumn<QString>("texto");
         QTest::addColumn<qint32>("fecha"); // 0 refused
         QTest::addColumn<QString>("mensaje");
-        QTest::newRow("C") << u"29/02/2024"_qs << 20240229 << QString();
-        QTest::newRow("C first") << u"01/01/2002"_qs << 20020101 << QString();
-        QTest::newRow("C early") << u"31/12/2001"_qs << 0
+        QTest::newRow("C") << u"29/02/2024"_s << 20240229 << QString();
+        QTest::newRow("C first") << u"01/01/2002"_s << 20020101 << QString();
+        QTest::newRow("C early") << u"31/12/2001"_s << 0
                                  << u"La Fecha de presentación no puede ser anterior al "
-                                    "01/01/2002"_qs;
-        QTest::newRow("C wrong") << u"29/02/2023"_qs << 0
-                                 << u"La Fecha de presentación introducida no es correcta"_qs;
-        QTest::newRow("E first") << u"2002/01/01"_qs << 20020101 << QString();
-        QTest::newRow("E early") << u"2001/12/31"_qs << 0
-                                 << u"Aurkezpen data ezin da 2002/01/01 baino lehenagokoa izan"_qs;
-        QTest::newRow("E wrong") << u"31/01/2016"_qs << 0 << u"Aurkezpen data okerra da"_qs;
+                                    "01/01/2002"_s;
+        QTest::newRow("C wrong") << u"29/02/2023"_s << 0
+                                 << u"La Fecha de presentación introducida no es correcta"_s;
+        QTest::newRow("E first") << u"2002/01/01"_s << 20020101 << QString();
+        QTest::newRow("E early") << u"2001/12/31"_s << 0
+                                 << u"Aurkezpen data ezin da 2002/01/01 baino lehenagokoa izan"_s;
+        QTest::newRow("E wrong") << u"31/01/2016"_s << 0 << u"Aurkezpen data okerra da"_s;
     }
     void fechas()
     {
@@ -58,31 +60,29 @@ private Q_SLOTS:
             p.COPIAINT(inter);
             return copiasPedidas(p).join(u' ');
         };
-        const QString x = u"X"_qs;
-        QCOMPARE(pedidas(u"430"_qs, u"O"_qs, x, x), u"AD IT"_qs);
-        QCOMPARE(pedidas(u"480"_qs, u"O"_qs, x, {}), u"AD"_qs);
-        QCOMPARE(pedidas(u"480"_qs, u"O"_qs, {}, x), u"IT"_qs);
-        QCOMPARE(pedidas(u"430"_qs, u"O"_qs, {}, {}), QString());
-        QCOMPARE(pedidas(u"430"_qs, u"B"_qs, {}, {}), u"BO"_qs);
-        QCOMPARE(pedidas(u"999"_qs, u"O"_qs, x, x), QString());
+        const QString x = u"X"_s;
+        QCOMPARE(pedidas(u"430"_s, u"O"_s, x, x), u"AD IT"_s);
+        QCOMPARE(pedidas(u"480"_s, u"O"_s, x, {}), u"AD"_s);
+        QCOMPARE(pedidas(u"480"_s, u"O"_s, {}, x), u"IT"_s);
+        QCOMPARE(pedidas(u"430"_s, u"O"_s, {}, {}), QString());
+        QCOMPARE(pedidas(u"430"_s, u"B"_s, {}, {}), u"BO"_s);
+        QCOMPARE(pedidas(u"999"_s, u"O"_s, x, x), QString());
     }
 
     void nombres()
     {
-        const QString nif = u"A58818501"_qs;
-        const QStringList ambas{u"AD"_qs, u"IT"_qs};
-        QCOMPARE(nombrePdf(u"430"_qs, 2026, 1, nif, {u"AD"_qs}),
-                 u"430_2026-01_A58818501_AD.pdf"_qs);
-        QCOMPARE(nombrePdf(u"480"_qs, 2026, 12, nif, ambas), u"480_2026_A58818501_AD-IT.pdf"_qs);
-        QCOMPARE(nombrePdf(u"480"_qs, 2026, 12, u"../A"_qs, {u"BO"_qs}),
-                 u"480_2026_.._A_BO.pdf"_qs);
+        const QString nif = u"A58818501"_s;
+        const QStringList ambas{u"AD"_s, u"IT"_s};
+        QCOMPARE(nombrePdf(u"430"_s, 2026, 1, nif, {u"AD"_s}), u"430_2026-01_A58818501_AD.pdf"_s);
+        QCOMPARE(nombrePdf(u"480"_s, 2026, 12, nif, ambas), u"480_2026_A58818501_AD-IT.pdf"_s);
+        QCOMPARE(nombrePdf(u"480"_s, 2026, 12, u"../A"_s, {u"BO"_s}), u"480_2026_.._A_BO.pdf"_s);
 
-        const QString elegida = u"/x/430_2026-01_A_AD-IT.pdf"_qs;
+        const QString elegida = u"/x/430_2026-01_A_AD-IT.pdf"_s;
         QCOMPARE(rutasPdf(elegida, ambas, true), QStringList{elegida});
         QCOMPARE(rutasPdf(elegida, ambas, false),
-                 (QStringList{u"/x/430_2026-01_A_AD.pdf"_qs, u"/x/430_2026-01_A_IT.pdf"_qs}));
-        QCOMPARE(rutasPdf(u"/x/otro"_qs, ambas, false),
-                 (QStringList{u"/x/otro_AD.pdf"_qs, u"/x/otro_IT.pdf"_qs}));
+                 (QStringList{u"/x/430_2026-01_A_AD.pdf"_s, u"/x/430_2026-01_A_IT.pdf"_s}));
+        QCOMPARE(rutasPdf(u"/x/otro"_s, ambas, false),
+                 (QStringList{u"/x/otro_AD.pdf"_s, u"/x/otro_IT.pdf"_s}));
     }
 };
 

@@ -10,6 +10,8 @@
 #include <QPdfWriter>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QStringList textos(TrabajoImpresion &trabajo, const QString &copia)
@@ -34,21 +36,20 @@ private Q_SLOTS:
     void modelo430()
     {
         for (const auto &[idioma, fecha] :
-             {std::pair{u"C"_qs, u"31/01/2026"_qs}, {u"E"_qs, u"2026/01/31"_qs}}) {
+             {std::pair{u"C"_s, u"31/01/2026"_s}, {u"E"_s, u"2026/01/31"_s}}) {
             const Entorno entorno(idioma);
-            pedirImpresion(u"430"_qs);
+            pedirImpresion(u"430"_s);
             // a header that says otherwise is of no account
             unico::la<cDecResumen>().PERIODICIDAD(2);
             TrabajoImpresion trabajo(unico::la<cImOf>());
-            const QStringList impreso = textos(trabajo, u"AD"_qs);
+            const QStringList impreso = textos(trabajo, u"AD"_s);
             // totals: 1234.56 + 1000.00, 8 %, 98.76 + 80.00
-            for (const QString &esperado : {u"2.234,56"_qs, u"8,00"_qs, u"URTARRILA / ENERO"_qs,
-                                            u"A58818501"_qs, u"SEGUROS UNO"_qs, u"VARLENDA"_qs,
-                                            u"2026"_qs, fecha, u"943000000"_qs, u"CL MAYOR"_qs})
+            for (const QString &esperado :
+                 {u"2.234,56"_s, u"8,00"_s, u"URTARRILA / ENERO"_s, u"A58818501"_s,
+                  u"SEGUROS UNO"_s, u"VARLENDA"_s, u"2026"_s, fecha, u"943000000"_s, u"CL MAYOR"_s})
                 QVERIFY2(impreso.contains(esperado), qPrintable(esperado));
-            QCOMPARE(impreso.count(u"178,76"_qs), 2); // line 3 and the slip
-            QCOMPARE(trabajo.nombreFichero(trabajo.copias()),
-                     u"430_2026-01_A58818501_AD-IT.pdf"_qs);
+            QCOMPARE(impreso.count(u"178,76"_s), 2); // line 3 and the slip
+            QCOMPARE(trabajo.nombreFichero(trabajo.copias()), u"430_2026-01_A58818501_AD-IT.pdf"_s);
         }
     }
 
@@ -56,20 +57,20 @@ private Q_SLOTS:
     void modelo480()
     {
         const Entorno entorno;
-        const qint32 csde = pedirImpresion(u"480"_qs);
+        const qint32 csde = pedirImpresion(u"480"_s);
         auto &figuras = unico::la<cDatos480>();
         figuras.CSDE(csde);
         figuras.CargarDeclaracion(csde);
         const Registro antes = figuras.RegistroGuardar();
         const Registro cabeceraAntes = unico::la<cDecResumen>().Cabecera();
         TrabajoImpresion trabajo(unico::la<cImOf>());
-        const QStringList impreso = textos(trabajo, u"IT"_qs);
-        QCOMPARE(impreso.count(u"10.000,00"_qs), 3); // boxes 01, 70, 73
-        QCOMPARE(impreso.count(u"2.345,67"_qs), 2); // 02, 71
-        QCOMPARE(impreso.count(u"12.345,67"_qs), 2); // 03, 72
-        QCOMPARE(impreso.count(u"800,00"_qs), 2); // 75, 81
-        QVERIFY(impreso.contains(u"URTEKOA / ANUAL"_qs));
-        QCOMPARE(trabajo.nombreFichero({u"IT"_qs}), u"480_2026_A58818501_IT.pdf"_qs);
+        const QStringList impreso = textos(trabajo, u"IT"_s);
+        QCOMPARE(impreso.count(u"10.000,00"_s), 3); // boxes 01, 70, 73
+        QCOMPARE(impreso.count(u"2.345,67"_s), 2); // 02, 71
+        QCOMPARE(impreso.count(u"12.345,67"_s), 2); // 03, 72
+        QCOMPARE(impreso.count(u"800,00"_s), 2); // 75, 81
+        QVERIFY(impreso.contains(u"URTEKOA / ANUAL"_s));
+        QCOMPARE(trabajo.nombreFichero({u"IT"_s}), u"480_2026_A58818501_IT.pdf"_s);
         QCOMPARE(figuras.RegistroGuardar(), antes);
         QCOMPARE(unico::la<cDecResumen>().Cabecera(), cabeceraAntes);
     }
@@ -78,41 +79,41 @@ private Q_SLOTS:
     {
         const Entorno entorno;
         auto &d = unico::la<cDecDatos>();
-        d.MODO(u"A"_qs);
-        d.CODPROV(u"48"_qs);
-        d.NOMPROV(u"LA DEL REGISTRO"_qs);
-        d.CODMUN(u"001"_qs);
-        d.NOMMUN(u"MUNICIPIO TECLEADO"_qs);
+        d.MODO(u"A"_s);
+        d.CODPROV(u"48"_s);
+        d.NOMPROV(u"LA DEL REGISTRO"_s);
+        d.CODMUN(u"001"_s);
+        d.NOMMUN(u"MUNICIPIO TECLEADO"_s);
         auto valores = tomarValores430({});
-        QCOMPARE(valores.texto(Valor::Municipio), u"MUNICIPIO TECLEADO"_qs);
-        QCOMPARE(valores.texto(Valor::Provincia), u"LA DEL REGISTRO"_qs);
+        QCOMPARE(valores.texto(Valor::Municipio), u"MUNICIPIO TECLEADO"_s);
+        QCOMPARE(valores.texto(Valor::Provincia), u"LA DEL REGISTRO"_s);
         QCOMPARE(valores.texto(Valor::Numero), QString());
         QCOMPARE(valores.texto(Valor::Piso), QString());
 
-        d.CODPROV(u"20"_qs);
+        d.CODPROV(u"20"_s);
         valores = tomarValores430({});
-        QCOMPARE(valores.texto(Valor::Provincia), u"VARLENDA"_qs);
+        QCOMPARE(valores.texto(Valor::Provincia), u"VARLENDA"_s);
         QVERIFY(valores.texto(Valor::Municipio) != u"MUNICIPIO TECLEADO");
-        d.CODMUN(u"998"_qs); // unknown to the service
-        QCOMPARE(tomarValores430({}).texto(Valor::Municipio), u"MUNICIPIO TECLEADO"_qs);
+        d.CODMUN(u"998"_s); // unknown to the service
+        QCOMPARE(tomarValores430({}).texto(Valor::Municipio), u"MUNICIPIO TECLEADO"_s);
     }
 
     void titularDeHacienda()
     {
-        const Entorno entorno(u"E"_qs);
-        pedirImpresion(u"430"_qs);
+        const Entorno entorno(u"E"_s);
+        pedirImpresion(u"430"_s);
         TrabajoImpresion trabajo(unico::la<cImOf>());
-        const QStringList impreso = textos(trabajo, u"AD"_qs);
-        QVERIFY(impreso.contains(u"Ogasun eta Finantza Saila"_qs));
-        QVERIFY(impreso.contains(u"Departamento de Hacienda y Finanzas"_qs));
+        const QStringList impreso = textos(trabajo, u"AD"_s);
+        QVERIFY(impreso.contains(u"Ogasun eta Finantza Saila"_s));
+        QVERIFY(impreso.contains(u"Departamento de Hacienda y Finanzas"_s));
     }
 
     void documentos()
     {
         const Entorno entorno;
-        pedirImpresion(u"430"_qs);
+        pedirImpresion(u"430"_s);
         TrabajoImpresion trabajo(unico::la<cImOf>());
-        QCOMPARE(trabajo.copias(), (QStringList{u"AD"_qs, u"IT"_qs}));
+        QCOMPARE(trabajo.copias(), (QStringList{u"AD"_s, u"IT"_s}));
         QBuffer memoria;
         memoria.open(QIODevice::WriteOnly);
         QPdfWriter dispositivo(&memoria);
@@ -127,13 +128,13 @@ private Q_SLOTS:
         QCOMPARE(junto.count("%%EOF"), 1);
         QVERIFY(junto.contains("/Count 2"));
         unico::la<cImOf>().PedirBorrador();
-        QCOMPARE(TrabajoImpresion(unico::la<cImOf>()).copias(), QStringList{u"BO"_qs});
+        QCOMPARE(TrabajoImpresion(unico::la<cImOf>()).copias(), QStringList{u"BO"_s});
     }
 
     void noExiste()
     {
         const Entorno entorno;
-        pedirImpresion(u"430"_qs);
+        pedirImpresion(u"430"_s);
         unico::la<cImOf>().CSDE(9999);
         QVERIFY_EXCEPTION_THROWN(TrabajoImpresion(unico::la<cImOf>()), std::exception);
     }

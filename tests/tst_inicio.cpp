@@ -18,6 +18,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -87,7 +89,7 @@ private Q_SLOTS:
         servicio::registrar(SvrOstr::cTraspaso::ID,
                             [] { return std::make_unique<TraspasoQueTermina>(); });
         bool mostrado = false;
-        cuandoEste(u"frmInicio"_qs, [&](QWidget &) { mostrado = true; });
+        cuandoEste(u"frmInicio"_s, [&](QWidget &) { mostrado = true; });
         QVERIFY(!Arranque(Breves).iniciar());
         registrarServidor();
         QVERIFY(!mostrado);
@@ -99,10 +101,10 @@ private Q_SLOTS:
         QString version;
         QString titulo;
         bool lblActVisible = true;
-        cuandoEste(u"frmInicio"_qs, [&](QWidget &inicio) {
-            version = inicio.findChild<QLabel *>(u"lblVersion"_qs)->text();
-            titulo = inicio.findChild<QLabel *>(u"lblTitulo"_qs)->text();
-            lblActVisible = inicio.findChild<QLabel *>(u"lblAct"_qs)->isVisible();
+        cuandoEste(u"frmInicio"_s, [&](QWidget &inicio) {
+            version = inicio.findChild<QLabel *>(u"lblVersion"_s)->text();
+            titulo = inicio.findChild<QLabel *>(u"lblTitulo"_s)->text();
+            lblActVisible = inicio.findChild<QLabel *>(u"lblAct"_s)->isVisible();
         });
         bool buscado = false;
         Arranque arranque(Breves);
@@ -113,10 +115,10 @@ private Q_SLOTS:
         QVERIFY(reloj.elapsed() >= Breves.normal.count());
         QVERIFY(principal);
         QVERIFY(principal->isVisible());
-        QVERIFY(!ventana(u"frmInicio"_qs));
-        QCOMPARE(version, u"Bertsioa/Versión "_qs + QCoreApplication::applicationVersion());
+        QVERIFY(!ventana(u"frmInicio"_s));
+        QCOMPARE(version, u"Bertsioa/Versión "_s + QCoreApplication::applicationVersion());
         QCOMPARE(version.count(u'.'), 2);
-        QCOMPARE(titulo, u"Ostrel de Seguros"_qs);
+        QCOMPARE(titulo, u"Ostrel de Seguros"_s);
         QVERIFY(!lblActVisible);
         QVERIFY(!buscado);
     }
@@ -128,7 +130,7 @@ private Q_SLOTS:
         QPointer<QLabel> lblAct;
         Arranque arranque(Breves);
         arranque.buscarActualizacion = [&] {
-            lblAct = ventana(u"frmInicio"_qs)->findChild<QLabel *>(u"lblAct"_qs);
+            lblAct = ventana(u"frmInicio"_s)->findChild<QLabel *>(u"lblAct"_s);
             visibleMientras = lblAct->isVisible();
             QTimer::singleShot(0, lblAct, [&] { visibleMientras &= lblAct->isHidden(); });
         };
@@ -161,15 +163,15 @@ private Q_SLOTS:
     {
         m_entorno.emplace(QString());
         QString antesDelInicio;
-        cuandoEste(u"FrmIdioma"_qs, [&](QWidget &eleccion) {
-            antesDelInicio = ventana(u"frmInicio"_qs) ? u"tarde"_qs : u"antes"_qs;
-            QCOMPARE(eleccion.windowTitle(), u"Hautatu Hizkuntza/Selección de idioma"_qs);
+        cuandoEste(u"FrmIdioma"_s, [&](QWidget &eleccion) {
+            antesDelInicio = ventana(u"frmInicio"_s) ? u"tarde"_s : u"antes"_s;
+            QCOMPARE(eleccion.windowTitle(), u"Hautatu Hizkuntza/Selección de idioma"_s);
             const Manos manos(eleccion);
-            QCOMPARE(manos.foco(), u"cmdeuskera"_qs);
+            QCOMPARE(manos.foco(), u"cmdeuskera"_s);
             manos.tecla(Qt::Key_Tab);
-            QCOMPARE(manos.foco(), u"chkActOnline"_qs);
+            QCOMPARE(manos.foco(), u"chkActOnline"_s);
             manos.tecla(Qt::Key_Return);
-            QCOMPARE(manos.foco(), u"cmdcastellano"_qs);
+            QCOMPARE(manos.foco(), u"cmdcastellano"_s);
             manos.pulsar("chkActOnline");
             QCOMPARE(servicioModelo()->ObtenerActOnline(), qint16(1));
             manos.pulsar("chkActOnline");
@@ -178,39 +180,39 @@ private Q_SLOTS:
         });
         const auto principal = Arranque(Breves).iniciar();
         QVERIFY(principal);
-        QCOMPARE(antesDelInicio, u"antes"_qs);
-        QCOMPARE(idiomaGuardado(), u"E"_qs);
-        QCOMPARE(principal->windowTitle(), u"Aseguruen Ostrel"_qs);
+        QCOMPARE(antesDelInicio, u"antes"_s);
+        QCOMPARE(idiomaGuardado(), u"E"_s);
+        QCOMPARE(principal->windowTitle(), u"Aseguruen Ostrel"_s);
     }
 
     void enterEnUnBotonDeIdiomaLoElige()
     {
         m_entorno.emplace(QString());
-        cuandoEste(u"FrmIdioma"_qs, [&](QWidget &eleccion) {
+        cuandoEste(u"FrmIdioma"_s, [&](QWidget &eleccion) {
             const Manos manos(eleccion);
             manos.tecla(Qt::Key_Tab, Qt::ShiftModifier);
-            QCOMPARE(manos.foco(), u"cmdcastellano"_qs);
+            QCOMPARE(manos.foco(), u"cmdcastellano"_s);
             manos.tecla(Qt::Key_Return);
         });
         QVERIFY(Arranque(Breves).iniciar());
-        QCOMPARE(idiomaGuardado(), u"C"_qs);
+        QCOMPARE(idiomaGuardado(), u"C"_s);
     }
 
     void idiomaAbandonadoQuedaSinGuardar()
     {
         m_entorno.emplace(QString());
-        cuandoEste(u"FrmIdioma"_qs,
+        cuandoEste(u"FrmIdioma"_s,
                    [&](QWidget &eleccion) { QTest::keyClick(&eleccion, Qt::Key_Escape); });
         const auto principal = Arranque(Breves).iniciar();
         QVERIFY(principal);
         QCOMPARE(idiomaGuardado(), QString());
-        QCOMPARE(principal->windowTitle(), u"Ostrel de seguros"_qs);
+        QCOMPARE(principal->windowTitle(), u"Ostrel de seguros"_s);
     }
 
     void baseDanadaSeCuentaUnaVezYElProgramaSigue()
     {
         const QByteArray basura("this is no database");
-        fijarRutas(Rutas::desde(m_entorno->ruta(u"otra"_qs)));
+        fijarRutas(Rutas::desde(m_entorno->ruta(u"otra"_s)));
         QVERIFY(QDir().mkpath(rutas().tablas));
         QFile danada(rutas().modelo);
         QVERIFY(danada.open(QIODevice::WriteOnly));

@@ -23,6 +23,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 /// The main window, driven with keys and clicks.
 class PruebaMDIOstrel : public QObject
 {
@@ -119,19 +121,19 @@ private Q_SLOTS:
 
     void textosEnLosDosIdiomas()
     {
-        QCOMPARE(m_ventana->windowTitle(), u"Ostrel de seguros"_qs);
-        QCOMPARE(menu("mnuDeclarante")->title(), u"&Declarante"_qs);
-        QCOMPARE(accion("mnuEliminarDeclarante")->text(), u"&Eliminar declarante"_qs);
-        QCOMPARE(accion("abrdec")->text(), u"Abrir declarante"_qs);
-        unico::la<CEntrada>().IDI(u"E"_qs);
+        QCOMPARE(m_ventana->windowTitle(), u"Ostrel de seguros"_s);
+        QCOMPARE(menu("mnuDeclarante")->title(), u"&Declarante"_s);
+        QCOMPARE(accion("mnuEliminarDeclarante")->text(), u"&Eliminar declarante"_s);
+        QCOMPARE(accion("abrdec")->text(), u"Abrir declarante"_s);
+        unico::la<CEntrada>().IDI(u"E"_s);
         m_ventana->CambiarIdioma();
-        QCOMPARE(m_ventana->windowTitle(), u"Aseguruen Ostrel"_qs);
-        QCOMPARE(menu("mnuUtilidades")->title(), u"A&ukerak"_qs);
-        QCOMPARE(menu("mnuAyuda")->title(), u"&Laguntza"_qs);
-        QCOMPARE(accion("mnuSalir")->text(), u"I&rten"_qs);
-        QCOMPARE(accion("mnuBackup")->text(), u"Segurtasun kopia sortu"_qs);
-        QCOMPARE(accion("salir")->text(), u"Irten aplikaziotik"_qs);
-        QCOMPARE(accion("salir")->toolTip(), u"Irten aplikaziotik"_qs);
+        QCOMPARE(m_ventana->windowTitle(), u"Aseguruen Ostrel"_s);
+        QCOMPARE(menu("mnuUtilidades")->title(), u"A&ukerak"_s);
+        QCOMPARE(menu("mnuAyuda")->title(), u"&Laguntza"_s);
+        QCOMPARE(accion("mnuSalir")->text(), u"I&rten"_s);
+        QCOMPARE(accion("mnuBackup")->text(), u"Segurtasun kopia sortu"_s);
+        QCOMPARE(accion("salir")->text(), u"Irten aplikaziotik"_s);
+        QCOMPARE(accion("salir")->toolTip(), u"Irten aplikaziotik"_s);
     }
 
     void iconosDibujadosYApagados()
@@ -152,8 +154,8 @@ private Q_SLOTS:
     void clavesDeAccesoSinChoques_data()
     {
         QTest::addColumn<QString>("idioma");
-        QTest::newRow("castellano") << u"C"_qs;
-        QTest::newRow("euskera") << u"E"_qs;
+        QTest::newRow("castellano") << u"C"_s;
+        QTest::newRow("euskera") << u"E"_s;
     }
     void clavesDeAccesoSinChoques()
     {
@@ -184,7 +186,7 @@ private Q_SLOTS:
         }
         QCOMPARE(
             nombres.join(u' '),
-            u"mnuNuevoDeclarante mnuAbrirDeclarante mnuEliminarDeclarante mnuSalir d1 d2 d3 d4"_qs);
+            u"mnuNuevoDeclarante mnuAbrirDeclarante mnuEliminarDeclarante mnuSalir d1 d2 d3 d4"_s);
     }
 
     void sinDeclarantesNoSeAbreNiElimina()
@@ -193,8 +195,8 @@ private Q_SLOTS:
         QCOMPARE(habilitadas({"mnuNuevoDeclarante", "mnuAbrirDeclarante", "mnuEliminarDeclarante",
                               "nuedec", "abrdec", "elidec"}),
                  QList<bool>({true, false, false, true, false, false}));
-        QCOMPARE(accion("mnuAbrirDeclarante")->toolTip(), u"No hay ningún declarante guardado."_qs);
-        QCOMPARE(accion("abrdec")->toolTip(), u"No hay ningún declarante guardado."_qs);
+        QCOMPARE(accion("mnuAbrirDeclarante")->toolTip(), u"No hay ningún declarante guardado."_s);
+        QCOMPARE(accion("abrdec")->toolTip(), u"No hay ningún declarante guardado."_s);
     }
 
     void alAbrirElMenuSeLeeElNumeroDeDeclarantes()
@@ -231,12 +233,12 @@ private Q_SLOTS:
     void nuevoDeclaranteConAtajoYUnaSolaVez()
     {
         QTest::keyClick(m_ventana.get(), Qt::Key_N, Qt::ControlModifier);
-        QTRY_COMPARE(pantallas(), QStringList(u"frmDecDatos"_qs));
+        QTRY_COMPARE(pantallas(), QStringList(u"frmDecDatos"_s));
         // the screen owns its record from now on
         QCOMPARE(habilitadas({"mnuNuevoDeclarante", "nuedec"}), QList<bool>({false, false}));
         QCOMPARE(accion("nuedec")->toolTip(), msj(Msj::DeshabilitadoEnEdicion));
         QTest::keyClick(m_ventana.get(), Qt::Key_N, Qt::ControlModifier);
-        QCOMPARE(pantallas(), QStringList(u"frmDecDatos"_qs));
+        QCOMPARE(pantallas(), QStringList(u"frmDecDatos"_s));
         cerrarMarco("frmDecDatos");
         QCOMPARE(pantallas(), QStringList());
         QTRY_VERIFY(accion("mnuNuevoDeclarante")->isEnabled());
@@ -246,45 +248,45 @@ private Q_SLOTS:
     {
         Entorno::altaDeclarante();
         elegir("mnuDeclarante", "mnuAbrirDeclarante");
-        QTRY_COMPARE(pantallas(), QStringList(u"FrmDecLista"_qs));
-        QCOMPARE(unico::la<cDecLista>().MODO(), u"C"_qs);
+        QTRY_COMPARE(pantallas(), QStringList(u"FrmDecLista"_s));
+        QCOMPARE(unico::la<cDecLista>().MODO(), u"C"_s);
         const QPointer<PantallaBase> abierta = pantalla("FrmDecLista");
         pulsarBarra("abrdec");
         QCOMPARE(pantalla("FrmDecLista"), abierta.data());
         pulsarBarra("elidec");
         QTRY_VERIFY(!abierta);
-        QTRY_COMPARE(pantallas(), QStringList(u"FrmDecLista"_qs));
-        QCOMPARE(unico::la<cDecLista>().MODO(), u"E"_qs);
+        QTRY_COMPARE(pantallas(), QStringList(u"FrmDecLista"_s));
+        QCOMPARE(unico::la<cDecLista>().MODO(), u"E"_s);
         QCOMPARE(pantalla("FrmDecLista")->windowTitle(), msj(Msj::TituloEliminarDeclarante));
     }
 
     void recientesTrasCadaCambio()
     {
-        Entorno::altaDeclarante(u"12345678Z"_qs, u"GOMEZ & HIJOS"_qs);
+        Entorno::altaDeclarante(u"12345678Z"_s, u"GOMEZ & HIJOS"_s);
         elegir("mnuDeclarante", "mnuAbrirDeclarante");
         QVERIFY(!accion("d1")->isVisible());
         Q_EMIT pantalla("FrmDecLista")->datosCambiados();
         QVERIFY(accion("d1")->isVisible());
-        QCOMPARE(accion("d1")->text(), u"12345678Z - GOMEZ && HIJOS"_qs);
+        QCOMPARE(accion("d1")->text(), u"12345678Z - GOMEZ && HIJOS"_s);
         QVERIFY(!accion("d2")->isVisible());
     }
 
     void recienteAbreSuResumen()
     {
-        Entorno::altaDeclarante(u"12345678Z"_qs, u"SEGUROS UNO"_qs);
-        const auto dos = Entorno::altaDeclarante(u"A58818501"_qs, u"SEGUROS DOS"_qs);
+        Entorno::altaDeclarante(u"12345678Z"_s, u"SEGUROS UNO"_s);
+        const auto dos = Entorno::altaDeclarante(u"A58818501"_s, u"SEGUROS DOS"_s);
         m_ventana.reset();
         abrirPrograma();
-        QCOMPARE(accion("d1")->text(), u"A58818501 - SEGUROS DOS"_qs);
+        QCOMPARE(accion("d1")->text(), u"A58818501 - SEGUROS DOS"_s);
         elegir("mnuDeclarante", "d1");
-        QTRY_COMPARE(pantallas(), QStringList(u"FrmDecResumen"_qs));
+        QTRY_COMPARE(pantallas(), QStringList(u"FrmDecResumen"_s));
         QCOMPARE(unico::la<cDecResumen>().CSCO(), dos);
-        QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"A"_qs);
+        QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"A"_s);
         elegir("mnuDeclarante", "d2");
-        QTRY_COMPARE(pantallas(), QStringList(u"FrmDecResumen"_qs));
-        QCOMPARE(unico::la<cDecResumen>().DNI(), u"12345678Z"_qs);
+        QTRY_COMPARE(pantallas(), QStringList(u"FrmDecResumen"_s));
+        QCOMPARE(unico::la<cDecResumen>().DNI(), u"12345678Z"_s);
         QTRY_COMPARE(m_ventana->findChildren<PantallaBase *>().size(), 1);
-        QVERIFY(pantalla("FrmDecResumen")->findChild<QLabel *>(u"lblnombre"_qs)->text()
+        QVERIFY(pantalla("FrmDecResumen")->findChild<QLabel *>(u"lblnombre"_s)->text()
                 == u"SEGUROS UNO");
     }
 
@@ -294,7 +296,7 @@ private Q_SLOTS:
         m_ventana.reset();
         abrirPrograma();
         elegir("mnuDeclarante", "mnuNuevoDeclarante");
-        QTRY_COMPARE(pantallas(), QStringList(u"frmDecDatos"_qs));
+        QTRY_COMPARE(pantallas(), QStringList(u"frmDecDatos"_s));
         QCOMPARE(habilitadas({"d1", "mnuAbrirDeclarante", "elidec", "mnuSalir"}),
                  QList<bool>({false, false, false, true}));
         QCOMPARE(accion("d1")->statusTip(), msj(Msj::DeshabilitadoEnEdicion));
@@ -307,9 +309,9 @@ private Q_SLOTS:
         QApplication::installTranslator(&textosQt);
         Entorno::altaDeclarante();
         elegir("mnuDeclarante", "mnuAbrirDeclarante");
-        unico::la<CEntrada>().IDI(u"E"_qs);
+        unico::la<CEntrada>().IDI(u"E"_s);
         m_ventana->CambiarIdioma();
-        QCOMPARE(pantalla("FrmDecLista")->windowTitle(), u"Ireki aitortzailea"_qs);
+        QCOMPARE(pantalla("FrmDecLista")->windowTitle(), u"Ireki aitortzailea"_s);
         auto *marco = qobject_cast<QMdiSubWindow *>(pantalla("FrmDecLista")->parentWidget());
         QVERIFY(marco);
         QStringList textos;
@@ -318,18 +320,18 @@ private Q_SLOTS:
                 textos.append(una->text());
         }
         QCOMPARE(textos.size(), 7);
-        QCOMPARE(textos.constFirst(), u"&Leheneratu"_qs);
-        QCOMPARE(textos.constLast(), u"&Itxi"_qs);
+        QCOMPARE(textos.constFirst(), u"&Leheneratu"_s);
+        QCOMPARE(textos.constLast(), u"&Itxi"_s);
     }
 
     void acercaDe()
     {
         elegir("mnuAyuda", "mnuacerca");
-        auto *acerca = m_ventana->findChild<QWidget *>(u"frmAbout"_qs);
+        auto *acerca = m_ventana->findChild<QWidget *>(u"frmAbout"_s);
         QVERIFY(acerca && acerca->isVisible());
         const QPointer<QWidget> testigo = acerca;
         QVERIFY(Manos(*acerca).texto("lblVersion").startsWith(u"Versión 1."));
-        QCOMPARE(Manos(*acerca).texto("lblTitulo"), u"Ostrel de Seguros"_qs);
+        QCOMPARE(Manos(*acerca).texto("lblTitulo"), u"Ostrel de Seguros"_s);
         Manos(*acerca).tecla(Qt::Key_Return);
         QTRY_VERIFY(!testigo);
     }
@@ -348,10 +350,10 @@ private Q_SLOTS:
         m_ventana.reset();
         abrirPrograma();
         elegir("mnuDeclarante", "d1");
-        QTRY_COMPARE(pantallas(), QStringList(u"FrmDecResumen"_qs));
+        QTRY_COMPARE(pantallas(), QStringList(u"FrmDecResumen"_s));
         // the declarant's data ask for the summary when they close
         Manos(*pantalla("FrmDecResumen")).pulsar("cmdDeclarante");
-        QTRY_VERIFY(pantallas().contains(u"frmDecDatos"_qs));
+        QTRY_VERIFY(pantallas().contains(u"frmDecDatos"_s));
         const QSignalSpy pide(pantalla("frmDecDatos"), &PantallaBase::mostrar);
         elegir("mnuDeclarante", "mnuSalir");
         QTRY_VERIFY(!m_ventana->isVisible());
@@ -372,7 +374,7 @@ private Q_SLOTS:
     {
         Entorno::altaDeclarante();
         elegir("mnuDeclarante", "mnuNuevoDeclarante");
-        QTRY_COMPARE(pantallas(), QStringList(u"frmDecDatos"_qs));
+        QTRY_COMPARE(pantallas(), QStringList(u"frmDecDatos"_s));
         const auto *area = m_ventana->findChild<QMdiArea *>();
         const auto *dentro = pantalla("frmDecDatos");
         QVERIFY(area->viewport()->rect().contains(dentro->parentWidget()->geometry()));

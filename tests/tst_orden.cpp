@@ -8,35 +8,37 @@
 
 #include <optional>
 
-static const QStringList Alta{u"declarante"_qs, u"alta"_qs};
+using namespace Qt::StringLiterals;
 
-static const QStringList Declarar430{u"declarar"_qs, u"430"_qs, u"--dni"_qs, u"12345678Z"_qs};
+static const QStringList Alta{u"declarante"_s, u"alta"_s};
 
-static const QStringList Declarar480{u"declarar"_qs, u"480"_qs, u"--dni"_qs, u"12345678Z"_qs};
+static const QStringList Declarar430{u"declarar"_s, u"430"_s, u"--dni"_s, u"12345678Z"_s};
 
-static const QStringList Listar{u"listar"_qs, u"declaraciones"_qs, u"--dni"_qs, u"12345678Z"_qs};
+static const QStringList Declarar480{u"declarar"_s, u"480"_s, u"--dni"_s, u"12345678Z"_s};
+
+static const QStringList Listar{u"listar"_s, u"declaraciones"_s, u"--dni"_s, u"12345678Z"_s};
 
 /// "--a 1 --b 2 3" as arguments; "_" stands for a blank inside one.
 static QStringList partes(const char *texto)
 {
     QStringList lista = QString::fromUtf8(texto).split(u' ', Qt::SkipEmptyParts);
-    return lista.replaceInStrings(u"_"_qs, u" "_qs);
+    return lista.replaceInStrings(u"_"_s, u" "_s);
 }
 
 /// A valid declarant's options, one of them changed, added, or left out (when `valor` is null).
 static QStringList opcionesAlta(const QString &cambiada = {}, const QString &valor = {})
 {
     QMap<QString, QString> valores{
-        {u"dni"_qs, u"12345678z"_qs}, {u"nombre"_qs, u"Seguros Ñandú"_qs},
-        {u"codpos"_qs, u"20001"_qs},  {u"domicilio"_qs, u"Mayor"_qs},
-        {u"codmun"_qs, u"1"_qs},      {u"telefono"_qs, u"943000000"_qs},
+        {u"dni"_s, u"12345678z"_s}, {u"nombre"_s, u"Seguros Ñandú"_s},
+        {u"codpos"_s, u"20001"_s},  {u"domicilio"_s, u"Mayor"_s},
+        {u"codmun"_s, u"1"_s},      {u"telefono"_s, u"943000000"_s},
     };
     if (!cambiada.isEmpty())
         valores[cambiada] = valor;
     QStringList opciones = Alta;
     for (const auto &[opcion, dado] : valores.asKeyValueRange())
         if (!dado.isNull())
-            opciones += {u"--"_qs + opcion, dado};
+            opciones += {u"--"_s + opcion, dado};
     return opciones;
 }
 
@@ -54,17 +56,17 @@ private Q_SLOTS:
             opcionesAlta()
             + partes("--via av --numero 00012 --letra b --escalera=1 --piso 2 --mano dch"));
         QCOMPARE(salida.error, QString());
-        QCOMPARE(salida.texto, u"Declarante dado de alta: 12345678Z - SEGUROS ÑANDÚ\n"_qs);
+        QCOMPARE(salida.texto, u"Declarante dado de alta: 12345678Z - SEGUROS ÑANDÚ\n"_s);
         QCOMPARE(salida.codigo, 0);
         rechazar(opcionesAlta(), "No se puede dar de alta al nuevo declarante.");
-        QStringList fuera = opcionesAlta(u"codmun"_qs);
-        fuera.replaceInStrings(u"20001"_qs, u"01001"_qs);
-        fuera.replaceInStrings(u"12345678z"_qs, u"A58818501"_qs);
+        QStringList fuera = opcionesAlta(u"codmun"_s);
+        fuera.replaceInStrings(u"20001"_s, u"01001"_s);
+        fuera.replaceInStrings(u"12345678z"_s, u"A58818501"_s);
         hacer(fuera + partes("--codprov 1 --nommun otro_lugar"));
         const auto filas = lista(partes("listar declarantes"));
-        QCOMPARE(filas[0][u"NOMMUN"].toString(), u"ABRENZUOLA"_qs);
-        QCOMPARE(filas[1][u"NOMMUN"].toString(), u"OTRO LUGAR"_qs);
-        QCOMPARE(filas[1][u"NOMPROV"].toString(), u"ÁLAVA"_qs);
+        QCOMPARE(filas[0][u"NOMMUN"].toString(), u"ABRENZUOLA"_s);
+        QCOMPARE(filas[1][u"NOMMUN"].toString(), u"OTRO LUGAR"_s);
+        QCOMPARE(filas[1][u"NOMPROV"].toString(), u"ÁLAVA"_s);
     }
 
     void altaRechazada()
@@ -98,7 +100,7 @@ private Q_SLOTS:
             = ostrel(Declarar430 + partes("--ejercicio 2020 --periodo 1 --base 1.234,56"));
         QCOMPARE(salida.error, QString());
         // 6 % until 2020
-        QCOMPARE(salida.texto, u"Declaración guardada: modelo 430, 2020 - ENERO, 74,07 euros\n"_qs);
+        QCOMPARE(salida.texto, u"Declaración guardada: modelo 430, 2020 - ENERO, 74,07 euros\n"_s);
         hacer(Declarar430
               + partes("--ejercicio 2026 --periodo 12 --base 1234.56 --base-rectificacion -100,00 "
                        "--cuota-rectificacion -8"));
@@ -140,7 +142,7 @@ private Q_SLOTS:
                      "--casilla 73=99999,50 --casilla 79=5 --casilla 80=-10"));
         QCOMPARE(salida.error, QString());
         QCOMPARE(salida.texto,
-                 u"Declaración guardada: modelo 480, 2026 - ANUAL, 7.989,96 euros\n"_qs);
+                 u"Declaración guardada: modelo 480, 2026 - ANUAL, 7.989,96 euros\n"_s);
         hacer(Declarar480 + partes("--ejercicio 2025"));
         const auto filas = lista(Listar);
         QCOMPARE(filas.size(), 2);
@@ -169,11 +171,11 @@ private Q_SLOTS:
 
     void listas()
     {
-        QCOMPARE(ostrel(partes("listar declarantes")).texto, u"No hay declarantes.\n"_qs);
-        QCOMPARE(ostrel(partes("listar declarantes --json")).texto, u"[\n]\n"_qs);
+        QCOMPARE(ostrel(partes("listar declarantes")).texto, u"No hay declarantes.\n"_s);
+        QCOMPARE(ostrel(partes("listar declarantes --json")).texto, u"[\n]\n"_s);
         rechazar(Listar, "No existe ningún declarante con el DNI-CIF 12345678Z.\n");
         hacer(opcionesAlta());
-        QCOMPARE(ostrel(Listar).texto, u"El declarante no tiene declaraciones.\n"_qs);
+        QCOMPARE(ostrel(Listar).texto, u"El declarante no tiene declaraciones.\n"_s);
         hacer(Declarar430 + partes("--ejercicio 2026 --periodo 9 --base 1234567,89"));
         hacer(Declarar430
               + partes("--ejercicio 2026 --periodo 10 --base 0 --base-rectificacion 1 "
@@ -181,11 +183,11 @@ private Q_SLOTS:
         QCOMPARE(ostrel(Listar).texto,
                  u"Ejercicio  Período     Modelo               Importe\n"
                  u"2026       SEPTIEMBRE  430                98.765,43\n"
-                 u"2026       OCTUBRE     430     9.999.999.999.999,99\n"_qs);
+                 u"2026       OCTUBRE     430     9.999.999.999.999,99\n"_s);
         QCOMPARE(
             ostrel(partes("listar declarantes")).texto,
             u"DNI        Razón social   Nombre del municipio  Nombre de provincia  430  480\n"
-            u"12345678Z  SEGUROS ÑANDÚ  ABRENZUOLA            VARLENDA               2    0\n"_qs);
+            u"12345678Z  SEGUROS ÑANDÚ  ABRENZUOLA            VARLENDA               2    0\n"_s);
         QCOMPARE(lista(partes("listar declarantes")).first().toObject().keys(),
                  partes("CSCO DNI NOMBRE NOMMUN NOMPROV NUM430 NUM480"));
         QCOMPARE(lista(Listar).first().toObject().keys(),
@@ -197,12 +199,12 @@ private Q_SLOTS:
 
     void idioma()
     {
-        QCOMPARE(ostrel(partes("idioma")).texto, u"Idioma del programa: C (Castellano)\n"_qs);
+        QCOMPARE(ostrel(partes("idioma")).texto, u"Idioma del programa: C (Castellano)\n"_s);
         hacer(partes("idioma e"));
-        QCOMPARE(ostrel(partes("idioma")).texto, u"Programaren hizkuntza: E (Euskera)\n"_qs);
-        QCOMPARE(ostrel(partes("listar declarantes")).texto, u"Ez dago aitortzailerik.\n"_qs);
+        QCOMPARE(ostrel(partes("idioma")).texto, u"Programaren hizkuntza: E (Euskera)\n"_s);
+        QCOMPARE(ostrel(partes("listar declarantes")).texto, u"Ez dago aitortzailerik.\n"_s);
         QVERIFY(ostrel(partes("--help")).texto.startsWith(u"Erabilera:"));
-        QVERIFY(ostrel(opcionesAlta(u"dni"_qs, u"1"_qs)).error.startsWith(u"--dni aukera: NA-IFK"));
+        QVERIFY(ostrel(opcionesAlta(u"dni"_s, u"1"_s)).error.startsWith(u"--dni aukera: NA-IFK"));
     }
 
     void malUso()
@@ -228,11 +230,11 @@ private Q_SLOTS:
 
     void ayuda()
     {
-        for (const auto &[orden, contiene] : {std::pair{"--help", u"idioma [C|E]"_qs},
-                                              {"-h", u"declarante alta"_qs},
-                                              {"listar -h", u"listar declaraciones"_qs},
-                                              {"declarar 480 --help", u"[--casilla NN=EUROS …]"_qs},
-                                              {"--version", u"Ostrel de Seguros "_qs}}) {
+        for (const auto &[orden, contiene] : {std::pair{"--help", u"idioma [C|E]"_s},
+                                              {"-h", u"declarante alta"_s},
+                                              {"listar -h", u"listar declaraciones"_s},
+                                              {"declarar 480 --help", u"[--casilla NN=EUROS …]"_s},
+                                              {"--version", u"Ostrel de Seguros "_s}}) {
             const Salida salida = ostrel(partes(orden));
             QCOMPARE(salida.codigo, 0);
             QCOMPARE(salida.error, QString());
@@ -244,13 +246,13 @@ private Q_SLOTS:
 
     void carpeta()
     {
-        const QString ninguna = m_carpeta->filePath(u"no existe"_qs);
+        const QString ninguna = m_carpeta->filePath(u"no existe"_s);
         QProcess proceso;
-        proceso.start(QStringLiteral(OSTREL), {u"--carpeta"_qs, ninguna, u"idioma"_qs});
+        proceso.start(QStringLiteral(OSTREL), {u"--carpeta"_s, ninguna, u"idioma"_s});
         QVERIFY(proceso.waitForFinished());
         QCOMPARE(proceso.exitCode(), 1);
         QCOMPARE(QString::fromUtf8(proceso.readAllStandardError()),
-                 u"No existe la carpeta «%1».\n"_qs.arg(ninguna));
+                 u"No existe la carpeta «%1».\n"_s.arg(ninguna));
         QVERIFY(!QFileInfo::exists(ninguna));
     }
 
@@ -259,7 +261,7 @@ private Q_SLOTS:
     {
         hacer(opcionesAlta());
         const QByteArray contenido = QByteArray("not a database at all\n").repeated(500);
-        QFile base(tablas() + u"/OstrMod.mdb"_qs);
+        QFile base(tablas() + u"/OstrMod.mdb"_s);
         QVERIFY(base.open(QIODevice::WriteOnly | QIODevice::Truncate));
         QCOMPARE(base.write(contenido), contenido.size());
         base.close();
@@ -285,11 +287,11 @@ private:
     {
         QProcess proceso;
         auto entorno = QProcessEnvironment::systemEnvironment();
-        entorno.remove(u"DISPLAY"_qs);
-        entorno.insert(u"QT_QPA_PLATFORM"_qs, u"none-that-exists"_qs);
+        entorno.remove(u"DISPLAY"_s);
+        entorno.insert(u"QT_QPA_PLATFORM"_s, u"none-that-exists"_s);
         proceso.setProcessEnvironment(entorno);
         proceso.start(QStringLiteral(OSTREL),
-                      argumentos + QStringList{u"--carpeta"_qs, m_carpeta->path()});
+                      argumentos + QStringList{u"--carpeta"_s, m_carpeta->path()});
         if (!proceso.waitForFinished() || proceso.exitStatus() != QProcess::NormalExit)
             return {-1, {}, proceso.errorString()};
         return {proceso.exitCode(), QString::fromUtf8(proceso.readAllStandardOutput()),
@@ -314,11 +316,11 @@ private:
 
     QJsonArray lista(const QStringList &argumentos) const
     {
-        const Salida salida = ostrel(argumentos + QStringList{u"--json"_qs});
+        const Salida salida = ostrel(argumentos + QStringList{u"--json"_s});
         return QJsonDocument::fromJson(salida.texto.toUtf8()).array();
     }
 
-    QString tablas() const { return m_carpeta->filePath(u"Tablas"_qs); }
+    QString tablas() const { return m_carpeta->filePath(u"Tablas"_s); }
 
     std::optional<QTemporaryDir> m_carpeta;
 };

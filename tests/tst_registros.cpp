@@ -23,6 +23,8 @@
 #include <cmath>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 static void comprobarPropuesta(const cDecResumen &resumen, int propuesta)
 {
     const bool anual = propuesta % 100 == 13;
@@ -31,7 +33,7 @@ static void comprobarPropuesta(const cDecResumen &resumen, int propuesta)
     QCOMPARE(int(resumen.PERIODO()), anual ? 12 : propuesta % 100);
     QCOMPARE(int(resumen.PERIODICIDAD()), clase);
     QCOMPARE(int(resumen.TIPOLOGIA()), clase);
-    QCOMPARE(resumen.MODELO(), QStringList({{}, u"430"_qs, u"480"_qs})[clase]);
+    QCOMPARE(resumen.MODELO(), QStringList({{}, u"430"_s, u"480"_s})[clase]);
 }
 
 /// Half away from zero of a whole rate in percent × base / 100, in integers.
@@ -72,110 +74,110 @@ private Q_SLOTS:
         auto &entrada = unico::la<CEntrada>();
         {
             const GeneralAveriado averia;
-            QVERIFY_EXCEPTION_THROWN(entrada.IDI(u"E"_qs), ErrorDatos);
-            QCOMPARE(entrada.IDI(), u"C"_qs);
+            QVERIFY_EXCEPTION_THROWN(entrada.IDI(u"E"_s), ErrorDatos);
+            QCOMPARE(entrada.IDI(), u"C"_s);
             QCOMPARE(desplazamientoIdioma(), qint16(0));
-            QCOMPARE(unico::la<cFecha>().fecidioma(), u"C"_qs);
+            QCOMPARE(unico::la<cFecha>().fecidioma(), u"C"_s);
         }
-        entrada.IDI(u"E"_qs);
+        entrada.IDI(u"E"_s);
         QCOMPARE(desplazamientoIdioma(), qint16(10000));
-        QCOMPARE(unico::la<cFecha>().fecidioma(), u"E"_qs);
+        QCOMPARE(unico::la<cFecha>().fecidioma(), u"E"_s);
         CEntrada otra;
         otra.LeerIdioma();
-        QCOMPARE(otra.IDI(), u"E"_qs);
+        QCOMPARE(otra.IDI(), u"E"_s);
     }
 
     void declaranteNuevo()
     {
         auto &d = unico::la<cDecDatos>();
         for (int vez = 0; vez < 2; ++vez) {
-            d.MODO(u"A"_qs);
+            d.MODO(u"A"_s);
             QStringList valores;
             for (const QVariant &valor : d.RegistroCompleto())
                 valores += valor.toString();
-            QCOMPARE(valores.join(u'|'), u"0|||CL||0|||||20|||||0|0"_qs);
-            QCOMPARE(d.NOMPROV(), u"VARLENDA"_qs);
-            d.DNI(u"12345678Z"_qs);
+            QCOMPARE(valores.join(u'|'), u"0|||CL||0|||||20|||||0|0"_s);
+            QCOMPARE(d.NOMPROV(), u"VARLENDA"_s);
+            d.DNI(u"12345678Z"_s);
             d.CSCO(7);
         }
-        d.MODO(u"C"_qs);
-        QCOMPARE(d.DNI(), u"12345678Z"_qs);
+        d.MODO(u"C"_s);
+        QCOMPARE(d.DNI(), u"12345678Z"_s);
         QCOMPARE(d.CSCO(), 7);
     }
 
     void declaranteIdaYVuelta()
     {
         cDecDatos d;
-        d.MODO(u"A"_qs);
-        d.DNI(u"A08000143"_qs);
-        d.NOMBRE(u"ÑANDÚ, S.A."_qs);
-        d.VIA(u"AV"_qs);
-        d.DOMICILIO(u"UNA CALLE DE MAS DE VEINTE LE."_qs);
+        d.MODO(u"A"_s);
+        d.DNI(u"A08000143"_s);
+        d.NOMBRE(u"ÑANDÚ, S.A."_s);
+        d.VIA(u"AV"_s);
+        d.DOMICILIO(u"UNA CALLE DE MAS DE VEINTE LE."_s);
         d.NUMERO(99999);
-        d.LETRA(u"B"_qs);
-        d.ESCALERA(u"1"_qs);
-        d.PISO(u"2"_qs);
-        d.MANO(u"DCH"_qs);
-        d.CambiarProvincia(u"1"_qs, u"ÁLAVA"_qs);
-        d.CODPOS(u"01001"_qs);
-        d.NOMMUN(u"OTRO"_qs);
-        d.TELEFONO(u"945000000"_qs);
+        d.LETRA(u"B"_s);
+        d.ESCALERA(u"1"_s);
+        d.PISO(u"2"_s);
+        d.MANO(u"DCH"_s);
+        d.CambiarProvincia(u"1"_s, u"ÁLAVA"_s);
+        d.CODPOS(u"01001"_s);
+        d.NOMMUN(u"OTRO"_s);
+        d.TELEFONO(u"945000000"_s);
         QCOMPARE(d.GuardarDeclarante(d.RegistroCompleto()), qint16(0));
 
         cDecDatos leido;
         leido.CSCO(-5);
-        const qint32 csco = leido.ObtenerCodigoDeclarante(u"A08000143"_qs);
+        const qint32 csco = leido.ObtenerCodigoDeclarante(u"A08000143"_s);
         QVERIFY(csco > 0);
         leido.CargarDeclarante(csco);
         QCOMPARE(leido.CSCO(), -5);
-        QCOMPARE(leido.NOMPROV(), u"ÁLAVA"_qs);
+        QCOMPARE(leido.NOMPROV(), u"ÁLAVA"_s);
         leido.CSCO(0);
         for (int campo = 0; campo < RegDeclarante::Total; ++campo)
             QCOMPARE(leido.RegistroCompleto()[campo].toString(),
                      d.RegistroCompleto()[campo].toString());
 
-        unico::la<CEntrada>().IDI(u"E"_qs);
+        unico::la<CEntrada>().IDI(u"E"_s);
         leido.LeerNombreProvincia();
-        QCOMPARE(leido.NOMPROV(), u"ARABA"_qs);
+        QCOMPARE(leido.NOMPROV(), u"ARABA"_s);
 
         leido.CSCO(csco);
         leido.BorrarDeclarante();
-        QCOMPARE(leido.ObtenerCodigoDeclarante(u"A08000143"_qs), 0);
+        QCOMPARE(leido.ObtenerCodigoDeclarante(u"A08000143"_s), 0);
     }
 
     void provincia()
     {
         cDecDatos d;
-        d.MODO(u"A"_qs);
-        d.CODMUN(u"001"_qs);
-        d.NOMMUN(u"ABRENZUOLA"_qs);
-        d.CambiarProvincia(u"20"_qs, u"VARLENDA"_qs);
+        d.MODO(u"A"_s);
+        d.CODMUN(u"001"_s);
+        d.NOMMUN(u"ABRENZUOLA"_s);
+        d.CambiarProvincia(u"20"_s, u"VARLENDA"_s);
         QVERIFY(d.enProvinciaPropia());
-        QCOMPARE(d.CODMUN(), u"001"_qs);
+        QCOMPARE(d.CODMUN(), u"001"_s);
         QCOMPARE(d.NOMMUN(), QString());
-        d.CambiarProvincia(u"1"_qs, u"ÁLAVA"_qs);
+        d.CambiarProvincia(u"1"_s, u"ÁLAVA"_s);
         QVERIFY(!d.enProvinciaPropia());
-        QCOMPARE(d.CODPROV(), u"01"_qs);
+        QCOMPARE(d.CODPROV(), u"01"_s);
         QCOMPARE(d.CODMUN(), QString());
 
         const ListaCodigos provincias = cargarProvincias();
         QCOMPARE(provincias.size(), 52);
-        QVERIFY(buscarCodigo(provincias, u"01"_qs) == buscarCodigo(provincias, u"1"_qs));
-        QVERIFY(!buscarCodigo(provincias, u"53"_qs) && !buscarCodigo(provincias, u"CL"_qs));
-        QCOMPARE(buscarCodigo(cargarVias(), u"CL"_qs)->nombre, u"CALLE"_qs);
-        QCOMPARE(buscarCodigo(cargarMunicipios(), u"001"_qs)->nombre, u"ABRENZUOLA"_qs);
-        unico::la<CEntrada>().IDI(u"E"_qs);
-        QCOMPARE(buscarCodigo(cargarVias(), u"CL"_qs)->nombre, u"KALEA"_qs);
+        QVERIFY(buscarCodigo(provincias, u"01"_s) == buscarCodigo(provincias, u"1"_s));
+        QVERIFY(!buscarCodigo(provincias, u"53"_s) && !buscarCodigo(provincias, u"CL"_s));
+        QCOMPARE(buscarCodigo(cargarVias(), u"CL"_s)->nombre, u"CALLE"_s);
+        QCOMPARE(buscarCodigo(cargarMunicipios(), u"001"_s)->nombre, u"ABRENZUOLA"_s);
+        unico::la<CEntrada>().IDI(u"E"_s);
+        QCOMPARE(buscarCodigo(cargarVias(), u"CL"_s)->nombre, u"KALEA"_s);
     }
 
     /// The rules are the server's; here, where each code puts the focus and which text it shows.
     void validacionDeclarante()
     {
         using enum RegValidacion::Campo;
-        Registro datos{u"12345678A"_qs, u"SEGUROS"_qs, u"MAYOR"_qs,      u"20"_qs,
-                       u"20001"_qs,     u"001"_qs,     u"ABRENZUOLA"_qs, u"943000000"_qs};
+        Registro datos{u"12345678A"_s, u"SEGUROS"_s, u"MAYOR"_s,      u"20"_s,
+                       u"20001"_s,     u"001"_s,     u"ABRENZUOLA"_s, u"943000000"_s};
         QCOMPARE(cDecDatos().ValidarDatosDeclarante(datos), qint16(1));
-        datos[DNI] = u"12345678Z"_qs;
+        datos[DNI] = u"12345678Z"_s;
         QCOMPARE(cDecDatos().ValidarDatosDeclarante(datos), qint16(0));
         const QList<int> campos{DNI,    NOMBRE, DOMICILIO, CODPROV, CODPOS,   CODPOS,
                                 CODPOS, CODPOS, CODMUN,    NOMMUN,  TELEFONO, TELEFONO};
@@ -188,10 +190,10 @@ private Q_SLOTS:
     void dniRepetido()
     {
         Entorno::altaDeclarante();
-        const qint32 otro = Entorno::altaDeclarante(u"87654321X"_qs, u"SEGUROS DOS"_qs);
+        const qint32 otro = Entorno::altaDeclarante(u"87654321X"_s, u"SEGUROS DOS"_s);
         cDecDatos d;
         d.CargarDeclarante(otro);
-        d.DNI(u"12345678Z"_qs);
+        d.DNI(u"12345678Z"_s);
         for (const auto &[csco, codigo] : {std::pair(0, 1), std::pair(otro, 2)}) {
             d.CSCO(csco);
             const qint16 obtenido = d.GuardarDeclarante(d.RegistroCompleto());
@@ -228,13 +230,13 @@ private Q_SLOTS:
         for (const int cual : guardadas) {
             const bool anual = cual % 100 == 13;
             Entorno::altaDeclaracion(csco, qint16(cual / 100), quint8(anual ? 12 : cual % 100),
-                                     anual ? u"480"_qs : u"430"_qs);
+                                     anual ? u"480"_s : u"430"_s);
         }
         auto &resumen = unico::la<cDecResumen>();
-        resumen.TomarDeclarante(csco, u"12345678Z"_qs, u"SEGUROS UNO"_qs);
-        resumen.MODO(u"N"_qs);
+        resumen.TomarDeclarante(csco, u"12345678Z"_s, u"SEGUROS UNO"_s);
+        resumen.MODO(u"N"_s);
         comprobarPropuesta(resumen, propuesta);
-        resumen.MODO(u"L"_qs);
+        resumen.MODO(u"L"_s);
         comprobarPropuesta(resumen, 0);
         QCOMPARE(resumen.CargarDeclaraciones().size(), guardadas.size());
         QCOMPARE(resumen.NUMDECLASEL(), int(guardadas.size()));
@@ -247,17 +249,17 @@ private Q_SLOTS:
         QCOMPARE(resumen.ValidarDatosComunes(resumen.Cabecera()), qint16(5));
         resumen.PERIODO(2);
         QCOMPARE(resumen.ValidarDatosComunes(resumen.Cabecera()), qint16(0));
-        resumen.CambiarModelo(u"480"_qs);
+        resumen.CambiarModelo(u"480"_s);
         QCOMPARE(int(resumen.PERIODO()), 12);
         QCOMPARE(int(resumen.PERIODICIDAD() + resumen.TIPOLOGIA()), 4);
-        resumen.CambiarModelo(u"430"_qs);
+        resumen.CambiarModelo(u"430"_s);
         QCOMPARE(int(resumen.PERIODO()), 0);
         QCOMPARE(int(resumen.PERIODICIDAD() + resumen.TIPOLOGIA()), 2);
         QCOMPARE(textoCabecera(0), QString());
         for (const qint16 codigo : QList<qint16>{1, 2, 3, 5})
             QCOMPARE(textoCabecera(codigo), mensajeNumero(254 + codigo));
         QCOMPARE(textoCabecera(4),
-                 msj(Msj::ErrorEjercicioPeriodoFuera, u"2002-01"_qs, u"2030-12"_qs));
+                 msj(Msj::ErrorEjercicioPeriodoFuera, u"2002-01"_s, u"2030-12"_s));
     }
 
     void clases480()
@@ -270,8 +272,8 @@ private Q_SLOTS:
                 entradas.insert(Reg480::casilla(clase, columna));
             }
         QCOMPARE(posiciones.size(), 46);
-        QCOMPARE(propiedadClase(16, 1), u"C50_OTR"_qs);
-        QCOMPARE(controlClase(0, 0), u"txt01vida"_qs);
+        QCOMPARE(propiedadClase(16, 1), u"C50_OTR"_s);
+        QCOMPARE(controlClase(0, 0), u"txt01vida"_s);
         QCOMPARE(paginaClase(10), 1);
         QCOMPARE(paginaClase(11), 2);
         QCOMPARE(Reg480::posicion(0, 1), 11);
@@ -382,7 +384,7 @@ private Q_SLOTS:
         auto &resumen = unico::la<cDecResumen>();
         resumen.PERIODO(2);
         cDatos430 mensual;
-        mensual.MODO(u"A"_qs);
+        mensual.MODO(u"A"_s);
         QCOMPARE(mensual.TIPOLIQ(), 8.0F);
         QCOMPARE(mensual.TIPOTOT(), 8.0F);
         mensual.MarcarRectificacion(true);
@@ -396,7 +398,7 @@ private Q_SLOTS:
         leida.CargarDeclaracion(clave);
         QCOMPARE(leida.RegistroGuardar(), mensual.RegistroGuardar());
         leida.CSDE(clave);
-        leida.MODO(u"A"_qs);
+        leida.MODO(u"A"_s);
         QCOMPARE(leida.CSDE(), 0);
         QCOMPARE(leida.BASELIQ() + leida.CUOTATOT() + leida.BASETOT(), 0.0);
 
@@ -404,8 +406,8 @@ private Q_SLOTS:
         cDatos480 anual;
         QVERIFY(anual.NumDecl430(mensuales));
         QCOMPARE(mensuales.size(), 2);
-        resumen.CambiarModelo(u"480"_qs);
-        anual.MODO(u"A"_qs);
+        resumen.CambiarModelo(u"480"_s);
+        anual.MODO(u"A"_s);
         QCOMPARE(anual.C74_TI1(), 8.0F);
         QCOMPARE(anual.C77_TI2(), 0.0F);
         for (int numero = 1; numero <= 81; ++numero)

@@ -3,6 +3,8 @@
 
 #include <SQLiteCpp/Database.h>
 
+using namespace Qt::StringLiterals;
+
 class TstServidorDatos : public QObject
 {
     Q_OBJECT
@@ -19,10 +21,10 @@ private Q_SLOTS:
         const auto objeto = m_servidor->generales(m_servidor->modelo());
         QCOMPARE(objeto->ObtenerIdioma(), QString());
         QCOMPARE(objeto->ObtenerActOnline(), 0);
-        objeto->CambiarIdioma(u"E"_qs);
-        QCOMPARE(objeto->ObtenerIdioma(), u"E"_qs);
-        objeto->CambiarIdioma(u"otro"_qs);
-        QCOMPARE(objeto->ObtenerIdioma(), u"C"_qs);
+        objeto->CambiarIdioma(u"E"_s);
+        QCOMPARE(objeto->ObtenerIdioma(), u"E"_s);
+        objeto->CambiarIdioma(u"otro"_s);
+        QCOMPARE(objeto->ObtenerIdioma(), u"C"_s);
         objeto->GuardarActOnline(-1);
         QCOMPARE(objeto->ObtenerActOnline(), -1);
         Registro limites;
@@ -66,12 +68,12 @@ private Q_SLOTS:
     {
         const auto objeto = m_servidor->generales(m_servidor->consulta());
         QString nombre;
-        objeto->ObtenerNombreProvincia(u"20"_qs, nombre, 10000);
-        QCOMPARE(nombre, u"VARLENDA"_qs);
-        objeto->ObtenerNombreProvincia(u"99"_qs, nombre, 0);
+        objeto->ObtenerNombreProvincia(u"20"_s, nombre, 10000);
+        QCOMPARE(nombre, u"VARLENDA"_s);
+        objeto->ObtenerNombreProvincia(u"99"_s, nombre, 0);
         QCOMPARE(nombre, QString());
-        objeto->ObtenerNombreMunicipio(u"001"_qs, nombre);
-        QCOMPARE(nombre, u"ABRENZUOLA"_qs);
+        objeto->ObtenerNombreMunicipio(u"001"_s, nombre);
+        QCOMPARE(nombre, u"ABRENZUOLA"_s);
     }
 
     void listasEnOrdenDeLectura()
@@ -81,20 +83,20 @@ private Q_SLOTS:
         objeto->CargarProvincias(ListasSql::Provincias[0].toString(), filas);
         QCOMPARE(filas.size(), 52);
         const QVariantList nombres = columna(filas, 1);
-        QVERIFY(nombres.indexOf(u"ÁLAVA"_qs) < nombres.indexOf(u"BURGOS"_qs));
-        QVERIFY(nombres.indexOf(u"VARLENDA"_qs) > nombres.indexOf(u"BURGOS"_qs));
-        QCOMPARE(nombres.last(), u"ZARAGOZA"_qs);
+        QVERIFY(nombres.indexOf(u"ÁLAVA"_s) < nombres.indexOf(u"BURGOS"_s));
+        QVERIFY(nombres.indexOf(u"VARLENDA"_s) > nombres.indexOf(u"BURGOS"_s));
+        QCOMPARE(nombres.last(), u"ZARAGOZA"_s);
         objeto->CargarMunicipios(ListasSql::Municipios[0].toString(), filas);
-        QVERIFY(columna(filas, 1).contains(u"ABRENZUOLA"_qs));
+        QVERIFY(columna(filas, 1).contains(u"ABRENZUOLA"_s));
         objeto->CargarVias(ListasSql::Vias[1].toString(), filas);
-        QVERIFY(columna(filas, 0).contains(u"CL"_qs));
+        QVERIFY(columna(filas, 0).contains(u"CL"_s));
     }
 
     void soloUnSelect()
     {
         const auto objeto = m_servidor->generales(m_servidor->consulta());
         for (const QString &sql :
-             {u""_qs, u"DELETE FROM T08_GENERAL"_qs, u"SELECT 1, 2; DROP TABLE T08_GENERAL"_qs}) {
+             {u""_s, u"DELETE FROM T08_GENERAL"_s, u"SELECT 1, 2; DROP TABLE T08_GENERAL"_s}) {
             Filas filas{1};
             QVERIFY_EXCEPTION_THROWN(objeto->CargarVias(sql, filas), std::invalid_argument);
             QCOMPARE(filas, Filas{1});
@@ -104,12 +106,12 @@ private Q_SLOTS:
     void hacienda()
     {
         const auto objeto = servicio::crear<SvrKtComunLib::cMiscelaneos>();
-        QCOMPARE(objeto->HaciendaFiscalidad(), u"Departamento de Hacienda y Finanzas"_qs);
+        QCOMPARE(objeto->HaciendaFiscalidad(), u"Departamento de Hacienda y Finanzas"_s);
         objeto->Idioma(10000);
-        QCOMPARE(objeto->HaciendaFiscalidad(), u"Ogasun eta Finantza Saila"_qs);
+        QCOMPARE(objeto->HaciendaFiscalidad(), u"Ogasun eta Finantza Saila"_s);
         objeto->Idioma(1000);
         QCOMPARE(objeto->HaciendaFiscalidad(),
-                 u"Ogasun eta Finantza Saila\nDepartamento de Hacienda y Finanzas"_qs);
+                 u"Ogasun eta Finantza Saila\nDepartamento de Hacienda y Finanzas"_s);
     }
 
 private:

@@ -1,5 +1,7 @@
 #include "support/ServidorPrueba.h"
 
+using namespace Qt::StringLiterals;
+
 class TstServidorDeclaraciones : public QObject
 {
     Q_OBJECT
@@ -9,7 +11,7 @@ private Q_SLOTS:
     {
         m_servidor.emplace();
         QVERIFY(!m_servidor->traspaso());
-        m_declarante = m_servidor->alta(u"12345678Z"_qs, u"ANA"_qs);
+        m_declarante = m_servidor->alta(u"12345678Z"_s, u"ANA"_s);
         QVERIFY(m_declarante > 0);
     }
 
@@ -30,8 +32,8 @@ private Q_SLOTS:
         Filas filas;
         QCOMPARE(objeto->dameResultado(filas, m_declarante), 2);
         QCOMPARE(filas[0].toList(),
-                 (QVariantList{mensual, 2026, 1, 3, u"430"_qs, 1, 999'999'999'999'999.0}));
-        QCOMPARE(filas[1].toList(), (QVariantList{anual, 2026, 2, 12, u"480"_qs, 2, 56.0}));
+                 (QVariantList{mensual, 2026, 1, 3, u"430"_s, 1, 999'999'999'999'999.0}));
+        QCOMPARE(filas[1].toList(), (QVariantList{anual, 2026, 2, 12, u"480"_s, 2, 56.0}));
         QCOMPARE(contadores(), (QVariantList{1.0, 1.0}));
     }
 
@@ -51,7 +53,7 @@ private Q_SLOTS:
         QCOMPARE(figuras, nuevo.mid(RegGuardar::Figuras));
         QCOMPARE(contadores(), (QVariantList{1.0, 0.0}));
         QCOMPARE(
-            objeto->ValidarDatosComunes({2026, 1, 3, 2002, 1, 2030, 12, u"430"_qs, m_declarante}),
+            objeto->ValidarDatosComunes({2026, 1, 3, 2002, 1, 2030, 12, u"430"_s, m_declarante}),
             5);
         QCOMPARE(falloDe([&] { objeto->Guardar430(ServidorPrueba::datos430(999, 2026, 1, 1.0)); }),
                  Fallo::NoEncontrado);
@@ -70,12 +72,12 @@ private Q_SLOTS:
         QCOMPARE(m_servidor->declaraciones()->Guardar430(bueno.first(bueno.size() - 1)), 0);
         for (const auto &[campo, valor] : {std::pair{base, QVariant(1.5)},
                                            {base, QVariant(qQNaN())},
-                                           {base, QVariant(u"1"_qs)},
+                                           {base, QVariant(u"1"_s)},
                                            {total, QVariant(qInf())},
                                            {total, QVariant(1e15)},
                                            {int(Figuras) + Reg430::TIPOLIQ, QVariant(8.123F)},
                                            {int(PERIODO), QVariant(13)},
-                                           {int(MODELO), QVariant(u"480"_qs)},
+                                           {int(MODELO), QVariant(u"480"_s)},
                                            {int(PERIODICIDAD), QVariant(2)},
                                            {int(CSCO), QVariant(0)}}) {
             Registro datos = bueno;
@@ -104,10 +106,10 @@ private Q_SLOTS:
         const qint32 anual = objeto->Guardar480(ServidorPrueba::datos480(m_declarante, 2025));
         QVERIFY(guardar430(2024, 11) > 0);
         const qint32 diciembre = guardar430(2025, 12);
-        esperar(anual, {2025, 2, 12, u"480"_qs, 2});
+        esperar(anual, {2025, 2, 12, u"480"_s, 2});
         const qint32 mayo = guardar430(2025, 5);
         const qint32 enero = guardar430(2026, 1);
-        esperar(enero, {2026, 1, 1, u"430"_qs, 1});
+        esperar(enero, {2026, 1, 1, u"430"_s, 1});
         Filas filas;
         QVERIFY(m_servidor->declarantes()->ObtListDecl430(filas, 2025, m_declarante));
         QCOMPARE(filas, (Filas{QVariantList{mayo, 5}, QVariantList{diciembre, 12}}));
@@ -121,9 +123,9 @@ private Q_SLOTS:
             = m_servidor->declaraciones()->Guardar480(ServidorPrueba::datos480(m_declarante, 2025));
         {
             const auto objeto = m_servidor->declaraciones();
-            objeto->BorrarDatosNoComunes(clave, u"480"_qs);
+            objeto->BorrarDatosNoComunes(clave, u"480"_s);
             QCOMPARE(falloDe([&] {
-                         m_servidor->generales(m_servidor->modelo())->CambiarIdioma(u"E"_qs);
+                         m_servidor->generales(m_servidor->modelo())->CambiarIdioma(u"E"_s);
                      }),
                      Fallo::EnUso);
         }
@@ -133,10 +135,10 @@ private Q_SLOTS:
         QCOMPARE(contadores(), (QVariantList{0.0, 1.0}));
 
         const auto objeto = m_servidor->declaraciones();
-        QCOMPARE(falloDe([&] { objeto->BorrarDatosNoComunes(clave, u"430"_qs); }),
+        QCOMPARE(falloDe([&] { objeto->BorrarDatosNoComunes(clave, u"430"_s); }),
                  Fallo::NoEncontrado);
         QVERIFY_EXCEPTION_THROWN(objeto->BorrarDeclaracion(clave), std::logic_error);
-        objeto->BorrarDatosNoComunes(clave, u"480"_qs);
+        objeto->BorrarDatosNoComunes(clave, u"480"_s);
         objeto->BorrarDeclaracion(clave);
         QCOMPARE(importes(), QVariantList());
         QCOMPARE(contadores(), (QVariantList{0.0, 0.0}));

@@ -1,5 +1,7 @@
 #include "support/ServidorPrueba.h"
 
+using namespace Qt::StringLiterals;
+
 class TstServidorDeclarantes : public QObject
 {
     Q_OBJECT
@@ -14,20 +16,20 @@ private Q_SLOTS:
     void altaYCarga()
     {
         using namespace RegDeclarante;
-        Registro registro = ServidorPrueba::registro(u"12345678z"_qs, u" ana "_qs);
-        registro[DOMICILIO] = u"ABCDEFGHIJKLMNOPQRSTUVWXYZ'%;?"_qs;
-        registro[CODPROV] = u"1"_qs;
-        registro[CODMUN] = u"000"_qs;
+        Registro registro = ServidorPrueba::registro(u"12345678z"_s, u" ana "_s);
+        registro[DOMICILIO] = u"ABCDEFGHIJKLMNOPQRSTUVWXYZ'%;?"_s;
+        registro[CODPROV] = u"1"_s;
+        registro[CODMUN] = u"000"_s;
         QCOMPARE(m_servidor->declarantes()->GuardarDeclarante(registro), 0);
-        qint32 clave = m_servidor->declarantes()->ObtenerCodigoDeclarante(u"12345678Z"_qs);
+        qint32 clave = m_servidor->declarantes()->ObtenerCodigoDeclarante(u"12345678Z"_s);
         QVERIFY(clave > 0);
         Registro cargado;
         m_servidor->declarantes()->CargarDeclarante(clave, cargado);
 
         registro[CSCO] = clave;
-        registro[DNI] = u"12345678Z"_qs;
-        registro[NOMBRE] = u"ANA"_qs;
-        registro[CODPROV] = u"01"_qs;
+        registro[DNI] = u"12345678Z"_s;
+        registro[NOMBRE] = u"ANA"_s;
+        registro[CODPROV] = u"01"_s;
         registro[CODMUN] = QString();
         registro[NUM430] = registro[NUM480] = 0.0; // not what the caller said
         QCOMPARE(cargado, registro);
@@ -36,9 +38,9 @@ private Q_SLOTS:
 
     void duplicados()
     {
-        const qint32 ana = m_servidor->alta(u"12345678Z"_qs, u"ANA"_qs);
-        const qint32 eva = m_servidor->alta(u"00000000T"_qs, u"EVA"_qs);
-        Registro registro = ServidorPrueba::registro(u"12345678Z"_qs, u"OTRA"_qs);
+        const qint32 ana = m_servidor->alta(u"12345678Z"_s, u"ANA"_s);
+        const qint32 eva = m_servidor->alta(u"00000000T"_s, u"EVA"_s);
+        Registro registro = ServidorPrueba::registro(u"12345678Z"_s, u"OTRA"_s);
         const auto objeto = m_servidor->declarantes();
         QCOMPARE(objeto->GuardarDeclarante(registro), 1);
         registro[RegDeclarante::CSCO] = eva;
@@ -47,21 +49,21 @@ private Q_SLOTS:
         QCOMPARE(objeto->GuardarDeclarante(registro), 0);
         Filas filas;
         QCOMPARE(objeto->dameResultado(filas, 2, 0), 2);
-        QCOMPARE(columna(filas, FilaDeclarante::NOMBRE), (QVariantList{u"EVA"_qs, u"OTRA"_qs}));
+        QCOMPARE(columna(filas, FilaDeclarante::NOMBRE), (QVariantList{u"EVA"_s, u"OTRA"_s}));
     }
 
     void malFormado()
     {
-        const Registro bueno = ServidorPrueba::registro(u"12345678Z"_qs, u"ANA"_qs);
+        const Registro bueno = ServidorPrueba::registro(u"12345678Z"_s, u"ANA"_s);
         const auto rechazar = [this](const Registro &registro) {
             QVERIFY_EXCEPTION_THROWN(m_servidor->declarantes()->GuardarDeclarante(registro),
                                      std::invalid_argument);
         };
         rechazar(bueno.first(bueno.size() - 1));
         for (const auto &[campo, valor] : {std::pair{RegDeclarante::CSCO, QVariant(-1)},
-                                           {RegDeclarante::NUMERO, QVariant(u"A"_qs)},
+                                           {RegDeclarante::NUMERO, QVariant(u"A"_s)},
                                            {RegDeclarante::NOMBRE, QVariant(5)},
-                                           {RegDeclarante::CODPROV, QVariant(u"2A"_qs)}}) {
+                                           {RegDeclarante::CODPROV, QVariant(u"2A"_s)}}) {
             Registro registro = bueno;
             registro[campo] = valor;
             rechazar(registro);
@@ -71,18 +73,18 @@ private Q_SLOTS:
 
     void borrado()
     {
-        const qint32 clave = m_servidor->alta(u"12345678Z"_qs, u"ANA"_qs);
+        const qint32 clave = m_servidor->alta(u"12345678Z"_s, u"ANA"_s);
         const auto objeto = m_servidor->declarantes();
         const qint32 CSDE = m_servidor->declaraciones()->Guardar430(
             ServidorPrueba::datos430(clave, 2026, 1, 5.0));
         QVERIFY(CSDE > 0);
         QCOMPARE(falloDe([&] { objeto->BorrarDeclarante(clave); }), Fallo::TieneDeclaraciones);
-        QCOMPARE(objeto->ObtenerCodigoDeclarante(u"12345678Z"_qs), clave);
+        QCOMPARE(objeto->ObtenerCodigoDeclarante(u"12345678Z"_s), clave);
         const auto declaraciones = m_servidor->declaraciones();
-        declaraciones->BorrarDatosNoComunes(CSDE, u"430"_qs);
+        declaraciones->BorrarDatosNoComunes(CSDE, u"430"_s);
         declaraciones->BorrarDeclaracion(CSDE);
         objeto->BorrarDeclarante(clave);
-        QCOMPARE(objeto->ObtenerCodigoDeclarante(u"12345678Z"_qs), 0);
+        QCOMPARE(objeto->ObtenerCodigoDeclarante(u"12345678Z"_s), 0);
         QCOMPARE(falloDe([&] { objeto->BorrarDeclarante(clave); }), Fallo::NoEncontrado);
         Registro registro{1};
         qint32 otra = clave;
@@ -93,17 +95,17 @@ private Q_SLOTS:
     void listas()
     {
         // By name, a reader's order; the identifiers run the other way.
-        const QStringList nombres = u"ÁLAVA ALBA ÇEDA CIDE NZ ÑU OCA ZARA"_qs.split(u' ');
+        const QStringList nombres = u"ÁLAVA ALBA ÇEDA CIDE NZ ÑU OCA ZARA"_s.split(u' ');
         QStringList dnis;
         for (qsizetype i = 0; i < nombres.size(); ++i) {
-            dnis.prepend(u"DNI%1"_qs.arg(9 - i));
+            dnis.prepend(u"DNI%1"_s.arg(9 - i));
             m_servidor->alta(dnis.first(), nombres[i]);
         }
         const auto objeto = m_servidor->declarantes();
         Filas filas;
         QCOMPARE(objeto->dameResultado(filas, 2, 0), 8);
         QCOMPARE(QVariant(columna(filas, FilaDeclarante::NOMBRE)).toStringList(), nombres);
-        QCOMPARE(filas[0].toList().value(FilaDeclarante::NOMPROV), u"VARLENDA"_qs);
+        QCOMPARE(filas[0].toList().value(FilaDeclarante::NOMPROV), u"VARLENDA"_s);
         QCOMPARE(objeto->dameResultado(filas, 1, 10000), 8);
         QCOMPARE(QVariant(columna(filas, FilaDeclarante::DNI)).toStringList(), dnis);
         QCOMPARE(objeto->dameResultadoExportar(filas, 2), 8);
@@ -115,7 +117,7 @@ private Q_SLOTS:
     {
         QList<qint32> claves;
         for (int i = 1; i <= 5; ++i)
-            claves += m_servidor->alta(u"DNI%1"_qs.arg(i), u"N"_qs);
+            claves += m_servidor->alta(u"DNI%1"_s.arg(i), u"N"_s);
         const auto leer = [&] {
             Filas filas;
             m_servidor->declarantes()->ObtenerUltimosDeclarantes(filas);
@@ -125,7 +127,7 @@ private Q_SLOTS:
         QVERIFY(m_servidor->declaraciones()->Guardar480(ServidorPrueba::datos480(claves[0], 2025)));
         QCOMPARE(leer(), (QVariantList{claves[0], claves[4], claves[3], claves[2]}));
         // A refused save changes nothing, the order included.
-        m_servidor->declarantes()->GuardarDeclarante(ServidorPrueba::registro(u"DNI3"_qs, u"N"_qs));
+        m_servidor->declarantes()->GuardarDeclarante(ServidorPrueba::registro(u"DNI3"_s, u"N"_s));
         QVERIFY(
             !m_servidor->declaraciones()->Guardar480(ServidorPrueba::datos480(claves[0], 2025)));
         QCOMPARE(leer(), (QVariantList{claves[0], claves[4], claves[3], claves[2]}));

@@ -16,6 +16,8 @@
 #include <sys/fsuid.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
 #endif
 
 namespace {
@@ -42,7 +44,7 @@ private Q_SLOTS:
     {
         m_servidor.emplace();
         QVERIFY(!m_servidor->traspaso());
-        QVERIFY(m_servidor->alta(u"12345678Z"_qs, u"ANA"_qs) > 0);
+        QVERIFY(m_servidor->alta(u"12345678Z"_s, u"ANA"_s) > 0);
     }
 
     void rechazados_data()
@@ -100,7 +102,7 @@ private Q_SLOTS:
         const QString ruta = m_servidor->consulta();
         otroPrograma(ruta).exec("UPDATE T08_GENERAL SET T08_URLACT = 'old'");
         prepararConsulta(ruta);
-        QCOMPARE(m_servidor->generales(ruta)->URLAct(), u"old"_qs);
+        QCOMPARE(m_servidor->generales(ruta)->URLAct(), u"old"_s);
         const Formato nuevo{FormatoConsulta.aplicacion, FormatoConsulta.esquema + 1, true};
         prepararConsulta(ruta, nuevo);
         QCOMPARE(comprobarCabecera(ruta, nuevo, Version::Actual), nuevo.esquema);
@@ -114,10 +116,10 @@ private Q_SLOTS:
         otro.exec("BEGIN EXCLUSIVE");
         QElapsedTimer reloj;
         reloj.start();
-        QCOMPARE(falloDe([&] { m_servidor->alta(u"00000000T"_qs, u"EVA"_qs); }), Fallo::EnUso);
+        QCOMPARE(falloDe([&] { m_servidor->alta(u"00000000T"_s, u"EVA"_s); }), Fallo::EnUso);
         QVERIFY2(reloj.elapsed() < 600, qPrintable(QString::number(reloj.elapsed())));
         otro.exec("COMMIT");
-        QVERIFY(m_servidor->alta(u"00000000T"_qs, u"EVA"_qs) > 0);
+        QVERIFY(m_servidor->alta(u"00000000T"_s, u"EVA"_s) > 0);
     }
 
     void soloLectura()
@@ -137,8 +139,7 @@ private Q_SLOTS:
         QVERIFY(!m_servidor->traspaso());
         Filas filas;
         QCOMPARE(m_servidor->declarantes()->dameResultado(filas, 1, 0), 1);
-        QCOMPARE(falloDe([&] { m_servidor->alta(u"00000000T"_qs, u"EVA"_qs); }),
-                 Fallo::SoloLectura);
+        QCOMPARE(falloDe([&] { m_servidor->alta(u"00000000T"_s, u"EVA"_s); }), Fallo::SoloLectura);
         QCOMPARE(m_servidor->declarantes()->dameResultado(filas, 1, 0), 1);
 #else
         QSKIP("needs the modes of a POSIX file system");
@@ -161,11 +162,11 @@ private Q_SLOTS:
         std::optional<Fallo> fallo;
         int guardados = 1;
         for (; !fallo && guardados < 1000; guardados += fallo ? 0 : 1)
-            fallo = falloDe([&] { m_servidor->alta(u"D%1"_qs.arg(guardados), u"NOMBRE"_qs); });
+            fallo = falloDe([&] { m_servidor->alta(u"D%1"_s.arg(guardados), u"NOMBRE"_s); });
         QCOMPARE(fallo, Fallo::SinEspacio);
         QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), guardados);
         QVERIFY(!m_servidor->traspaso()); // whole, without a journal left
-        QVERIFY(!QFile::exists(m_servidor->modelo() + u"-journal"_qs));
+        QVERIFY(!QFile::exists(m_servidor->modelo() + u"-journal"_s));
 #else
         QSKIP("needs a file size limit");
 #endif
@@ -202,7 +203,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, caso);
         copiador(true)->CrearBackup();
-        m_servidor->alta(u"00000000T"_qs, u"EVA"_qs);
+        m_servidor->alta(u"00000000T"_s, u"EVA"_s);
         const QByteArray estado = estropeado(caso, bytes(m_servidor->modelo()), {});
         if (caso == u"missing")
             QVERIFY(QFile::remove(m_servidor->modelo()));
@@ -212,7 +213,7 @@ private Q_SLOTS:
         QVERIFY(!m_servidor->traspaso());
         QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), 1);
         const QStringList apartados
-            = QDir(m_servidor->carpeta()).entryList({u"OstrMod.mdb.*"_qs}, QDir::Files);
+            = QDir(m_servidor->carpeta()).entryList({u"OstrMod.mdb.*"_s}, QDir::Files);
         const bool apartado = caso == u"random" || caso == u"newer";
         QCOMPARE(apartados.size(), apartado ? 1 : 0);
         if (apartado)
@@ -222,7 +223,7 @@ private Q_SLOTS:
     void copiasAnteriores()
     {
         for (int i = 0; i < 7; ++i) {
-            m_servidor->alta(u"D%1"_qs.arg(i), u"N"_qs);
+            m_servidor->alta(u"D%1"_s.arg(i), u"N"_s);
             copiador(true)->CrearBackup();
         }
         const QDir copias(copiasCarpeta());
@@ -232,10 +233,10 @@ private Q_SLOTS:
                 .execAndGet("SELECT count(*) FROM DECLARANTES")
                 .getInt();
         };
-        QCOMPARE(cuantos(u"OstrMod_bak.mdb"_qs), 8);
-        QCOMPARE(cuantos(u"OstrMod_bak.5.mdb"_qs), 3);
+        QCOMPARE(cuantos(u"OstrMod_bak.mdb"_s), 8);
+        QCOMPARE(cuantos(u"OstrMod_bak.5.mdb"_s), 3);
         // a bad copy is not restored
-        escribir(copias.filePath(u"OstrMod_bak.mdb"_qs), QByteArray(5000, 'x'));
+        escribir(copias.filePath(u"OstrMod_bak.mdb"_s), QByteArray(5000, 'x'));
         const QByteArray antes = bytes(m_servidor->modelo());
         QCOMPARE(falloDe([&] { copiador(false)->CrearRestore(); }), Fallo::Danada);
         QCOMPARE(bytes(m_servidor->modelo()), antes);
@@ -276,23 +277,23 @@ private:
 
     QString copiasCarpeta() const
     {
-        return QFileInfo(m_servidor->carpeta()).path() + u"/backups"_qs;
+        return QFileInfo(m_servidor->carpeta()).path() + u"/backups"_s;
     }
 
     std::unique_ptr<SvrKtComunLib::cSaveAsRestore> copiador(bool copia) const
     {
         const QString tablas = m_servidor->carpeta() + u'/';
         const QString copias = copiasCarpeta() + u'/';
-        const QString modelo = u"OstrMod.mdb"_qs;
-        const QString guardado = u"OstrMod_bak.mdb"_qs;
+        const QString modelo = u"OstrMod.mdb"_s;
+        const QString guardado = u"OstrMod_bak.mdb"_s;
         auto objeto = servicio::crear<SvrKtComunLib::cSaveAsRestore>();
         objeto->ArchivoOrigen(copia ? modelo : guardado);
         objeto->ArchivoDestino(copia ? guardado : modelo);
         objeto->RutaOrigen(copia ? tablas : copias);
         objeto->RutaDestino(copia ? copias : tablas);
         objeto->BDLectura(m_servidor->consulta());
-        objeto->BDTabla(u"T08_GENERAL"_qs);
-        objeto->BDCampo(u"T08_BACKUP_TVC"_qs);
+        objeto->BDTabla(u"T08_GENERAL"_s);
+        objeto->BDCampo(u"T08_BACKUP_TVC"_s);
         return objeto;
     }
 

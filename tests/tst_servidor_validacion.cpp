@@ -3,6 +3,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 class TstServidorValidacion : public QObject
 {
     Q_OBJECT
@@ -24,7 +26,7 @@ private Q_SLOTS:
     // Which of all control characters each prefix takes, worked out in another way.
     void nifTodosLosPrefijos()
     {
-        const QString controles = u"0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ"_qs;
+        const QString controles = u"0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ"_s;
         for (const QChar prefijo : controles)
             for (const int numero : {0, 1, 1234567, 5881850, 7000003, 9999999}) {
                 const QString cifras = QString::number(numero).rightJustified(7, u'0');
@@ -90,8 +92,8 @@ private Q_SLOTS:
         }
         QCOMPARE(objeto->ValidarDatosDeclarante(datos), 0);
         // outside the home province there is no code of a municipality
-        datos[RegValidacion::CODPROV] = u"01"_qs;
-        datos[RegValidacion::CODPOS] = u"01001"_qs;
+        datos[RegValidacion::CODPROV] = u"01"_s;
+        datos[RegValidacion::CODPOS] = u"01001"_s;
         datos[RegValidacion::CODMUN] = QString();
         QCOMPARE(objeto->ValidarDatosDeclarante(datos), 0);
     }
@@ -99,17 +101,17 @@ private Q_SLOTS:
     void importar()
     {
         using namespace RegDeclarante;
-        Registro registro = ServidorPrueba::registro(u"12345678z"_qs, u"  ana    "_qs);
-        registro[NUMERO] = u"00012"_qs;
-        registro[TELEFONO] = u"         "_qs;
+        Registro registro = ServidorPrueba::registro(u"12345678z"_s, u"  ana    "_s);
+        registro[NUMERO] = u"00012"_s;
+        registro[TELEFONO] = u"         "_s;
         const auto objeto = m_servidor.declarantes();
         QVERIFY(objeto->ValidarDatosImportar(registro, 10000).isEmpty());
-        registro[VIA] = u"##"_qs;
-        registro[CODMUN] = u"999"_qs;
+        registro[VIA] = u"##"_s;
+        registro[CODMUN] = u"999"_s;
         QCOMPARE(columna(objeto->ValidarDatosImportar(registro, 10000), 0).size(), 2);
-        registro[CODMUN] = u"001"_qs;
+        registro[CODMUN] = u"001"_s;
         QCOMPARE(columna(objeto->ValidarDatosImportar(registro, 10000), 0),
-                 QVariantList{u"Ez dago horrelako bide motarik"_qs});
+                 QVariantList{u"Ez dago horrelako bide motarik"_s});
     }
 
     void cabecera_data()
@@ -118,10 +120,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("periodo");
         QTest::addColumn<QString>("modelo");
         QTest::addColumn<int>("codigo");
-        const auto m430 = u"430"_qs;
+        const auto m430 = u"430"_s;
         QTest::newRow("valid") << 2026 << 1 << m430 << 0;
         QTest::newRow("first month") << 2002 << 3 << m430 << 0;
-        QTest::newRow("annual") << 2026 << 12 << u"480"_qs << 0;
+        QTest::newRow("annual") << 2026 << 12 << u"480"_s << 0;
         QTest::newRow("last month") << 2030 << 10 << m430 << 0;
         QTest::newRow("no exercise") << 0 << 0 << QString() << 1;
         QTest::newRow("no period") << 2026 << 0 << QString() << 2;
@@ -146,7 +148,7 @@ private Q_SLOTS:
     void figuras()
     {
         const auto objeto = servicio::crear<SvrOstr::cDeclaracion>();
-        const QString marca = u"X"_qs;
+        const QString marca = u"X"_s;
         QCOMPARE(objeto->ValidarDatos430({QString(), 1.0, 0.0, 0.0}), 0);
         QCOMPARE(objeto->ValidarDatos430({marca, 1.0, 0.0, 0.0}), 1);
         QCOMPARE(objeto->ValidarDatos430({marca, 1.0, -5.0, 0.0}), 2);
@@ -158,22 +160,22 @@ private Q_SLOTS:
 private:
     static Registro validacion()
     {
-        return {u"12345678Z"_qs, u"ANA"_qs, u"MAYOR"_qs,  u"20"_qs,
-                u"20123"_qs,     u"001"_qs, u"PUEBLO"_qs, u"943123456"_qs};
+        return {u"12345678Z"_s, u"ANA"_s, u"MAYOR"_s,  u"20"_s,
+                u"20123"_s,     u"001"_s, u"PUEBLO"_s, u"943123456"_s};
     }
 
     static QString esperados(QChar prefijo, const QString &cifras)
     {
         static const std::array doble{0, 2, 4, 6, 8, 1, 3, 5, 7, 9};
-        const QString personas = u"0123456789KLMXYZ"_qs;
+        const QString personas = u"0123456789KLMXYZ"_s;
         if (personas.contains(prefijo)) {
             const qsizetype cabeza = prefijo.isDigit()
                 ? prefijo.digitValue()
-                : qMax<qsizetype>(0, u"XYZ"_qs.indexOf(prefijo));
+                : qMax<qsizetype>(0, u"XYZ"_s.indexOf(prefijo));
             // 10^7 leaves 14 when divided by 23.
-            return u"TRWAGMYFPDXBNJZSQVHLCKE"_qs.at((14 * cabeza + cifras.toInt()) % 23);
+            return u"TRWAGMYFPDXBNJZSQVHLCKE"_s.at((14 * cabeza + cifras.toInt()) % 23);
         }
-        if (u"IOT"_qs.contains(prefijo))
+        if (u"IOT"_s.contains(prefijo))
             return {};
         int suma = 0;
         for (int i = 0; i < 7; ++i) {
@@ -182,10 +184,10 @@ private:
         }
         const int control = (100 - suma) % 10;
         const QString cifra = QString::number(control);
-        const QString letra(u"JABCDEFGHI"_qs.at(control));
-        return u"ABEH"_qs.contains(prefijo)  ? cifra
-            : u"NPQRSW"_qs.contains(prefijo) ? letra
-                                             : cifra + letra;
+        const QString letra(u"JABCDEFGHI"_s.at(control));
+        return u"ABEH"_s.contains(prefijo)  ? cifra
+            : u"NPQRSW"_s.contains(prefijo) ? letra
+                                            : cifra + letra;
     }
 
     ServidorPrueba m_servidor;

@@ -9,9 +9,11 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 static QSet<QString> huecos(const QString &texto)
 {
-    static const QRegularExpression hueco(u"%[0-9]"_qs);
+    static const QRegularExpression hueco(u"%[0-9]"_s);
     QSet<QString> hallados;
     for (auto i = hueco.globalMatch(texto); i.hasNext();)
         hallados.insert(i.next().captured());
@@ -63,14 +65,14 @@ private Q_SLOTS:
             QVERIFY2(huecos(mensaje.castellano) == huecos(mensaje.euskera),
                      qPrintable(mensaje.nombre));
         // a value that looks like a placeholder stays as it is
-        QCOMPARE(msj(Msj::CliDeclaranteAlta, u"%2"_qs, u"X"_qs),
-                 u"Declarante dado de alta: %2 - X"_qs);
+        QCOMPARE(msj(Msj::CliDeclaranteAlta, u"%2"_s, u"X"_s),
+                 u"Declarante dado de alta: %2 - X"_s);
     }
 
     /// Qt's own texts: English, Castilian, Basque, the same placeholders in all.
     void textosDeQt()
     {
-        QFile fichero(u":/textos/textos_qt.txt"_qs);
+        QFile fichero(u":/textos/textos_qt.txt"_s);
         QVERIFY(fichero.open(QIODevice::ReadOnly));
         QSet<QString> vistos;
         const QStringList lineas
@@ -86,21 +88,21 @@ private Q_SLOTS:
             QVERIFY2(!vistos.contains(campos[0]), qPrintable(linea));
             vistos.insert(campos[0]);
         }
-        QVERIFY(vistos.contains(u"File &name:"_qs));
+        QVERIFY(vistos.contains(u"File &name:"_s));
     }
 
     void idiomas()
     {
         QCOMPARE(msj(Msj::ErrorDni),
-                 u"El campo DNI-CIF es erróneo o carece de dígito de control."_qs);
-        QCOMPARE(msjDesde(Msj::ErrorDni, 1), u"La casilla Razón Social debe tener algún valor"_qs);
+                 u"El campo DNI-CIF es erróneo o carece de dígito de control."_s);
+        QCOMPARE(msjDesde(Msj::ErrorDni, 1), u"La casilla Razón Social debe tener algún valor"_s);
         QCOMPARE(msj(Msj::ErrorTotal480), mensajeNumero(272));
         fijarDesplazamientoIdioma(10000);
-        QCOMPARE(elegir(u"sí"_qs, u"bai"_qs), u"bai"_qs);
-        QCOMPARE(msj(Msj::ErrorDni), u"NA-IFK eremua okerra da edo ez du kontrol digiturik"_qs);
-        QCOMPARE(msj(Msj::RamoVida), u"Bizi aseguruak"_qs);
-        QCOMPARE(palabraPeriodicidad(PeriodicidadAnual), u"URTEKOA"_qs);
-        QCOMPARE(textoPeriodo(PeriodicidadMensual, 2), u"OTSAILA"_qs);
+        QCOMPARE(elegir(u"sí"_s, u"bai"_s), u"bai"_s);
+        QCOMPARE(msj(Msj::ErrorDni), u"NA-IFK eremua okerra da edo ez du kontrol digiturik"_s);
+        QCOMPARE(msj(Msj::RamoVida), u"Bizi aseguruak"_s);
+        QCOMPARE(palabraPeriodicidad(PeriodicidadAnual), u"URTEKOA"_s);
+        QCOMPARE(textoPeriodo(PeriodicidadMensual, 2), u"OTSAILA"_s);
     }
 
     void meses()
@@ -115,10 +117,10 @@ private Q_SLOTS:
         }
         QCOMPARE(castellano.join(u' '),
                  u"ENERO FEBRERO MARZO ABRIL MAYO JUNIO JULIO AGOSTO SEPTIEMBRE OCTUBRE NOVIEMBRE "
-                 u"DICIEMBRE"_qs);
+                 u"DICIEMBRE"_s);
         QCOMPARE(euskera.join(u' '),
                  u"URTARRILA OTSAILA MARTXOA APIRILA MAIATZA EKAINA UZTAILA ABUZTUA IRAILA URRIA "
-                 u"AZAROA ABENDUA"_qs);
+                 u"AZAROA ABENDUA"_s);
         QCOMPARE(nombreMes(0) + nombreMes(13) + nombreMes(-1), QString());
         QCOMPARE(palabraPeriodicidad(PeriodicidadMensual), QString());
     }

@@ -5,11 +5,13 @@
 #include <QPainter>
 #include <QStyleOption>
 
+using namespace Qt::StringLiterals;
+
 static constexpr QRgb Activa = 0xff1f5f93;
 static constexpr QRgb Peligro = 0xffc8453b;
 
 Estilo::Estilo()
-    : QProxyStyle(QStringLiteral("Fusion"))
+    : QProxyStyle(u"Fusion"_s)
 {
 }
 

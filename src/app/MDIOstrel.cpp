@@ -18,13 +18,15 @@
 #include <QMenu>
 #include <QStatusBar>
 
+using namespace Qt::StringLiterals;
+
 MDIOstrel::MDIOstrel(QWidget *padre)
     : QMainWindow(padre)
     , m_mandos(new Mandos(this))
     , m_recientes(new Recientes(m_mandos->menu(0)))
     , m_version(new QLabel(this))
 {
-    setObjectName(QStringLiteral("MDIOstrel"));
+    setObjectName(u"MDIOstrel"_s);
     setWindowIcon(icono(Icono::Programa));
     setContextMenuPolicy(Qt::NoContextMenu);
     auto *area = new FondoMdi(this);
@@ -98,9 +100,9 @@ void MDIOstrel::atender(Mando mando)
     case Mando::Nuevo:
         return nuevoDeclarante();
     case Mando::Abrir:
-        return listaDeclarantes(u"C"_qs);
+        return listaDeclarantes(u"C"_s);
     case Mando::Eliminar:
-        return listaDeclarantes(u"E"_qs);
+        return listaDeclarantes(u"E"_s);
     case Mando::AcercaDe:
         return (new frmAbout(this))->open();
     case Mando::Salir:
@@ -113,7 +115,7 @@ void MDIOstrel::atender(Mando mando)
 
 void MDIOstrel::nuevoDeclarante()
 {
-    unico::la<cDecDatos>().MODO(u"A"_qs);
+    unico::la<cDecDatos>().MODO(u"A"_s);
     m_pantallas->abrir(Pantalla::DatosDeclarante);
 }
 
@@ -132,7 +134,7 @@ void MDIOstrel::listaDeclarantes(const QString &modo)
 void MDIOstrel::verReciente(qint32 csco, const QString &dni, const QString &nombre)
 {
     auto &resumen = unico::la<cDecResumen>();
-    resumen.ENTRADA(u"A"_qs);
+    resumen.ENTRADA(u"A"_s);
     resumen.TomarDeclarante(csco, dni, nombre);
     m_pantallas->abrir(Pantalla::Resumen);
 }

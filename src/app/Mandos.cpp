@@ -6,6 +6,8 @@
 #include <QMenuBar>
 #include <QToolBar>
 
+using namespace Qt::StringLiterals;
+
 static QString nombreDe(const char *nombre)
 {
     return QString::fromLatin1(nombre);
@@ -61,7 +63,7 @@ void Mandos::crearMenus(QMainWindow *ventana)
 void Mandos::crearBarra(QMainWindow *ventana)
 {
     m_barra = ventana->addToolBar(QString());
-    m_barra->setObjectName(QStringLiteral("barra"));
+    m_barra->setObjectName(u"barra"_s);
     m_barra->setMovable(false);
     m_barra->setContextMenuPolicy(Qt::PreventContextMenu);
     m_barra->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);

@@ -6,10 +6,12 @@
 #include <QEvent>
 #include <QMenu>
 
+using namespace Qt::StringLiterals;
+
 MarcoInterior::MarcoInterior(QWidget *pantalla)
 {
     setWidget(pantalla);
-    setObjectName(u"marco_"_qs + pantalla->objectName());
+    setObjectName(u"marco_"_s + pantalla->objectName());
     setAttribute(Qt::WA_DeleteOnClose);
     if (pantalla->windowIcon().isNull() || !pantalla->testAttribute(Qt::WA_SetWindowIcon))
         setWindowIcon(icono(Icono::Programa));

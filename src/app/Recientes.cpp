@@ -6,6 +6,8 @@
 #include <QAction>
 #include <QMenu>
 
+using namespace Qt::StringLiterals;
+
 static constexpr int Cuantos = 4;
 
 static Filas ultimosDeclarantes()
@@ -26,7 +28,7 @@ Recientes::Recientes(QMenu *menu)
     menu->addSeparator();
     for (int i = 1; i <= Cuantos; ++i) {
         auto *entrada = menu->addAction(icono(Icono::Declarante), QString());
-        entrada->setObjectName(QStringLiteral("d%1").arg(i));
+        entrada->setObjectName(u"d%1"_s.arg(i));
         entrada->setVisible(false);
         connect(entrada, &QAction::triggered, this, [this, entrada] {
             const auto fila = entrada->data().toList();
@@ -44,10 +46,10 @@ void Recientes::cargar()
     for (qsizetype i = 0; i < m_entradas.size(); ++i) {
         const auto fila = filas.value(i).toList();
         auto *entrada = m_entradas.at(i);
-        QString texto = fila.value(FilaReciente::DNI).toString() + u" - "_qs
+        QString texto = fila.value(FilaReciente::DNI).toString() + u" - "_s
             + fila.value(FilaReciente::NOMBRE).toString();
         entrada->setVisible(!fila.isEmpty());
-        entrada->setText(fila.isEmpty() ? QString() : texto.replace(u'&', u"&&"_qs));
+        entrada->setText(fila.isEmpty() ? QString() : texto.replace(u'&', u"&&"_s));
         entrada->setData(fila);
     }
 }

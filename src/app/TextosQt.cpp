@@ -4,9 +4,11 @@
 
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 TextosQt::TextosQt()
 {
-    QFile fichero(u":/textos/textos_qt.txt"_qs);
+    QFile fichero(u":/textos/textos_qt.txt"_s);
     if (!fichero.open(QIODevice::ReadOnly))
         return;
     for (const QByteArray &linea : fichero.readAll().replace("\\n", "\v").split('\n')) {

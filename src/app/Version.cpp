@@ -1,5 +1,7 @@
 #include "app/Version.h"
 
+using namespace Qt::StringLiterals;
+
 QString versionPrograma()
 {
     return QStringLiteral(OSTREL_VERSION);
@@ -7,5 +9,5 @@ QString versionPrograma()
 
 QString versionCompleta()
 {
-    return versionPrograma() + u".0"_qs;
+    return versionPrograma() + u".0"_s;
 }

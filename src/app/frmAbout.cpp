@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 static QLabel *etiqueta(QWidget *padre, const char *nombre)
 {
     auto *nueva = new QLabel(padre);
@@ -25,9 +27,9 @@ frmAbout::frmAbout(QWidget *padre)
     , m_lblDiputacion(etiqueta(this, "lblDiputacion"))
     , m_cmdAceptar(new QPushButton(this))
 {
-    setObjectName(QStringLiteral("frmAbout"));
+    setObjectName(u"frmAbout"_s);
     setAttribute(Qt::WA_DeleteOnClose);
-    m_cmdAceptar->setObjectName(QStringLiteral("cmdAceptar"));
+    m_cmdAceptar->setObjectName(u"cmdAceptar"_s);
     m_cmdAceptar->setDefault(true);
     connect(m_cmdAceptar, &QPushButton::clicked, this, &QDialog::accept);
 

@@ -15,6 +15,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 static constexpr QSize Tamano(540, 300);
 static constexpr QRgb Arriba = 0xff1b4f80;
 static constexpr QRgb Abajo = 0xff0f2c4d;
@@ -39,7 +41,7 @@ frmInicio::frmInicio()
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint)
     , m_lblAct(rotulo(this, "lblAct", 1, QColor(0xff, 0xd9, 0x7a)))
 {
-    setObjectName(QStringLiteral("frmInicio"));
+    setObjectName(u"frmInicio"_s);
     setWindowTitle(msj(Msj::TituloPrograma));
     setWindowIcon(icono(Icono::Programa));
     setFixedSize(Tamano);

@@ -5,10 +5,12 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 static QString conValor(const Opcion &opcion)
 {
     if (opcion.nombre == Comun::Ayuda)
-        return u"-h, --help"_qs;
+        return u"-h, --help"_s;
     const QString nombre = conGuiones(opcion.nombre);
     return opcion.valor.isEmpty() ? nombre : nombre + u' ' + opcion.valor.toString();
 }
@@ -18,11 +20,11 @@ static QString plegar(const QStringList &partes)
 {
     static constexpr qsizetype Ancho = 79;
     QString texto;
-    QString linea = u" "_qs;
+    QString linea = u" "_s;
     for (const QString &parte : partes) {
         if (linea.size() + 1 + parte.size() > Ancho) {
             texto += linea + u'\n';
-            linea = u"        "_qs;
+            linea = u"        "_s;
         }
         linea += u' ' + parte;
     }
@@ -31,7 +33,7 @@ static QString plegar(const QStringList &partes)
 
 static QString usoDe(const Orden &orden)
 {
-    QStringList partes{u"ostrel"_qs, orden.palabras.toString()};
+    QStringList partes{u"ostrel"_s, orden.palabras.toString()};
     if (!orden.argumento.isEmpty())
         partes += orden.argumento.toString();
     for (const Opcion &opcion : orden.opciones) {
@@ -39,7 +41,7 @@ static QString usoDe(const Orden &orden)
         if (opcion.uso == Opcion::Obligatoria)
             partes += texto;
         else
-            partes += u'[' + texto + (opcion.uso == Opcion::Repetible ? u" …]"_qs : u"]"_qs);
+            partes += u'[' + texto + (opcion.uso == Opcion::Repetible ? u" …]"_s : u"]"_s);
     }
     return plegar(partes);
 }
@@ -48,7 +50,7 @@ static QStringList lineasOpciones(std::span<const Opcion> opciones, qsizetype an
 {
     QStringList lineas;
     for (const Opcion &opcion : opciones)
-        lineas += u"  "_qs + conValor(opcion).leftJustified(ancho + 2) + msj(opcion.ayuda);
+        lineas += u"  "_s + conValor(opcion).leftJustified(ancho + 2) + msj(opcion.ayuda);
     return lineas;
 }
 
@@ -74,11 +76,11 @@ static QString ayudaGeneral(const QStringList &palabras)
     const QString comienzo = palabras.join(u' ');
     const bool alguna = std::ranges::any_of(
         ordenes(), [&](const Orden *orden) { return orden->palabras.startsWith(comienzo); });
-    QStringList lineas{msj(Msj::CliUso), u"  ostrel [--carpeta DIR]"_qs,
-                       u"      "_qs + msj(Msj::CliAyudaVentana)};
+    QStringList lineas{msj(Msj::CliUso), u"  ostrel [--carpeta DIR]"_s,
+                       u"      "_s + msj(Msj::CliAyudaVentana)};
     for (const Orden *orden : ordenes())
         if (!alguna || orden->palabras.startsWith(comienzo))
-            lineas += {usoDe(*orden), u"      "_qs + msj(orden->ayuda)};
+            lineas += {usoDe(*orden), u"      "_s + msj(orden->ayuda)};
     lineas += QString();
     lineas += lineasOpciones(opcionesComunes(), anchoOpciones(opcionesComunes()));
     return lineas.join(u'\n');

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 /// An option, the width that it may have and where it goes; those that depend on a table have no
 /// place of their own.
 struct CampoAlta
@@ -112,7 +114,7 @@ static Rechazo tomarMunicipio(const QString &codigo, const QString &nombre)
 
 Rechazo tomarDatosAlta(const Argumentos &argumentos)
 {
-    unico::la<cDecDatos>().MODO(u"A"_qs);
+    unico::la<cDecDatos>().MODO(u"A"_s);
     for (const CampoAlta &campo : Campos)
         if (auto fallo = tomarTexto(campo, texto(argumentos, campo.opcion)))
             return fallo;

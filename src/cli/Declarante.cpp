@@ -5,13 +5,15 @@
 #include "declarants/cDecDatos.h"
 #include "declarants/cDecResumen.h"
 
+using namespace Qt::StringLiterals;
+
 QString tomarDeclarante(const QString &dni)
 {
     auto &declarante = unico::la<cDecDatos>();
     const qint32 csco = declarante.ObtenerCodigoDeclarante(dni.trimmed().toUpper());
     if (csco == 0)
         return msj(Msj::CliDeclaranteNoExiste, dni);
-    declarante.MODO(u"C"_qs);
+    declarante.MODO(u"C"_s);
     declarante.CSCO(csco);
     declarante.CargarDeclarante(csco);
     unico::la<cDecResumen>().TomarDeclarante(csco, declarante.DNI(), declarante.NOMBRE());

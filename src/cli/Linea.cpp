@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 static void agregar(QCommandLineParser &lector, QSet<QString> &puestas,
                     std::span<const Opcion> opciones)
 {
@@ -17,7 +19,7 @@ static void agregar(QCommandLineParser &lector, QSet<QString> &puestas,
         puestas.insert(nombre);
         QStringList nombres{nombre};
         if (opcion.nombre == Comun::Ayuda)
-            nombres.append(u"h"_qs);
+            nombres.append(u"h"_s);
         lector.addOption({nombres, {}, opcion.valor.toString()});
     }
 }

@@ -6,6 +6,8 @@
 #include <Msj.h>
 #include <span>
 
+using namespace Qt::StringLiterals;
+
 /// Process exit codes.
 enum class Salida { Hecho = 0, Rechazado = 1, MalUso = 2 };
 
@@ -70,5 +72,5 @@ inline Resultado malUso(const QString &motivo)
 /// "--nombre", as messages name an option.
 inline QString conGuiones(QStringView opcion)
 {
-    return u"--"_qs + opcion.toString();
+    return u"--"_s + opcion.toString();
 }

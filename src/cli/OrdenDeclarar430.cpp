@@ -5,6 +5,8 @@
 #include "declarations/Cambio.h"
 #include "declarations/cDatos430.h"
 
+using namespace Qt::StringLiterals;
+
 /// The option of each box and the total that it goes into.
 struct Casilla430
 {
@@ -40,7 +42,7 @@ static Resultado declarar430(const Argumentos &argumentos)
         return *fallo;
 
     auto &registro = unico::la<cDatos430>();
-    registro.MODO(u"A"_qs);
+    registro.MODO(u"A"_s);
     registro.MarcarRectificacion(argumentos.tiene(BaseRectificacion)
                                  || argumentos.tiene(CuotaRectificacion));
     for (const Casilla430 &casilla : Casillas) {

@@ -8,10 +8,12 @@
 #include <QRegularExpression>
 #include <QSet>
 
+using namespace Qt::StringLiterals;
+
 /// Takes "NN=IMPORTE" into the record: null, or what to answer.
 static std::optional<Resultado> tomar(const QString &texto, QSet<int> &dadas)
 {
-    static const QRegularExpression forma(u"^([0-9]{1,3})=(.*)$"_qs);
+    static const QRegularExpression forma(u"^([0-9]{1,3})=(.*)$"_s);
     const auto partes = forma.match(texto);
     if (!partes.hasMatch())
         return malUso(msj(Msj::CliValorNoValido, conGuiones(u"casilla"), texto));
@@ -47,7 +49,7 @@ static Resultado declarar480(const Argumentos &argumentos)
         return *fallo;
 
     auto &registro = unico::la<cDatos480>();
-    registro.MODO(u"A"_qs);
+    registro.MODO(u"A"_s);
     QSet<int> dadas;
     for (const QString &texto : argumentos.valores(u"casilla"))
         if (auto fallo = tomar(texto, dadas))

@@ -3,6 +3,8 @@
 #include "core/Textos.h"
 #include "core/Unico.h"
 
+using namespace Qt::StringLiterals;
+
 static Resultado idioma(const Argumentos &argumentos)
 {
     auto &entrada = unico::la<CEntrada>();
@@ -14,7 +16,7 @@ static Resultado idioma(const Argumentos &argumentos)
     const bool euskera = entrada.IDI() == u"E";
     const QString nombre
         = msj(euskera ? Msj::EleccionIdiomaEuskera : Msj::EleccionIdiomaCastellano);
-    return hecho(msj(Msj::CliIdioma, u"%1 (%2)"_qs.arg(euskera ? u"E"_qs : u"C"_qs, nombre)));
+    return hecho(msj(Msj::CliIdioma, u"%1 (%2)"_s.arg(euskera ? u"E"_s : u"C"_s, nombre)));
 }
 
 extern constinit const Orden OrdenIdioma = {

@@ -17,6 +17,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 /// Why the command is refused; nothing when it can go on.
 using Rechazo = std::optional<Resultado>;
 
@@ -77,8 +79,8 @@ static Rechazo tomarCopias(const Argumentos &argumentos)
     if (!argumentos.tiene(u"copias"))
         return {};
     QStringList pedidas = argumentos.valor(u"copias").split(u',');
-    peticion.COPIAADM(pedidas.removeAll(u"adm"_qs) > 0 ? u"X"_qs : QString());
-    peticion.COPIAINT(pedidas.removeAll(u"int"_qs) > 0 ? u"X"_qs : QString());
+    peticion.COPIAADM(pedidas.removeAll(u"adm"_s) > 0 ? u"X"_s : QString());
+    peticion.COPIAINT(pedidas.removeAll(u"int"_s) > 0 ? u"X"_s : QString());
     if (pedidas.isEmpty())
         return {};
     return malUso(msj(Msj::CliCopias));
@@ -136,7 +138,7 @@ static Resultado imprimir(const Argumentos &argumentos)
     if (resultado.salida == Salida::Hecho && argumentos.tiene(u"imprimir-en")) {
         const Resultado enviado = enviar(trabajo, argumentos.valor(u"imprimir-en"));
         resultado.salida = enviado.salida;
-        resultado.texto += (resultado.texto.isEmpty() ? QString() : u"\n"_qs) + enviado.texto;
+        resultado.texto += (resultado.texto.isEmpty() ? QString() : u"\n"_s) + enviado.texto;
     }
     return resultado;
 }

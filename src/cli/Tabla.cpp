@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 static QString alinear(std::span<const Columna> columnas, const QList<qsizetype> &anchos,
                        const QStringList &celdas)
 {
@@ -13,7 +15,7 @@ static QString alinear(std::span<const Columna> columnas, const QList<qsizetype>
     for (qsizetype i = 0; i < celdas.size(); ++i)
         partes += columnas[static_cast<size_t>(i)].numerica ? celdas[i].rightJustified(anchos[i])
                                                             : celdas[i].leftJustified(anchos[i]);
-    QString linea = partes.join(u"  "_qs);
+    QString linea = partes.join(u"  "_s);
     while (linea.endsWith(u' '))
         linea.chop(1);
     return linea;

@@ -5,6 +5,8 @@
 #include "core/Unico.h"
 #include "core/cFecha.h"
 
+using namespace Qt::StringLiterals;
+
 void CEntrada::IDI(const QString &codigo)
 {
     ModificarIdioma(codigo);
@@ -15,7 +17,7 @@ void CEntrada::IDI(const QString &codigo)
 void CEntrada::AplicarIdioma() const
 {
     fijarDesplazamientoIdioma(m_idi == u"E" ? 10000 : 0);
-    unico::la<cFecha>().fecidioma(m_idi.isEmpty() ? u"C"_qs : m_idi);
+    unico::la<cFecha>().fecidioma(m_idi.isEmpty() ? u"C"_s : m_idi);
 }
 
 void CEntrada::InicializarContadores()

@@ -2,6 +2,8 @@
 
 #include "core/Textos.h"
 
+using namespace Qt::StringLiterals;
+
 static constexpr QStringView Meses[12][2] = {
     {u"ENERO", u"URTARRILA"}, {u"FEBRERO", u"OTSAILA"},  {u"MARZO", u"MARTXOA"},
     {u"ABRIL", u"APIRILA"},   {u"MAYO", u"MAIATZA"},     {u"JUNIO", u"EKAINA"},
@@ -18,7 +20,7 @@ QString nombreMes(int mes)
 
 QString palabraPeriodicidad(int periodicidad)
 {
-    return periodicidad == PeriodicidadAnual ? elegir(u"ANUAL"_qs, u"URTEKOA"_qs) : QString();
+    return periodicidad == PeriodicidadAnual ? elegir(u"ANUAL"_s, u"URTEKOA"_s) : QString();
 }
 
 QString textoPeriodo(int periodicidad, int periodo)

@@ -2,6 +2,8 @@
 
 #include <QDir>
 
+using namespace Qt::StringLiterals;
+
 static Rutas &sesion()
 {
     static Rutas actuales;
@@ -15,9 +17,9 @@ Rutas Rutas::desde(const QString &carpetaPrograma)
     const auto cliente = r.programa.indexOf(u"cliente", 0, Qt::CaseInsensitive);
     const QString base
         = cliente < 0 ? r.programa : r.programa.left(qMax<qsizetype>(cliente - 1, 0));
-    r.tablas = base + (base.endsWith(u'/') ? u"Tablas/"_qs : u"/Tablas/"_qs);
-    r.lectura = r.tablas + u"OstrLec.mdb"_qs;
-    r.modelo = r.tablas + u"OstrMod.mdb"_qs;
+    r.tablas = base + (base.endsWith(u'/') ? u"Tablas/"_s : u"/Tablas/"_s);
+    r.lectura = r.tablas + u"OstrLec.mdb"_s;
+    r.modelo = r.tablas + u"OstrMod.mdb"_s;
     return r;
 }
 

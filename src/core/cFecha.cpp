@@ -3,19 +3,21 @@
 #include <QDate>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 QString cFecha::FecVacia() const
 {
-    return castellano() ? u"__/__/____"_qs : u"____/__/__"_qs;
+    return castellano() ? u"__/__/____"_s : u"____/__/__"_s;
 }
 
 QString cFecha::Mascara() const
 {
-    return castellano() ? u"99/99/9999;_"_qs : u"9999/99/99;_"_qs;
+    return castellano() ? u"99/99/9999;_"_s : u"9999/99/99;_"_s;
 }
 
 QString cFecha::Formato() const
 {
-    return castellano() ? u"dd/MM/yyyy"_qs : u"yyyy/MM/dd"_qs;
+    return castellano() ? u"dd/MM/yyyy"_s : u"yyyy/MM/dd"_s;
 }
 
 int cFecha::miYear() const
@@ -30,8 +32,8 @@ bool cFecha::EsFecha(const QString &texto) const
 
 qint32 cFecha::StringToLong(const QString &texto) const
 {
-    static const QRegularExpression diaPrimero(u"^(?<d>\\d{1,2})/(?<m>\\d{1,2})/(?<a>\\d{4})$"_qs);
-    static const QRegularExpression annoPrimero(u"^(?<a>\\d{4})/(?<m>\\d{1,2})/(?<d>\\d{1,2})$"_qs);
+    static const QRegularExpression diaPrimero(u"^(?<d>\\d{1,2})/(?<m>\\d{1,2})/(?<a>\\d{4})$"_s);
+    static const QRegularExpression annoPrimero(u"^(?<a>\\d{4})/(?<m>\\d{1,2})/(?<d>\\d{1,2})$"_s);
     const auto partes = (castellano() ? diaPrimero : annoPrimero).match(texto);
     const QDate fecha(partes.captured(u"a").toInt(), partes.captured(u"m").toInt(),
                       partes.captured(u"d").toInt());

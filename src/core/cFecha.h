@@ -2,6 +2,8 @@
 
 #include <QString>
 
+using namespace Qt::StringLiterals;
+
 /// Dates as text and as whole numbers yyyymmdd. The order is dd/mm/yyyy when `fecidioma` is "C" and
 /// yyyy/mm/dd for any other code.
 class cFecha
@@ -26,5 +28,5 @@ public:
 private:
     bool castellano() const { return m_idioma == u"C"; }
 
-    QString m_idioma = u"C"_qs;
+    QString m_idioma = u"C"_s;
 };

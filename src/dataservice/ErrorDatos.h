@@ -4,6 +4,8 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 /// What can go wrong with a database file or a stored row. The text for the user is chosen by
 /// whoever shows it, in the language of the session.
 enum class Fallo {
@@ -25,7 +27,7 @@ class ErrorDatos : public std::runtime_error
 public:
     /// `objeto`: the file's path, or what was not found. `detalle`: technical, English.
     ErrorDatos(Fallo fallo, const QString &objeto, const QString &detalle = {})
-        : std::runtime_error((objeto + u": "_qs + detalle).toStdString())
+        : std::runtime_error((objeto + u": "_s + detalle).toStdString())
         , m_fallo(fallo)
         , m_objeto(objeto)
     {

@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 using namespace campos;
 
 static constexpr int Separacion = 16;
@@ -16,11 +18,11 @@ static constexpr int Separacion = 16;
 FichaDeclarante::FichaDeclarante(QWidget *padre)
     : QFrame(padre)
 {
-    setObjectName(u"fraDatos"_qs);
+    setObjectName(u"fraDatos"_s);
     crearCajas();
-    m_cmdVia = crearBoton(u"cmdVia"_qs);
-    m_cmdProvincia = crearBoton(u"cmdProvincia"_qs);
-    m_cmdMunicipio = crearBoton(u"cmdMunicipio"_qs);
+    m_cmdVia = crearBoton(u"cmdVia"_s);
+    m_cmdProvincia = crearBoton(u"cmdProvincia"_s);
+    m_cmdMunicipio = crearBoton(u"cmdMunicipio"_s);
     m_identificacion = grupoIdentificacion();
     m_domicilio = grupoDomicilio();
     m_contadores = grupoContadores();
@@ -43,7 +45,7 @@ void FichaDeclarante::crearCajas()
         m_cajas[campo] = new CajaTexto(nombre, definicion.limite, filtro, this);
         if (definicion.conEtiqueta) {
             m_etiquetas[campo] = new QLabel(this);
-            m_etiquetas[campo]->setObjectName(u"lbl"_qs + nombre.mid(3));
+            m_etiquetas[campo]->setObjectName(u"lbl"_s + nombre.mid(3));
             m_etiquetas[campo]->setBuddy(m_cajas[campo]);
         }
     }
@@ -159,7 +161,7 @@ QGroupBox *FichaDeclarante::grupoContadores()
 static void rotular(QPushButton *boton, const QString &texto, Msj pista)
 {
     boton->setText(texto);
-    boton->setToolTip(msj(pista) + u" (F4)"_qs);
+    boton->setToolTip(msj(pista) + u" (F4)"_s);
     boton->setAccessibleName(msj(pista));
 }
 
@@ -172,10 +174,10 @@ void FichaDeclarante::Anadir_captions()
             m_etiquetas[i]->setText(texto);
     }
     m_cajas[VIA]->setAccessibleName(msj(Msj::AccesibleSiglaVia));
-    rotular(m_cmdVia, u"..."_qs, Msj::PistaVia);
+    rotular(m_cmdVia, u"..."_s, Msj::PistaVia);
     rotular(m_cmdProvincia, msj(Msj::BotonProvincia), Msj::PistaProvincia);
     rotular(m_cmdMunicipio, msj(Msj::BotonMunicipio), Msj::PistaMunicipio);
-    m_cmdVia->setFixedWidth(m_cmdVia->fontMetrics().horizontalAdvance(u"....."_qs) + 16);
+    m_cmdVia->setFixedWidth(m_cmdVia->fontMetrics().horizontalAdvance(u"....."_s) + 16);
     const int ancho
         = std::max(m_cmdProvincia->sizeHint().width(), m_cmdMunicipio->sizeHint().width());
     m_cmdProvincia->setFixedWidth(ancho);

@@ -21,6 +21,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 using namespace FilaDeclarante;
 
 static cDecLista &estado()
@@ -43,19 +45,19 @@ static QLabel *etiqueta(const QString &nombre, QWidget *padre)
 }
 
 FrmDecLista::FrmDecLista(QWidget *padre)
-    : PantallaBase(u"FrmDecLista"_qs, padre)
-    , m_lblOrdenar(etiqueta(u"lblOrdenar"_qs, this))
+    : PantallaBase(u"FrmDecLista"_s, padre)
+    , m_lblOrdenar(etiqueta(u"lblOrdenar"_s, this))
     , m_flxDeclarantes(new QTableView(this))
     , m_modelo(new ModeloFilas(this))
     , m_busqueda(new cUtilidadesGrid(m_flxDeclarantes))
-    , m_lblVacio(etiqueta(u"lblVacio"_qs, m_flxDeclarantes->viewport()))
-    , m_lblBusqueda(etiqueta(u"lblBusqueda"_qs, this))
+    , m_lblVacio(etiqueta(u"lblVacio"_s, m_flxDeclarantes->viewport()))
+    , m_lblBusqueda(etiqueta(u"lblBusqueda"_s, this))
     , m_lblNumDecla(new QLabel(this))
-    , m_botones(new BarraBotones(u"fraBotones"_qs, this))
-    , m_cmdAceptar(m_botones->anadir(u"cmdAceptar"_qs, u"PicAce"_qs, Icono::Aceptar))
-    , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_qs, u"Piccan"_qs, Icono::Cancelar))
+    , m_botones(new BarraBotones(u"fraBotones"_s, this))
+    , m_cmdAceptar(m_botones->anadir(u"cmdAceptar"_s, u"PicAce"_s, Icono::Aceptar))
+    , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar))
 {
-    m_lblNumDecla->setObjectName(u"lblNumDecla"_qs);
+    m_lblNumDecla->setObjectName(u"lblNumDecla"_s);
     Anadir_captions();
     prepararGrid();
     crearOrdenes();
@@ -67,7 +69,7 @@ FrmDecLista::FrmDecLista(QWidget *padre)
 
 void FrmDecLista::prepararGrid()
 {
-    m_flxDeclarantes->setObjectName(u"flxDeclarantes"_qs);
+    m_flxDeclarantes->setObjectName(u"flxDeclarantes"_s);
     m_flxDeclarantes->setModel(m_modelo);
     prepararTabla(m_flxDeclarantes);
     for (const int oculta : {CSCO, NUM430, NUM480})
@@ -234,7 +236,7 @@ void FrmDecLista::aceptar()
         return;
     }
     auto &resumen = unico::la<cDecResumen>();
-    resumen.ENTRADA(u"A"_qs);
+    resumen.ENTRADA(u"A"_s);
     resumen.TomarDeclarante(fila.value(CSCO).toInt(), fila.value(DNI).toString(),
                             fila.value(NOMBRE).toString());
     cerrarA(Pantalla::Resumen);

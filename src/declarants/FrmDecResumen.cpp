@@ -17,6 +17,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 using namespace FilaDeclaracion;
 
 static constexpr int ColumnaPeriodoNumero = 7;
@@ -30,23 +32,23 @@ static QLabel *etiqueta(const QString &nombre, QWidget *padre)
 }
 
 FrmDecResumen::FrmDecResumen(QWidget *padre)
-    : PantallaBase(u"FrmDecResumen"_qs, padre)
-    , m_lbldni(etiqueta(u"lbldni"_qs, this))
-    , m_lblnombre(etiqueta(u"lblnombre"_qs, this))
+    : PantallaBase(u"FrmDecResumen"_s, padre)
+    , m_lbldni(etiqueta(u"lbldni"_s, this))
+    , m_lblnombre(etiqueta(u"lblnombre"_s, this))
     , m_nueva(new NuevaDeclaracion(this))
-    , m_imgNueva(crearBoton(u"ImgNueva"_qs))
-    , m_cmdAbandonar(crearBoton(u"cmdAbandonar"_qs))
+    , m_imgNueva(crearBoton(u"ImgNueva"_s))
+    , m_cmdAbandonar(crearBoton(u"cmdAbandonar"_s))
     , m_flxDeclaraciones(new QTableView(this))
     , m_modelo(new ModeloFilas(this))
-    , m_cmdDatos(crearBoton(u"cmdDatos"_qs))
-    , m_cmdImprimir(crearBoton(u"cmdImprimir"_qs))
-    , m_cmdEliminar(crearBoton(u"cmdEliminar"_qs))
-    , m_cmdDeclarante(crearBoton(u"cmdDeclarante"_qs))
-    , m_cmdCerrar(crearBoton(u"cmdCerrar"_qs))
-    , m_lblNumDecla(etiqueta(u"lblNumDecla"_qs, this))
+    , m_cmdDatos(crearBoton(u"cmdDatos"_s))
+    , m_cmdImprimir(crearBoton(u"cmdImprimir"_s))
+    , m_cmdEliminar(crearBoton(u"cmdEliminar"_s))
+    , m_cmdDeclarante(crearBoton(u"cmdDeclarante"_s))
+    , m_cmdCerrar(crearBoton(u"cmdCerrar"_s))
+    , m_lblNumDecla(etiqueta(u"lblNumDecla"_s, this))
 {
     auto &cabecera = unico::la<cDecResumen>();
-    cabecera.MODO(u"L"_qs);
+    cabecera.MODO(u"L"_s);
     if (cabecera.ENTRADA() == u"A")
         cabecera.CSDE(0);
     Anadir_captions();
@@ -78,7 +80,7 @@ void FrmDecResumen::ponerIconos()
 
 void FrmDecResumen::prepararGrid()
 {
-    m_flxDeclaraciones->setObjectName(u"flxDeclaraciones"_qs);
+    m_flxDeclaraciones->setObjectName(u"flxDeclaraciones"_s);
     m_flxDeclaraciones->setModel(m_modelo);
     prepararTabla(m_flxDeclaraciones);
     for (const int oculta : {+CSDE, +PERIODICIDAD, +TIPOLOGIA, ColumnaPeriodoNumero})

@@ -19,6 +19,8 @@
 #include <QPushButton>
 #include <QTableView>
 
+using namespace Qt::StringLiterals;
+
 using namespace FilaDeclaracion;
 
 static cDecResumen &cabecera()
@@ -84,7 +86,7 @@ void FrmDecResumen::nueva()
         crear();
         return;
     }
-    cabecera().MODO(u"N"_qs);
+    cabecera().MODO(u"N"_s);
     m_nueva->PresentaDatos();
     mostrarNueva(true);
     m_nueva->enfocarPrimero();
@@ -106,12 +108,12 @@ void FrmDecResumen::crear()
     if (!ValidarCampos())
         return;
     if (cabecera().TIPOLOGIA() == Tipologia430) {
-        unico::la<cDatos430>().MODO(u"A"_qs);
+        unico::la<cDatos430>().MODO(u"A"_s);
         cerrarA(Pantalla::Datos430);
     } else {
         auto &registro = unico::la<cDatos480>();
-        registro.MODO(u"A"_qs);
-        registro.ENTRADA(u"A"_qs);
+        registro.MODO(u"A"_s);
+        registro.ENTRADA(u"A"_s);
         cerrarA(Pantalla::Datos480a);
     }
 }
@@ -126,7 +128,7 @@ void FrmDecResumen::abandonarNueva()
 {
     if (cabecera().MODO() != u"N")
         return;
-    cabecera().MODO(u"L"_qs);
+    cabecera().MODO(u"L"_s);
     enfocarLista();
     mostrarNueva(false);
 }
@@ -155,13 +157,13 @@ void FrmDecResumen::abrir()
         return;
     if (cabecera().TIPOLOGIA() == Tipologia430) {
         auto &registro = unico::la<cDatos430>();
-        registro.MODO(u"C"_qs);
+        registro.MODO(u"C"_s);
         registro.CSDE(cabecera().CSDE());
         cerrarA(Pantalla::Datos430);
     } else {
         auto &registro = unico::la<cDatos480>();
-        registro.MODO(u"C"_qs);
-        registro.ENTRADA(u"A"_qs);
+        registro.MODO(u"C"_s);
+        registro.ENTRADA(u"A"_s);
         registro.CSDE(cabecera().CSDE());
         cerrarA(Pantalla::Datos480a);
     }
@@ -201,7 +203,7 @@ void FrmDecResumen::eliminar()
 void FrmDecResumen::verDeclarante()
 {
     auto &datos = unico::la<cDecDatos>();
-    datos.MODO(u"C"_qs);
+    datos.MODO(u"C"_s);
     datos.CSCO(cabecera().CSCO());
     datos.CargarDeclarante(cabecera().CSCO());
     cerrarA(Pantalla::DatosDeclarante);

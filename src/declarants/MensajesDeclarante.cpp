@@ -4,6 +4,8 @@
 #include "core/Textos.h"
 #include "core/Unico.h"
 
+using namespace Qt::StringLiterals;
+
 QString textoValidacionDeclarante(qint16 codigo)
 {
     return codigo >= 1 && codigo <= 12 ? msjDesde(Msj::ErrorDni, codigo - 1) : QString();
@@ -26,7 +28,7 @@ QString textoGuardarDeclarante(qint16 codigo)
 
 static QString limite(int ejercicio, int periodo)
 {
-    return u"%1-%2"_qs.arg(ejercicio).arg(periodo, 2, 10, QChar(u'0'));
+    return u"%1-%2"_s.arg(ejercicio).arg(periodo, 2, 10, QChar(u'0'));
 }
 
 QString textoCabecera(qint16 codigo)

@@ -11,6 +11,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
+
 static cDecResumen &cabecera()
 {
     return unico::la<cDecResumen>();
@@ -26,15 +28,15 @@ static QLabel *etiqueta(const QString &nombre, QWidget *de, QWidget *padre)
 
 NuevaDeclaracion::NuevaDeclaracion(QWidget *padre)
     : QFrame(padre)
-    , m_txtejer(new CajaTexto(u"txtejer"_qs, 4, CajaTexto::Cifras, this))
-    , m_cmbmodelo(new ListaDesplegable(u"cmbmodelo"_qs, this))
-    , m_cmbperiodo(new ListaDesplegable(u"cmbperiodo"_qs, this))
-    , m_lblejer(etiqueta(u"lblejer"_qs, m_txtejer, this))
-    , m_lblmodelo(etiqueta(u"lblmodelo"_qs, m_cmbmodelo, this))
-    , m_lblperiodo(etiqueta(u"lblperiodo"_qs, m_cmbperiodo, this))
-    , m_lblGuia(etiqueta(u"lblGuia"_qs, nullptr, this))
+    , m_txtejer(new CajaTexto(u"txtejer"_s, 4, CajaTexto::Cifras, this))
+    , m_cmbmodelo(new ListaDesplegable(u"cmbmodelo"_s, this))
+    , m_cmbperiodo(new ListaDesplegable(u"cmbperiodo"_s, this))
+    , m_lblejer(etiqueta(u"lblejer"_s, m_txtejer, this))
+    , m_lblmodelo(etiqueta(u"lblmodelo"_s, m_cmbmodelo, this))
+    , m_lblperiodo(etiqueta(u"lblperiodo"_s, m_cmbperiodo, this))
+    , m_lblGuia(etiqueta(u"lblGuia"_s, nullptr, this))
 {
-    setObjectName(u"fraNueva"_qs);
+    setObjectName(u"fraNueva"_s);
     setFrameShape(QFrame::StyledPanel);
     m_cmbmodelo->entradas({Modelo430.toString(), Modelo480.toString()});
     m_cmbmodelo->desplegarAlEntrar();
@@ -64,8 +66,8 @@ void NuevaDeclaracion::disponer()
     celdas->setColumnStretch(3, 1);
     const auto ancho
         = [this](const QString &texto) { return fontMetrics().horizontalAdvance(texto) + 52; };
-    m_cmbmodelo->setFixedWidth(ancho(u"0000"_qs));
-    m_cmbperiodo->setFixedWidth(ancho(u"SEPTIEMBRE"_qs));
+    m_cmbmodelo->setFixedWidth(ancho(u"0000"_s));
+    m_cmbperiodo->setFixedWidth(ancho(u"SEPTIEMBRE"_s));
 }
 
 void NuevaDeclaracion::Anadir_captions()

@@ -2,6 +2,8 @@
 
 #include "dataservice/Registros.h"
 
+using namespace Qt::StringLiterals;
+
 /// The home province of the treasury: its municipalities are chosen by code.
 inline constexpr QStringView ProvinciaPropia = u"20";
 inline constexpr QStringView NombreProvinciaPropia = u"VARLENDA";
@@ -83,7 +85,7 @@ public:
 private:
     struct Datos
     {
-        QString dni, nombre, via = QStringLiteral("CL"), domicilio;
+        QString dni, nombre, via = u"CL"_s, domicilio;
         qint32 numero = 0;
         QString letra, escalera, piso, mano;
         QString codprov = ProvinciaPropia.toString(), nomprov = NombreProvinciaPropia.toString();

@@ -2,6 +2,8 @@
 
 #include "dataservice/Registros.h"
 
+using namespace Qt::StringLiterals;
+
 /// State of the declarant list.
 class cDecLista
 {
@@ -24,6 +26,6 @@ public:
 private:
     qint32 m_csco = 0;
     qint32 m_numdeclasel = 0;
-    QString m_modo = QStringLiteral("C");
+    QString m_modo = u"C"_s;
     quint8 m_orden = PorDni;
 };

@@ -14,6 +14,8 @@
 #include <QShowEvent>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 using namespace campos;
 
 static cDecDatos &registro()
@@ -22,11 +24,11 @@ static cDecDatos &registro()
 }
 
 frmDecDatos::frmDecDatos(QWidget *padre)
-    : PantallaBase(u"frmDecDatos"_qs, padre)
+    : PantallaBase(u"frmDecDatos"_s, padre)
     , m_ficha(new FichaDeclarante(this))
-    , m_botones(new BarraBotones(u"fraBotones"_qs, this))
-    , m_cmdAceptar(m_botones->anadir(u"cmdAceptar"_qs, u"PicAce"_qs, Icono::Aceptar))
-    , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_qs, u"Piccan"_qs, Icono::Cancelar))
+    , m_botones(new BarraBotones(u"fraBotones"_s, this))
+    , m_cmdAceptar(m_botones->anadir(u"cmdAceptar"_s, u"PicAce"_s, Icono::Aceptar))
+    , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar))
 {
     auto *todo = new QVBoxLayout(this);
     todo->setContentsMargins(16, 14, 16, 14);
@@ -45,11 +47,11 @@ frmDecDatos::frmDecDatos(QWidget *padre)
 void frmDecDatos::crearListas()
 {
     m_listas = {{
-        {VIA, DOMICILIO, m_ficha->cmdVia(), new SelectorLista(u"lstVia"_qs, this),
+        {VIA, DOMICILIO, m_ficha->cmdVia(), new SelectorLista(u"lstVia"_s, this),
          &frmDecDatos::tomarVia},
-        {CODPROV, CODPOS, m_ficha->cmdProvincia(), new SelectorLista(u"lstCodProv"_qs, this),
+        {CODPROV, CODPOS, m_ficha->cmdProvincia(), new SelectorLista(u"lstCodProv"_s, this),
          &frmDecDatos::tomarProvincia},
-        {CODMUN, TELEFONO, m_ficha->cmdMunicipio(), new SelectorLista(u"lstCodMun"_qs, this),
+        {CODMUN, TELEFONO, m_ficha->cmdMunicipio(), new SelectorLista(u"lstCodMun"_s, this),
          &frmDecDatos::tomarMunicipio},
     }};
     for (const auto &lista : m_listas) {
@@ -229,9 +231,9 @@ void frmDecDatos::entregar()
     auto &resumen = unico::la<cDecResumen>();
     if (datos.MODO() == u"A") {
         datos.CSCO(datos.ObtenerCodigoDeclarante(datos.DNI()));
-        resumen.ENTRADA(u"A"_qs);
+        resumen.ENTRADA(u"A"_s);
     } else {
-        resumen.ENTRADA(u"P"_qs);
+        resumen.ENTRADA(u"P"_s);
         resumen.CSDE(0);
     }
     resumen.TomarDeclarante(datos.CSCO(), datos.DNI(), datos.NOMBRE());
@@ -249,7 +251,7 @@ Pantalla frmDecDatos::alCerrarMarco()
     if (registro().MODO() != u"C")
         return Pantalla::Ninguna;
     auto &resumen = unico::la<cDecResumen>();
-    resumen.ENTRADA(u"P"_qs);
+    resumen.ENTRADA(u"P"_s);
     resumen.CSDE(0);
     return Pantalla::Resumen;
 }

@@ -9,6 +9,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
+
 static QLabel *etiqueta(const QString &nombre, QWidget *padre)
 {
     auto *label = new QLabel(padre);
@@ -28,13 +30,13 @@ static CajaTexto *caja(const QString &nombre, int cifras, QWidget *padre)
 
 CabeceraDeclaracion::CabeceraDeclaracion(QWidget *padre)
     : QWidget(padre)
-    , m_lbldni(etiqueta(u"lbldni"_qs, this))
-    , m_lblnombre(etiqueta(u"lblnombre"_qs, this))
-    , m_lblejer(etiqueta(u"lblejer"_qs, this))
-    , m_txtejer(caja(u"txtejer"_qs, 4, this))
-    , m_lblper(etiqueta(u"lblper"_qs, this))
-    , m_txtper(caja(u"txtper"_qs, 2, this))
-    , m_lblperiodo(etiqueta(u"lblperiodo"_qs, this))
+    , m_lbldni(etiqueta(u"lbldni"_s, this))
+    , m_lblnombre(etiqueta(u"lblnombre"_s, this))
+    , m_lblejer(etiqueta(u"lblejer"_s, this))
+    , m_txtejer(caja(u"txtejer"_s, 4, this))
+    , m_lblper(etiqueta(u"lblper"_s, this))
+    , m_txtper(caja(u"txtper"_s, 2, this))
+    , m_lblperiodo(etiqueta(u"lblperiodo"_s, this))
 {
     QFont negrita = font();
     negrita.setBold(true);

@@ -1,5 +1,7 @@
 #include "declarations/Clases480.h"
 
+using namespace Qt::StringLiterals;
+
 static QString numeroCasilla(int clase, int columna)
 {
     return QString::number(Reg480::casilla(clase, columna)).rightJustified(2, u'0');
@@ -17,7 +19,7 @@ QString propiedadClase(int clase, int columna)
 
 QString controlClase(int clase, int columna)
 {
-    return u"txt"_qs + numeroCasilla(clase, columna) + sufijo(clase).toLower();
+    return u"txt"_s + numeroCasilla(clase, columna) + sufijo(clase).toLower();
 }
 
 UsoCasilla usoCasilla(int numero)

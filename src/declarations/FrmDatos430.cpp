@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 enum { LIQUIDACION, RECTIFICACION, TOTAL };
 
 static cDatos430 &registro()
@@ -19,13 +21,13 @@ static cDatos430 &registro()
 }
 
 FrmDatos430::FrmDatos430(QWidget *padre)
-    : PantallaDeclaracion(u"FrmDatos430"_qs, padre)
+    : PantallaDeclaracion(u"FrmDatos430"_s, padre)
     , m_chkrect(new QCheckBox(this))
 {
     crearCajas();
     disponer();
-    m_cmdAceptar = m_botones->anadir(u"cmdAceptar"_qs, u"PicAce"_qs, Icono::Aceptar);
-    m_cmdCancelar = m_botones->anadir(u"cmdCancelar"_qs, u"Piccan"_qs, Icono::Cancelar);
+    m_cmdAceptar = m_botones->anadir(u"cmdAceptar"_s, u"PicAce"_s, Icono::Aceptar);
+    m_cmdCancelar = m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar);
     alPulsar(m_cmdAceptar, [this] { aceptar(); });
     alPulsarSinConfirmar(m_cmdCancelar, [this] { cerrarComoCancelar(); });
     alPulsar(m_chkrect, [this] {
@@ -44,16 +46,16 @@ FrmDatos430::FrmDatos430(QWidget *padre)
 
 void FrmDatos430::crearCajas()
 {
-    m_chkrect->setObjectName(u"chkrect"_qs);
+    m_chkrect->setObjectName(u"chkrect"_s);
     auto &r = registro();
     m_lineas[LIQUIDACION]
-        = {new QLabel(this), cajaEntrada(u"txtbliq"_qs, r, [](auto &d, double c) { d.BASELIQ(c); }),
-           cajaCalculada(u"txttliq"_qs), cajaCalculada(u"txtcliq"_qs)};
-    m_lineas[RECTIFICACION] = {
-        new QLabel(this), cajaEntrada(u"txtbrect"_qs, r, [](auto &d, double c) { d.BASEREC(c); }),
-        nullptr, cajaEntrada(u"txtcrect"_qs, r, [](auto &d, double c) { d.CUOTAREC(c); })};
-    m_lineas[TOTAL] = {new QLabel(this), cajaCalculada(u"txtbtot"_qs), cajaCalculada(u"txtttot"_qs),
-                       cajaCalculada(u"txtctot"_qs)};
+        = {new QLabel(this), cajaEntrada(u"txtbliq"_s, r, [](auto &d, double c) { d.BASELIQ(c); }),
+           cajaCalculada(u"txttliq"_s), cajaCalculada(u"txtcliq"_s)};
+    m_lineas[RECTIFICACION]
+        = {new QLabel(this), cajaEntrada(u"txtbrect"_s, r, [](auto &d, double c) { d.BASEREC(c); }),
+           nullptr, cajaEntrada(u"txtcrect"_s, r, [](auto &d, double c) { d.CUOTAREC(c); })};
+    m_lineas[TOTAL] = {new QLabel(this), cajaCalculada(u"txtbtot"_s), cajaCalculada(u"txtttot"_s),
+                       cajaCalculada(u"txtctot"_s)};
 }
 
 void FrmDatos430::disponer()
@@ -74,7 +76,7 @@ void FrmDatos430::disponer()
         rejilla->addWidget(linea.titulo, fila, 0);
         rejilla->addWidget(linea.base, fila, 1);
         if (linea.tipo) {
-            linea.tipo->setFixedWidth(linea.tipo->fontMetrics().horizontalAdvance(u"000,00 %"_qs));
+            linea.tipo->setFixedWidth(linea.tipo->fontMetrics().horizontalAdvance(u"000,00 %"_s));
             rejilla->addWidget(linea.tipo, fila, 2);
         }
         rejilla->addWidget(linea.cuota, fila, 3);
@@ -107,7 +109,7 @@ void FrmDatos430::Anadir_captions()
         CajaImporte *const cajas[] = {linea.base, linea.tipo, linea.cuota};
         for (int j = 0; j < 3; ++j)
             if (cajas[j])
-                cajas[j]->setAccessibleName(msj(lineas[i]) + u": "_qs + msj(columnas[j]));
+                cajas[j]->setAccessibleName(msj(lineas[i]) + u": "_s + msj(columnas[j]));
     }
     m_chkrect->setText(msj(Msj::MarcaRectificacion));
     m_chkrect->setToolTip(msj(Msj::PistaRectificacion));

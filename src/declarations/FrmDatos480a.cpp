@@ -2,8 +2,10 @@
 
 #include "declarations/cDatos480.h"
 
+using namespace Qt::StringLiterals;
+
 FrmDatos480a::FrmDatos480a(QWidget *padre)
-    : PaginaClases(u"FrmDatos480a"_qs, Msj::Titulo480a, 1, Pantalla::Ninguna, Pantalla::Datos480b,
+    : PaginaClases(u"FrmDatos480a"_s, Msj::Titulo480a, 1, Pantalla::Ninguna, Pantalla::Datos480b,
                    padre)
 {
     auto &r = registro();

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 using namespace Casilla480;
 
 /// The boxes of the page in reading order: number, name, grid row and column, line and column
@@ -38,14 +40,13 @@ static constexpr LugarCasilla Lugares[] = {
 };
 
 FrmDatos480c::FrmDatos480c(QWidget *padre)
-    : Pantalla480(u"FrmDatos480c"_qs, Msj::Titulo480c, Pantalla::Datos480b, Pantalla::Ninguna,
-                  padre)
+    : Pantalla480(u"FrmDatos480c"_s, Msj::Titulo480c, Pantalla::Datos480b, Pantalla::Ninguna, padre)
     , m_lblDiferencia(new QLabel(this))
     , m_mensuales(new PanelMensuales(this))
 {
     auto *rejilla = new QGridLayout;
     disponer(rejilla);
-    m_lblDiferencia->setObjectName(u"lblDiferencia"_qs);
+    m_lblDiferencia->setObjectName(u"lblDiferencia"_s);
     m_lblDiferencia->setWordWrap(true);
     m_cuerpo->addLayout(rejilla);
     m_cuerpo->addWidget(m_lblDiferencia);
@@ -80,7 +81,7 @@ void FrmDatos480c::disponer(QGridLayout *rejilla)
             ? cajaNumero(control.toString(), numero)
             : cajaCalculada(control.toString());
         if (columna == 1)
-            caja->setFixedWidth(caja->fontMetrics().horizontalAdvance(u"000,00 %"_qs));
+            caja->setFixedWidth(caja->fontMetrics().horizontalAdvance(u"000,00 %"_s));
         auto *etiquetaNumero = new QLabel(QString::number(numero), this);
         etiquetaNumero->setEnabled(false);
         rejilla->addWidget(etiquetaNumero, fila, 1 + 2 * columna, Qt::AlignRight);
@@ -102,7 +103,7 @@ void FrmDatos480c::Anadir_captions()
         etiqueta->setText(msj(texto));
     for (const auto &lugar : Lugares)
         caja(lugar.numero)
-            ->setAccessibleName(msj(lugar.linea) + u": "_qs + msj(lugar.titulo) + u" ("_qs
+            ->setAccessibleName(msj(lugar.linea) + u": "_s + msj(lugar.titulo) + u" ("_s
                                 + QString::number(lugar.numero) + u')');
     m_mensuales->Anadir_captions();
 }

@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QToolTip>
 
+using namespace Qt::StringLiterals;
+
 GraficoCuotas::GraficoCuotas(QWidget *padre)
     : QWidget(padre)
 {
@@ -28,7 +30,7 @@ void GraficoCuotas::mostrar(const Mensuales430 &anno, int ejercicio)
             figuras += textoMes(mes);
     }
     setAccessibleName(msj(Msj::GraficoCuotas, QString::number(ejercicio)));
-    setAccessibleDescription(figuras.join(u"; "_qs));
+    setAccessibleDescription(figuras.join(u"; "_s));
     update();
 }
 

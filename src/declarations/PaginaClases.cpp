@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 static constexpr Msj Columnas[] = {Msj::NoExento, Msj::Exento};
 static constexpr int SangriaGrupo = 18;
 
@@ -67,10 +69,10 @@ void PaginaClases::Anadir_captions()
         etiqueta->setText(msj(texto));
     for (const auto &linea : std::as_const(m_lineas)) {
         const auto &datos = datosClase(linea.clase);
-        const QString grupo = datos.grupo ? msj(*datos.grupo) + u", "_qs : QString();
+        const QString grupo = datos.grupo ? msj(*datos.grupo) + u", "_s : QString();
         linea.etiqueta->setText(msj(datos.etiqueta));
         for (int columna = 0; columna < 2; ++columna)
-            linea.cajas[columna]->setAccessibleName(grupo + msj(datos.etiqueta) + u": "_qs
+            linea.cajas[columna]->setAccessibleName(grupo + msj(datos.etiqueta) + u": "_s
                                                     + msj(Columnas[columna]));
     }
 }

@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QTreeWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Wishes to be as high as its twelve months; a small screen may give it less.
@@ -38,7 +40,7 @@ PanelMensuales::PanelMensuales(QWidget *padre)
     , m_lblTotales(new QLabel(this))
     , m_grafico(new GraficoCuotas(this))
 {
-    m_lst430->setObjectName(u"lst430"_qs);
+    m_lst430->setObjectName(u"lst430"_s);
     m_lst430->setColumnCount(3);
     m_lst430->setRootIsDecorated(false);
     m_lst430->setUniformRowHeights(true);
@@ -47,10 +49,10 @@ PanelMensuales::PanelMensuales(QWidget *padre)
     m_lst430->header()->setSectionsMovable(false);
     for (const int columna : {1, 2})
         m_lst430->headerItem()->setTextAlignment(columna, Qt::AlignRight | Qt::AlignVCenter);
-    m_lblNo430->setObjectName(u"lblNo430"_qs);
-    m_lblTotales->setObjectName(u"lblTotales430"_qs);
+    m_lblNo430->setObjectName(u"lblNo430"_s);
+    m_lblTotales->setObjectName(u"lblTotales430"_s);
     m_lblTotales->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_grafico->setObjectName(u"picCuotas"_qs);
+    m_grafico->setObjectName(u"picCuotas"_s);
 
     auto *rejilla = new QGridLayout(this);
     rejilla->setContentsMargins(0, 0, 0, 0);
@@ -93,8 +95,8 @@ void PanelMensuales::mostrar()
                 fila->setText(columna, textoImporte(columna == 1 ? datos->base : datos->cuota));
         }
     }
-    m_lblTotales->setText(msj(Msj::TotalAnualBase) + u": "_qs + textoImporte(m_anno->base)
-                          + u"    "_qs + msj(Msj::TotalAnualCuota) + u": "_qs
+    m_lblTotales->setText(msj(Msj::TotalAnualBase) + u": "_s + textoImporte(m_anno->base)
+                          + u"    "_s + msj(Msj::TotalAnualCuota) + u": "_s
                           + textoImporte(m_anno->cuota));
     m_grafico->mostrar(*m_anno, unico::la<cDecResumen>().EJERCICIO());
 }

@@ -6,22 +6,24 @@
 
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 Pantalla480::Pantalla480(const QString &nombre, Msj titulo, Pantalla anterior, Pantalla siguiente,
                          QWidget *padre)
     : PantallaDeclaracion(nombre, padre)
     , m_titulo(titulo)
 {
     if (anterior != Pantalla::Ninguna) {
-        m_cmdanterior = m_botones->anadir(u"cmdanterior"_qs, u"picant"_qs, Icono::Anterior);
+        m_cmdanterior = m_botones->anadir(u"cmdanterior"_s, u"picant"_s, Icono::Anterior);
         alPulsar(m_cmdanterior, [this, anterior] { cerrarA(anterior); });
     }
     if (siguiente != Pantalla::Ninguna) {
-        m_cmdSiguiente = m_botones->anadir(u"cmdSiguiente"_qs, u"PicSig"_qs, Icono::Siguiente);
+        m_cmdSiguiente = m_botones->anadir(u"cmdSiguiente"_s, u"PicSig"_s, Icono::Siguiente);
         alPulsar(m_cmdSiguiente, [this, siguiente] { cerrarA(siguiente); });
     } else {
-        m_cmdAceptar = m_botones->anadir(u"cmdAceptar"_qs, u"PicAce"_qs, Icono::Aceptar);
+        m_cmdAceptar = m_botones->anadir(u"cmdAceptar"_s, u"PicAce"_s, Icono::Aceptar);
     }
-    m_cmdCancelar = m_botones->anadir(u"cmdCancelar"_qs, u"Piccan"_qs, Icono::Cancelar);
+    m_cmdCancelar = m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar);
     alPulsarSinConfirmar(m_cmdCancelar, [this] { cerrarComoCancelar(); });
 }
 

@@ -8,6 +8,8 @@
 #include <QFrame>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 static QFrame *raya(QWidget *padre)
 {
     auto *linea = new QFrame(padre);
@@ -19,7 +21,7 @@ static QFrame *raya(QWidget *padre)
 PantallaDeclaracion::PantallaDeclaracion(const QString &nombre, QWidget *padre)
     : PantallaBase(nombre, padre)
     , m_cuerpo(new QVBoxLayout)
-    , m_botones(new BarraBotones(u"fraBotones"_qs, this))
+    , m_botones(new BarraBotones(u"fraBotones"_s, this))
     , m_cabecera(new CabeceraDeclaracion(this))
 {
     m_cuerpo->setSpacing(10);
@@ -69,7 +71,7 @@ void PantallaDeclaracion::entregar(const QString &modo, qint32 csde)
     auto &cabecera = unico::la<cDecResumen>();
     if (modo == u"A")
         cabecera.CSDE(csde);
-    cabecera.ENTRADA(u"P"_qs);
+    cabecera.ENTRADA(u"P"_s);
     Q_EMIT datosCambiados();
     cerrarA(Pantalla::Resumen);
 }
@@ -77,7 +79,7 @@ void PantallaDeclaracion::entregar(const QString &modo, qint32 csde)
 Pantalla PantallaDeclaracion::alCerrarMarco()
 {
     auto &cabecera = unico::la<cDecResumen>();
-    cabecera.ENTRADA(u"P"_qs);
+    cabecera.ENTRADA(u"P"_s);
     cabecera.CSDE(csdeRegistro());
     return Pantalla::Resumen;
 }

@@ -6,6 +6,8 @@
 #include "declarants/cDecResumen.h"
 #include "declarations/Cabecera.h"
 
+using namespace Qt::StringLiterals;
+
 void cDatos430::MODO(const QString &modo)
 {
     if (modo == u"A") {
@@ -101,7 +103,7 @@ bool cDatos430::cabe() const
 
 void cDatos430::MarcarRectificacion(bool marcada)
 {
-    m.rectifica = marcada ? u"X"_qs : QString();
+    m.rectifica = marcada ? u"X"_s : QString();
     if (!marcada)
         m.baserec = m.cuotarec = 0;
 }

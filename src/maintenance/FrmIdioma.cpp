@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 /// A check box does not break its text over lines by itself.
 static QString enLineas(const QString &texto, const QFontMetrics &medida)
 {
@@ -31,17 +33,17 @@ static QString enLineas(const QString &texto, const QFontMetrics &medida)
 
 FrmIdioma::FrmIdioma(QWidget *padre)
     : QDialog(padre)
-    , m_cmdcastellano(boton("cmdcastellano", Msj::EleccionIdiomaCastellano, u"C"_qs))
-    , m_cmdeuskera(boton("cmdeuskera", Msj::EleccionIdiomaEuskera, u"E"_qs))
+    , m_cmdcastellano(boton("cmdcastellano", Msj::EleccionIdiomaCastellano, u"C"_s))
+    , m_cmdeuskera(boton("cmdeuskera", Msj::EleccionIdiomaEuskera, u"E"_s))
     , m_chkActOnline(new QCheckBox(this))
     , m_lblAct(new QLabel(msj(Msj::EleccionIdiomaBuscando), this))
 {
-    setObjectName(QStringLiteral("FrmIdioma"));
+    setObjectName(u"FrmIdioma"_s);
     setWindowTitle(msj(Msj::EleccionIdiomaTitulo));
     setWindowIcon(icono(Icono::Programa));
-    m_lblAct->setObjectName(QStringLiteral("lblAct"));
+    m_lblAct->setObjectName(u"lblAct"_s);
     m_lblAct->hide();
-    m_chkActOnline->setObjectName(QStringLiteral("chkActOnline"));
+    m_chkActOnline->setObjectName(u"chkActOnline"_s);
     m_chkActOnline->setText(enLineas(msj(Msj::EleccionIdiomaActualizaciones), fontMetrics()));
     m_chkActOnline->setAccessibleName(msj(Msj::EleccionIdiomaActualizaciones));
     disponer();
@@ -77,7 +79,7 @@ QLayout *FrmIdioma::cabecera()
 void FrmIdioma::disponer()
 {
     auto *marco = new QGroupBox(msj(Msj::EleccionIdiomaMarco), this);
-    marco->setObjectName(QStringLiteral("Frame1"));
+    marco->setObjectName(u"Frame1"_s);
     auto *botones = new QHBoxLayout(marco);
     botones->setContentsMargins(18, 18, 18, 18);
     botones->setSpacing(18);

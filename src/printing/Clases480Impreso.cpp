@@ -3,6 +3,8 @@
 #include "printing/Tablas480.h"
 #include "resources/Mensajes.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace Impreso480;
@@ -18,7 +20,7 @@ struct ParTexto
     QString castellano;
 
     explicit ParTexto(Msj cual)
-        : euskera(mensajeNumero(static_cast<int>(cual) + 10000) + u" /"_qs)
+        : euskera(mensajeNumero(static_cast<int>(cual) + 10000) + u" /"_s)
         , castellano(mensajeNumero(static_cast<int>(cual)))
     {
     }

@@ -5,6 +5,8 @@
 
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 QStringList copiasPedidas(const cImOf &peticion)
 {
     if (peticion.MODELO() != Modelo430 && peticion.MODELO() != Modelo480)
@@ -22,10 +24,10 @@ QStringList copiasPedidas(const cImOf &peticion)
 QString nombrePdf(const QString &modelo, int ejercicio, int periodo, const QString &nif,
                   const QStringList &copias)
 {
-    static const QRegularExpression prohibidos(u"[^A-Za-z0-9.-]"_qs);
+    static const QRegularExpression prohibidos(u"[^A-Za-z0-9.-]"_s);
     QString tiempo = QString::number(ejercicio);
     if (modelo == Modelo430)
         tiempo += u'-' + QString::number(periodo).rightJustified(2, u'0');
-    const QString identidad = QString(nif).replace(prohibidos, u"_"_qs);
-    return QStringList{modelo, tiempo, identidad, copias.join(u'-')}.join(u'_') + u".pdf"_qs;
+    const QString identidad = QString(nif).replace(prohibidos, u"_"_s);
+    return QStringList{modelo, tiempo, identidad, copias.join(u'-')}.join(u'_') + u".pdf"_s;
 }

@@ -11,6 +11,8 @@
 #include <QSaveFile>
 #include <QStorageInfo>
 
+using namespace Qt::StringLiterals;
+
 /// The document's properties, with the author and the languages that QPdfWriter has no setter for.
 static QByteArray propiedades(const QString &titulo)
 {
@@ -69,12 +71,12 @@ QStringList rutasPdf(const QString &ruta, const QStringList &copias, bool unoSol
     if (unoSolo || copias.size() == 1)
         return {ruta};
     QString raiz = ruta;
-    for (const QString &final : {u".pdf"_qs, u'_' + copias.join(u'-')})
+    for (const QString &final : {u".pdf"_s, u'_' + copias.join(u'-')})
         if (raiz.endsWith(final, Qt::CaseInsensitive))
             raiz.chop(final.size());
     QStringList rutas;
     for (const QString &copia : copias)
-        rutas << raiz + u'_' + copia + u".pdf"_qs;
+        rutas << raiz + u'_' + copia + u".pdf"_s;
     return rutas;
 }
 

@@ -25,6 +25,8 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 enum { Oficial, Borrador };
 
 static cImOf &peticion()
@@ -40,15 +42,15 @@ template <class Control> static Control *crear(const QString &nombre, QWidget *p
 }
 
 FrmImOf::FrmImOf(QWidget *padre)
-    : PantallaBase(u"FrmImOf"_qs, padre)
-    , m_frameTipo(crear<QGroupBox>(u"frameTipoImpreso"_qs, this))
+    : PantallaBase(u"FrmImOf"_s, padre)
+    , m_frameTipo(crear<QGroupBox>(u"frameTipoImpreso"_s, this))
     , m_opt(new QButtonGroup(this))
-    , m_fraDestinatario(crear<QGroupBox>(u"fraDestinatario"_qs, this))
-    , m_chkInteresado(crear<QCheckBox>(u"chkCopiaInteresado"_qs, m_fraDestinatario))
-    , m_chkAdministracion(crear<QCheckBox>(u"chkCopiaAdministracion"_qs, m_fraDestinatario))
-    , m_fraFecha(crear<QGroupBox>(u"fraFechaDePresentacion"_qs, this))
-    , m_txtFecha(new CajaFecha(u"txtFechaPresentacion"_qs, m_fraFecha))
-    , m_chkUnPdf(crear<QCheckBox>(u"chkUnPdf"_qs, this))
+    , m_fraDestinatario(crear<QGroupBox>(u"fraDestinatario"_s, this))
+    , m_chkInteresado(crear<QCheckBox>(u"chkCopiaInteresado"_s, m_fraDestinatario))
+    , m_chkAdministracion(crear<QCheckBox>(u"chkCopiaAdministracion"_s, m_fraDestinatario))
+    , m_fraFecha(crear<QGroupBox>(u"fraFechaDePresentacion"_s, this))
+    , m_txtFecha(new CajaFecha(u"txtFechaPresentacion"_s, m_fraFecha))
+    , m_chkUnPdf(crear<QCheckBox>(u"chkUnPdf"_s, this))
 {
     setWindowFlag(Qt::Dialog);
     setWindowModality(Qt::ApplicationModal);
@@ -63,11 +65,11 @@ FrmImOf::FrmImOf(QWidget *padre)
 
 void FrmImOf::crearTipo()
 {
-    m_opt->setObjectName(u"optTipoImpreso"_qs);
+    m_opt->setObjectName(u"optTipoImpreso"_s);
     auto *fila = new QHBoxLayout(m_frameTipo);
     for (const int tipo : {Oficial, Borrador}) {
         auto *opcion
-            = crear<QRadioButton>(u"optTipoImpreso"_qs + QString::number(tipo), m_frameTipo);
+            = crear<QRadioButton>(u"optTipoImpreso"_s + QString::number(tipo), m_frameTipo);
         m_opt->addButton(opcion, tipo);
         fila->addWidget(opcion);
     }
@@ -85,13 +87,13 @@ void FrmImOf::crearDestinatario()
 
 void FrmImOf::disponer()
 {
-    auto *salidas = new BarraBotones(u"fraSalidas"_qs, this);
-    m_btnOpciones = salidas->anadir(u"btnOpcionesImpresora"_qs, u"picimp"_qs, Icono::Imprimir);
-    m_btnVistaPrevia = salidas->anadir(u"btnVistaPrevia"_qs, {}, Icono::Imprimir);
-    m_btnGuardarPdf = salidas->anadir(u"btnGuardarPdf"_qs, {}, Icono::Imprimir);
-    auto *pie = new BarraBotones(u"fraBotones"_qs, this);
-    m_btnAceptar = pie->anadir(u"btnAceptar"_qs, u"PicAce"_qs, Icono::Aceptar);
-    m_btnCancelar = pie->anadir(u"btnCancelar"_qs, u"Piccan"_qs, Icono::Cancelar);
+    auto *salidas = new BarraBotones(u"fraSalidas"_s, this);
+    m_btnOpciones = salidas->anadir(u"btnOpcionesImpresora"_s, u"picimp"_s, Icono::Imprimir);
+    m_btnVistaPrevia = salidas->anadir(u"btnVistaPrevia"_s, {}, Icono::Imprimir);
+    m_btnGuardarPdf = salidas->anadir(u"btnGuardarPdf"_s, {}, Icono::Imprimir);
+    auto *pie = new BarraBotones(u"fraBotones"_s, this);
+    m_btnAceptar = pie->anadir(u"btnAceptar"_s, u"PicAce"_s, Icono::Aceptar);
+    m_btnCancelar = pie->anadir(u"btnCancelar"_s, u"Piccan"_s, Icono::Cancelar);
 
     auto *todo = new QVBoxLayout(this);
     todo->addWidget(m_frameTipo);
@@ -191,7 +193,7 @@ void FrmImOf::conectar()
 
 void FrmImOf::alMarcar(bool marcada, void (cImOf::*propiedad)(const QString &))
 {
-    (peticion().*propiedad)(marcada ? u"X"_qs : QString());
+    (peticion().*propiedad)(marcada ? u"X"_s : QString());
     PresentaDatos();
 }
 
@@ -245,7 +247,7 @@ void FrmImOf::guardarPdf()
 
 void FrmImOf::closeEvent(QCloseEvent *evento)
 {
-    unico::la<cDecResumen>().ENTRADA(u"P"_qs);
+    unico::la<cDecResumen>().ENTRADA(u"P"_s);
     PantallaBase::closeEvent(evento);
 }
 

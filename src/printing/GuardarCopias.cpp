@@ -11,6 +11,8 @@
 #include <QFileInfo>
 #include <QWidget>
 
+using namespace Qt::StringLiterals;
+
 /// The file dialogue can only ask about the name that the user chose.
 static bool aceptaSobrescribir(QWidget *pantalla, const QStringList &rutas)
 {
@@ -40,7 +42,7 @@ void guardarCopias(QWidget *pantalla, TrabajoImpresion &trabajo, bool unoSolo)
         motivo = guardarPdfs(trabajo, rutas);
     }
     if (motivo.isEmpty())
-        mensajes::informacion(pantalla, titulo, msj(Msj::PdfGuardado, rutas.join(u"\n"_qs)));
+        mensajes::informacion(pantalla, titulo, msj(Msj::PdfGuardado, rutas.join(u"\n"_s)));
     else
         mensajes::aviso(pantalla, titulo, motivo);
 }

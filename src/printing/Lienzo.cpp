@@ -6,6 +6,8 @@
 #include <array>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 static constexpr double PulgadaMm = 25.4;
 static constexpr double PuntoMm = PulgadaMm / 72;
 /// Size, in pixels, at which every text is laid out.
@@ -21,7 +23,7 @@ struct Tipo
 
 QFont fuente(Letra letra, bool negrita)
 {
-    QFont f(letra == Letra::Arial ? u"arial"_qs : u"Times New Roman"_qs);
+    QFont f(letra == Letra::Arial ? u"arial"_s : u"Times New Roman"_s);
     f.setStyleHint(letra == Letra::Arial ? QFont::SansSerif : QFont::Serif);
     f.setPixelSize(Cuerpo);
     f.setBold(negrita);

@@ -1,5 +1,7 @@
 #include "printing/Piezas.h"
 
+using namespace Qt::StringLiterals;
+
 static constexpr double Holgura = 1; ///< between a frame and the text inside, sideways
 static constexpr double AnchoNumero = 5;
 
@@ -122,13 +124,13 @@ void importe(Lienzo &lienzo, const Caja &caja, const QString &texto)
 /// The sign and a space in front of it.
 static double anchoSigno(const Lienzo &lienzo)
 {
-    return lienzo.anchoTexto(u" %"_qs) + Holgura;
+    return lienzo.anchoTexto(u" %"_s) + Holgura;
 }
 
 void signoTipo(Lienzo &lienzo, const Caja &caja)
 {
     const Caja dentro = cajaImporte(caja);
-    lienzo.texto(dentro.dentro(Holgura, 0), u"%"_qs, Qt::AlignRight);
+    lienzo.texto(dentro.dentro(Holgura, 0), u"%"_s, Qt::AlignRight);
 }
 
 void tipo(Lienzo &lienzo, const Caja &caja, const QString &texto)

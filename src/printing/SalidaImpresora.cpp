@@ -10,6 +10,8 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
+using namespace Qt::StringLiterals;
+
 SalidaImpresora::SalidaImpresora()
     : m_impresora(std::make_unique<QPrinter>(QPrinter::HighResolution))
 {
@@ -65,7 +67,7 @@ void SalidaImpresora::vistaPrevia(QWidget *padre, TrabajoImpresion &trabajo)
 {
     preparar(trabajo);
     QPrintPreviewDialog dialogo(m_impresora.get(), padre);
-    dialogo.setObjectName(u"vistaPrevia"_qs);
+    dialogo.setObjectName(u"vistaPrevia"_s);
     dialogo.setWindowTitle(msj(Msj::VistaPrevia));
     ocultarOrdenesAjenas(dialogo);
     QObject::connect(&dialogo, &QPrintPreviewDialog::paintRequested, &dialogo,

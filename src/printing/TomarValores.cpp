@@ -15,6 +15,8 @@
 
 #include <QScopeGuard>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What `texto` gives in Basque and in Castilian, whatever the session's language.
@@ -26,7 +28,7 @@ template <class Texto> QString enDosIdiomas(Texto texto)
     const QString euskera = texto();
     fijarDesplazamientoIdioma(0);
     const QString castellano = texto();
-    return euskera == castellano ? castellano : euskera + u" / "_qs + castellano;
+    return euskera == castellano ? castellano : euskera + u" / "_s + castellano;
 }
 
 QString unir(const QStringList &partes)
@@ -67,8 +69,8 @@ ValoresImpreso comunes()
         {Valor::Numero,
          unir({d.NUMERO() == 0 ? QString() : QString::number(d.NUMERO()), d.LETRA()})},
         {Valor::Piso,
-         unir({d.ESCALERA().isEmpty() ? QString() : u"ESC. "_qs + d.ESCALERA(), d.PISO(),
-               d.MANO()})},
+         unir(
+             {d.ESCALERA().isEmpty() ? QString() : u"ESC. "_s + d.ESCALERA(), d.PISO(), d.MANO()})},
         {Valor::Municipio, nombreMunicipio(d)},
         {Valor::CodigoPostal, d.CODPOS()},
         {Valor::Provincia, nombreProvincia(d)},

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 static void leer(const QString &ruta, QList<Mensaje> &tabla)
 {
     QFile fichero(ruta);
@@ -14,7 +16,7 @@ static void leer(const QString &ruta, QList<Mensaje> &tabla)
     for (QString linea; texto.readLineInto(&linea);) {
         if (linea.startsWith(u'#'))
             continue;
-        auto campos = linea.replace(u"\\n"_qs, u"\n"_qs).split(u'|');
+        auto campos = linea.replace(u"\\n"_s, u"\n"_s).split(u'|');
         if (campos.size() == 4)
             tabla.append({campos[0].toInt(), campos[1], campos[2], campos[3]});
     }
@@ -24,8 +26,8 @@ const QList<Mensaje> &mensajes()
 {
     static const QList<Mensaje> tabla = [] {
         QList<Mensaje> leidos;
-        leer(u":/textos/mensajes.txt"_qs, leidos);
-        leer(u":/textos/textos_propios.txt"_qs, leidos);
+        leer(u":/textos/mensajes.txt"_s, leidos);
+        leer(u":/textos/textos_propios.txt"_s, leidos);
         std::ranges::sort(leidos, {}, &Mensaje::numero);
         return leidos;
     }();

@@ -3,6 +3,8 @@
 #include "server/AlmacenDeclarantes.h"
 #include "server/LectorRegistro.h"
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -76,7 +78,7 @@ qint32 actualizarCabecera(const PConexion &conexion, const Cabecera &cabecera, q
     if (!Sentencia(conexion, "SELECT 1 FROM DECLARACIONES WHERE CSDE = ?")
              .con(cabecera.csde)
              .fila())
-        noEncontrado(QStringLiteral("CSDE"), cabecera.csde);
+        noEncontrado(u"CSDE"_s, cabecera.csde);
     Sentencia sentencia(conexion,
                         "UPDATE DECLARACIONES SET IMPORTE = ? WHERE CSDE = ? AND CSCO = ? "
                         "AND EJERCICIO = ? AND PERIODO = ? AND MODELO = ?");
@@ -128,7 +130,7 @@ Registro cargarFiguras(const PConexion &conexion, const Modelo &modelo, qint32 C
 {
     Sentencia sentencia(conexion, modelo.leer);
     if (!sentencia.con(CSDE).fila())
-        noEncontrado(QStringLiteral("CSDE"), CSDE);
+        noEncontrado(u"CSDE"_s, CSDE);
     Registro figuras;
     int columna = 0;
     for (const auto &definicion : modelo.columnas) {

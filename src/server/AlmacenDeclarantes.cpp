@@ -4,6 +4,8 @@
 #include "server/LectorRegistro.h"
 #include "server/Orden.h"
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -90,7 +92,7 @@ qint16 guardarDeclarante(const PConexion &conexion, const Registro &registro, Re
     if (sentencia.ejecutar() == 0) {
         if (nuevo)
             return 1;
-        noEncontrado(QStringLiteral("CSCO"), clave);
+        noEncontrado(u"CSCO"_s, clave);
     }
     if (nuevo)
         clave = conexion->ultimaClave();
@@ -105,7 +107,7 @@ void marcarReciente(const PConexion &conexion, qint32 CSCO)
                         "UPDATE DECLARANTES SET RECIENTE = 1 + (SELECT max(RECIENTE) FROM "
                         "DECLARANTES) WHERE CSCO = ?");
     if (sentencia.con(CSCO).ejecutar() == 0)
-        noEncontrado(QStringLiteral("CSCO"), CSCO);
+        noEncontrado(u"CSCO"_s, CSCO);
 }
 
 std::string seleccionDeclarante(std::string_view resto)
@@ -145,7 +147,7 @@ Registro registroDeclarante(const Sentencia &fila)
 
 void noEncontrado(const QString &que, qint64 clave)
 {
-    throw ErrorDatos(Fallo::NoEncontrado, QStringLiteral("%1 %2").arg(que).arg(clave));
+    throw ErrorDatos(Fallo::NoEncontrado, u"%1 %2"_s.arg(que).arg(clave));
 }
 
 } // namespace servidor

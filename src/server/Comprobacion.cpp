@@ -9,6 +9,8 @@
 
 #include <SQLiteCpp/Statement.h>
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -30,7 +32,7 @@ qint64 tamanoDeclarado(const QByteArray &cabecera)
 QByteArray leerCabecera(const QString &ruta)
 {
     if (!identidad(ruta))
-        throw ErrorDatos(Fallo::NoExiste, ruta, QStringLiteral("no such file"));
+        throw ErrorDatos(Fallo::NoExiste, ruta, u"no such file"_s);
     QFile fichero(ruta);
     if (!fichero.open(QIODevice::ReadOnly))
         throw ErrorDatos(Fallo::LecturaEscritura, ruta, fichero.errorString());
@@ -40,12 +42,12 @@ QByteArray leerCabecera(const QString &ruta)
 // With a journal beside it the file may be half-way through a commit that SQLite is about to undo.
 bool tieneDiario(const QString &ruta)
 {
-    return QFileInfo(ruta + QStringLiteral("-journal")).size() > 0;
+    return QFileInfo(ruta + u"-journal"_s).size() > 0;
 }
 
 void comprobarVersion(qint32 actual, const Formato &formato, Version version, const QString &ruta)
 {
-    const auto detalle = QStringLiteral("schema %1").arg(actual);
+    const auto detalle = u"schema %1"_s.arg(actual);
     if (actual > formato.esquema)
         throw ErrorDatos(Fallo::MasNueva, ruta, detalle);
     if (actual < 1 || (version == Version::Actual && actual < formato.esquema))
@@ -68,13 +70,13 @@ qint32 comprobarCabecera(const QString &ruta, const Formato &formato, Version ve
     const QByteArray cabecera = leerCabecera(ruta);
     if (cabecera.size() < TamanoCabecera
         || !cabecera.startsWith(QByteArray("SQLite format 3\0", 16)))
-        throw ErrorDatos(Fallo::Danada, ruta, QStringLiteral("not a database"));
+        throw ErrorDatos(Fallo::Danada, ruta, u"not a database"_s);
     if (static_cast<qint32>(numero32(cabecera, 68)) != formato.aplicacion)
-        throw ErrorDatos(Fallo::Ajena, ruta, QStringLiteral("application_id"));
+        throw ErrorDatos(Fallo::Ajena, ruta, u"application_id"_s);
     const auto esquema = static_cast<qint32>(numero32(cabecera, 60));
     comprobarVersion(esquema, formato, version, ruta);
     if (!tieneDiario(ruta) && QFileInfo(ruta).size() < tamanoDeclarado(cabecera))
-        throw ErrorDatos(Fallo::Danada, ruta, QStringLiteral("truncated"));
+        throw ErrorDatos(Fallo::Danada, ruta, u"truncated"_s);
     return esquema;
 }
 

@@ -8,6 +8,8 @@
 
 #include <sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -72,7 +74,7 @@ Transaccion::Transaccion(PConexion conexion)
     : m_conexion(std::move(conexion))
 {
     if (m_conexion->enTransaccion())
-        throw ErrorDatos(Fallo::EnUso, m_conexion->ruta(), QStringLiteral("deletion not finished"));
+        throw ErrorDatos(Fallo::EnUso, m_conexion->ruta(), u"deletion not finished"_s);
     Sentencia(m_conexion, "BEGIN IMMEDIATE").ejecutar();
 }
 

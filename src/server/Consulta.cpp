@@ -10,6 +10,8 @@
 #include <SQLiteCpp/Statement.h>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -33,7 +35,7 @@ using Linea = QStringList;
 
 QList<Linea> leer(const QString &nombre, qsizetype campos)
 {
-    QFile fichero(QStringLiteral(":/consulta/%1.txt").arg(nombre));
+    QFile fichero(u":/consulta/%1.txt"_s.arg(nombre));
     if (!fichero.open(QIODevice::ReadOnly))
         throw ErrorDatos(Fallo::NoExiste, fichero.fileName());
     QList<Linea> lineas;
@@ -62,7 +64,7 @@ void insertar(SQLite::Database &base, const char *sql, const QList<Linea> &linea
 QList<Linea> tipos()
 {
     QList<Linea> filas;
-    for (const Linea &linea : leer(QStringLiteral("tipos"), 3)) {
+    for (const Linea &linea : leer(u"tipos"_s, 3)) {
         const int desde = linea[0].toInt() * 100 + linea[1].toInt();
         filas.append(
             {QString::number(desde), QString::number(std::lround(linea[2].toDouble() * 100))});
@@ -74,10 +76,9 @@ QList<Linea> tipos()
 Linea general()
 {
     Linea fila(6);
-    const QStringList claves{QStringLiteral("EJERMIN"), QStringLiteral("PERMIN"),
-                             QStringLiteral("EJERMAX"), QStringLiteral("PERMAX"),
-                             QStringLiteral("URLACT"),  QStringLiteral("BACKUP_TVC")};
-    for (const Linea &linea : leer(QStringLiteral("general"), 2))
+    const QStringList claves{u"EJERMIN"_s, u"PERMIN"_s, u"EJERMAX"_s,
+                             u"PERMAX"_s,  u"URLACT"_s, u"BACKUP_TVC"_s};
+    for (const Linea &linea : leer(u"general"_s, 2))
         if (const qsizetype columna = claves.indexOf(linea[0]); columna >= 0)
             fila[columna] = linea[1];
     return fila;
@@ -92,12 +93,9 @@ void prepararConsulta(const QString &ruta, const Formato &formato)
         return;
     crearFichero(ruta, formato, [](SQLite::Database &base) {
         base.exec(Tablas);
-        insertar(base, "INSERT INTO T05_PROVINCIAS VALUES (?, ?, ?)",
-                 leer(QStringLiteral("provincias"), 3));
-        insertar(base, "INSERT INTO T06_MUNICIPIOS VALUES (?, ?)",
-                 leer(QStringLiteral("municipios"), 2));
-        insertar(base, "INSERT INTO T07_SIGLASVIA VALUES (?, ?, ?)",
-                 leer(QStringLiteral("siglasvia"), 3));
+        insertar(base, "INSERT INTO T05_PROVINCIAS VALUES (?, ?, ?)", leer(u"provincias"_s, 3));
+        insertar(base, "INSERT INTO T06_MUNICIPIOS VALUES (?, ?)", leer(u"municipios"_s, 2));
+        insertar(base, "INSERT INTO T07_SIGLASVIA VALUES (?, ?, ?)", leer(u"siglasvia"_s, 3));
         insertar(base, "INSERT INTO T08_GENERAL VALUES (?, ?, ?, ?, ?, ?)", {general()});
         insertar(base, "INSERT INTO T09_TIPOS VALUES (?, ?)", tipos());
     });

@@ -18,6 +18,8 @@
 #include <io.h>
 #endif
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -48,7 +50,7 @@ void sincronizar(const QString &ruta)
     if (fd >= 0)
         ::close(fd);
     if (!bien)
-        throw ErrorDatos(falloDeSistema(codigo), ruta, QStringLiteral("sync failed"));
+        throw ErrorDatos(falloDeSistema(codigo), ruta, u"sync failed"_s);
 }
 
 void sincronizarCarpeta(const QString &ruta)
@@ -60,7 +62,7 @@ void sincronizar(const QString &ruta)
 {
     QFile fichero(ruta);
     if (!fichero.open(QIODevice::ReadWrite) || _commit(fichero.handle()) != 0)
-        throw ErrorDatos(Fallo::LecturaEscritura, ruta, QStringLiteral("sync failed"));
+        throw ErrorDatos(Fallo::LecturaEscritura, ruta, u"sync failed"_s);
 }
 
 void sincronizarCarpeta(const QString &) {}
@@ -86,7 +88,7 @@ std::optional<Identidad> identidad(const QString &ruta)
 
 Provisional::Provisional(const QString &destino)
     : m_destino(destino)
-    , m_ruta(destino + QStringLiteral(".nuevo"))
+    , m_ruta(destino + u".nuevo"_s)
 {
     QFile::remove(m_ruta); // left behind by a run that was cut short
 }
@@ -100,9 +102,9 @@ void Provisional::colocar()
 {
     sincronizar(m_ruta);
     // SQLite would replay a journal left behind by an earlier file of that name into the new one.
-    const QString diario = m_destino + QStringLiteral("-journal");
+    const QString diario = m_destino + u"-journal"_s;
     if (QFile::exists(diario))
-        renombrar(diario, diario + QStringLiteral(".apartado"));
+        renombrar(diario, diario + u".apartado"_s);
     renombrar(m_ruta, m_destino);
 }
 
@@ -111,14 +113,14 @@ void renombrar(const QString &origen, const QString &destino)
     std::error_code error;
     std::filesystem::rename(origen.toStdU16String(), destino.toStdU16String(), error);
     if (error)
-        throw ErrorDatos(falloDeSistema(error.value()), destino, QStringLiteral("rename failed"));
+        throw ErrorDatos(falloDeSistema(error.value()), destino, u"rename failed"_s);
     sincronizarCarpeta(destino);
 }
 
 void crearCarpeta(const QString &carpeta)
 {
     if (!QDir().mkpath(carpeta))
-        throw ErrorDatos(Fallo::SoloLectura, carpeta, QStringLiteral("cannot create folder"));
+        throw ErrorDatos(Fallo::SoloLectura, carpeta, u"cannot create folder"_s);
 }
 
 } // namespace servidor

@@ -9,6 +9,8 @@
 #include <SQLiteCpp/Transaction.h>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -18,8 +20,7 @@ const char *sqlDesde(qint32 esquema, std::span<const Paso> pasos, const QString 
     const auto paso = std::find_if(pasos.begin(), pasos.end(),
                                    [&](const Paso &p) { return p.desde == esquema; });
     if (paso == pasos.end())
-        throw ErrorDatos(Fallo::Danada, ruta,
-                         QStringLiteral("no way up from schema %1").arg(esquema));
+        throw ErrorDatos(Fallo::Danada, ruta, u"no way up from schema %1"_s.arg(esquema));
     return paso->sql;
 }
 
@@ -27,14 +28,14 @@ void comprobarReferencias(SQLite::Database &base, const QString &ruta)
 {
     SQLite::Statement huerfanas(base, "PRAGMA foreign_key_check");
     if (huerfanas.executeStep())
-        throw ErrorDatos(Fallo::Danada, ruta, QStringLiteral("rows without their parent"));
+        throw ErrorDatos(Fallo::Danada, ruta, u"rows without their parent"_s);
 }
 
 } // namespace
 
 QString copiaAnterior(const QString &ruta, qint32 esquema)
 {
-    return ruta + QStringLiteral(".v") + QString::number(esquema);
+    return ruta + u".v"_s + QString::number(esquema);
 }
 
 void migrar(const QString &ruta, const Formato &formato, std::span<const Paso> pasos)

@@ -5,6 +5,8 @@
 #include <array>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -68,13 +70,13 @@ Modelo::Modelo(const QString &codigoModelo, qint32 periodicidadModelo, qsizetype
 
 const Modelo &modelo430()
 {
-    static const Modelo modelo(QStringLiteral("430"), 1, Reg430::CUOTATOT, columnas430());
+    static const Modelo modelo(u"430"_s, 1, Reg430::CUOTATOT, columnas430());
     return modelo;
 }
 
 const Modelo &modelo480()
 {
-    static const Modelo modelo(QStringLiteral("480"), 2, Reg480::C81_RES, columnas480());
+    static const Modelo modelo(u"480"_s, 2, Reg480::C81_RES, columnas480());
     return modelo;
 }
 

@@ -3,6 +3,8 @@
 #include "server/ListaConsulta.h"
 #include "server/Sentencia.h"
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -24,13 +26,13 @@ void guardarAjuste(const QString &ruta, const QString &clave, const QString &val
 
 const QString &claveIdioma()
 {
-    static const QString clave = QStringLiteral("IDIOMA");
+    static const QString clave = u"IDIOMA"_s;
     return clave;
 }
 
 const QString &claveActOnline()
 {
-    static const QString clave = QStringLiteral("ACTONLINE");
+    static const QString clave = u"ACTONLINE"_s;
     return clave;
 }
 
@@ -57,7 +59,7 @@ qint32 cDatosGeneral::NumeroDeclarantes()
 void cDatosGeneral::CambiarIdioma(const QString &codigo)
 {
     const bool euskara = codigo == u"E";
-    guardarAjuste(m_ruta, claveIdioma(), euskara ? QStringLiteral("E") : QStringLiteral("C"));
+    guardarAjuste(m_ruta, claveIdioma(), euskara ? u"E"_s : u"C"_s);
 }
 
 QString cDatosGeneral::ObtenerIdioma()

@@ -7,6 +7,8 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -111,7 +113,7 @@ void cDeclaracion::BorrarDatosNoComunes(qint32 CSDE, const QString &modelo)
     m_borrado.reset();
     auto transaccion = std::make_unique<Transaccion>(Conexion::modelo(m_ruta));
     if (Sentencia(transaccion->conexion(), tabla->borrar).con(CSDE).ejecutar() == 0)
-        noEncontrado(QStringLiteral("CSDE"), CSDE);
+        noEncontrado(u"CSDE"_s, CSDE);
     m_borrado = std::move(transaccion);
     m_borrando = CSDE;
 }
@@ -125,7 +127,7 @@ void cDeclaracion::BorrarDeclaracion(qint32 CSDE)
             .con(CSDE)
             .ejecutar()
         == 0)
-        noEncontrado(QStringLiteral("CSDE"), CSDE);
+        noEncontrado(u"CSDE"_s, CSDE);
     transaccion->confirmar();
 }
 

@@ -7,6 +7,8 @@
 
 #include <QHash>
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -34,7 +36,7 @@ void cDeclarante::CargarDeclarante(qint32 &CSCO, Registro &registro)
 {
     Sentencia sentencia(Conexion::modelo(m_modelo), seleccionDeclarante("WHERE CSCO = ?"));
     if (!sentencia.con(CSCO).fila())
-        noEncontrado(QStringLiteral("CSCO"), CSCO);
+        noEncontrado(u"CSCO"_s, CSCO);
     registro = registroDeclarante(sentencia);
 }
 
@@ -52,7 +54,7 @@ void cDeclarante::BorrarDeclarante(qint32 CSCO)
     Transaccion transaccion(Conexion::modelo(m_modelo));
     Sentencia sentencia(transaccion.conexion(), "DELETE FROM DECLARANTES WHERE CSCO = ?");
     if (sentencia.con(CSCO).ejecutar() == 0)
-        noEncontrado(QStringLiteral("CSCO"), CSCO);
+        noEncontrado(u"CSCO"_s, CSCO);
     transaccion.confirmar();
 }
 

@@ -1,5 +1,7 @@
 #include "server/cMiscelaneos.h"
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -8,15 +10,15 @@ constexpr qint16 DosIdiomas = 1000;
 
 QString direccionAyuda()
 {
-    return QStringLiteral("https://www.varlenda.example/ostrel/ayuda");
+    return u"https://www.varlenda.example/ostrel/ayuda"_s;
 }
 
 } // namespace
 
 QString cMiscelaneos::HaciendaFiscalidad()
 {
-    const QString castellano = QStringLiteral("Departamento de Hacienda y Finanzas");
-    const QString euskara = QStringLiteral("Ogasun eta Finantza Saila");
+    const QString castellano = u"Departamento de Hacienda y Finanzas"_s;
+    const QString euskara = u"Ogasun eta Finantza Saila"_s;
     if (m_idioma == DosIdiomas)
         return euskara + u'\n' + castellano;
     return m_idioma == 0 ? castellano : euskara;
@@ -33,10 +35,10 @@ void cMiscelaneos::MostrarOnlineInfo()
     if (!m_dialogos)
         return;
     const QString texto = m_idioma == 0
-        ? QStringLiteral("La asistencia en línea está en la dirección %1 y se abre con el "
-                         "navegador. El programa no envía ningún dato suyo.")
-        : QStringLiteral("Lineako laguntza %1 helbidean dago, eta nabigatzailearekin irekitzen da. "
-                         "Programak ez du zure daturik bidaltzen.");
+        ? u"La asistencia en línea está en la dirección %1 y se abre con el "
+          "navegador. El programa no envía ningún dato suyo."_s
+        : u"Lineako laguntza %1 helbidean dago, eta nabigatzailearekin irekitzen da. "
+          "Programak ez du zure daturik bidaltzen."_s;
     m_dialogos->informar(texto.arg(direccionAyuda()), m_padre);
 }
 

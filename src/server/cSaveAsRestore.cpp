@@ -13,6 +13,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -28,10 +30,8 @@ QString unir(const QString &carpeta, const QString &archivo)
 QString anterior(const QString &ruta, int numero)
 {
     const QFileInfo fichero(ruta);
-    return fichero.dir().filePath(QStringLiteral("%1.%2.%3")
-                                      .arg(fichero.completeBaseName())
-                                      .arg(numero)
-                                      .arg(fichero.suffix()));
+    return fichero.dir().filePath(
+        u"%1.%2.%3"_s.arg(fichero.completeBaseName()).arg(numero).arg(fichero.suffix()));
 }
 
 void rotar(const QString &ruta, int anteriores)
@@ -65,7 +65,7 @@ std::optional<SQLite::Database> abrirSiSirve(const QString &ruta)
 void apartar(const QString &ruta)
 {
     const QString marca = QDateTime::currentDateTime().toString(u".yyyyMMddHHmmsszzz");
-    for (const QString &cola : {QString(), QStringLiteral("-journal")})
+    for (const QString &cola : {QString(), u"-journal"_s})
         if (QFile::exists(ruta + cola))
             renombrar(ruta + cola, ruta + marca + cola);
 }

@@ -11,6 +11,8 @@
 
 #include <exception>
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 namespace {
@@ -48,8 +50,8 @@ bool cTraspaso::Traspaso()
 {
     crearCarpeta(m_carpeta);
     const auto modelo = intentar([&] { prepararModelo(m_modelo); });
-    const auto consulta = intentar(
-        [&] { prepararLecturas(QDir(m_carpeta).filePath(QStringLiteral("OstrLec.mdb"))); });
+    const auto consulta
+        = intentar([&] { prepararLecturas(QDir(m_carpeta).filePath(u"OstrLec.mdb"_s)); });
     if (modelo)
         std::rethrow_exception(modelo);
     if (consulta)

@@ -6,6 +6,8 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 BarraBotones::BarraBotones(const QString &nombre, QWidget *padre)
     : QWidget(padre)
     , m_fila(new QHBoxLayout(this))
@@ -29,7 +31,7 @@ QPushButton *BarraBotones::anadir(const QString &nombre, const QString &imagen, 
 
 void captionsAceptarCancelar(QPushButton *aceptar, QPushButton *cancelar)
 {
-    const QString centrado = u"   "_qs;
+    const QString centrado = u"   "_s;
     if (aceptar) {
         aceptar->setText(centrado + msj(Msj::BotonAceptar) + centrado);
         aceptar->setToolTip(msj(Msj::PistaAceptar));

@@ -2,12 +2,14 @@
 
 #include "core/Textos.h"
 
+using namespace Qt::StringLiterals;
+
 static constexpr int AnchoMinimo = 160;
 
 CajaBusqueda::CajaBusqueda(QWidget *padre)
     : QLineEdit(padre)
 {
-    setObjectName(u"txtBusqueda"_qs);
+    setObjectName(u"txtBusqueda"_s);
     setFocusPolicy(Qt::NoFocus);
     hide();
 }

@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 static constexpr int CifrasEnteras = 13;
 
 CajaImporte::CajaImporte(const QString &nombre, QWidget *padre)
@@ -46,13 +48,13 @@ void CajaImporte::mostrarImporte(double centimos)
 QSize CajaImporte::sizeHint() const
 {
     QSize tamano = Caja::sizeHint();
-    tamano.setWidth(fontMetrics().horizontalAdvance(u"-9.999.999.999.999,99"_qs) + 16);
+    tamano.setWidth(fontMetrics().horizontalAdvance(u"-9.999.999.999.999,99"_s) + 16);
     return tamano;
 }
 
 static bool puedeSerImporte(const QString &texto)
 {
-    static const QRegularExpression forma(u"^-?[0-9.]*(,[0-9]{0,2})?$"_qs);
+    static const QRegularExpression forma(u"^-?[0-9.]*(,[0-9]{0,2})?$"_s);
     const auto enteros = texto.left(texto.indexOf(u',') < 0 ? texto.size() : texto.indexOf(u','));
     const auto cifras = std::ranges::count_if(enteros, [](QChar c) { return c.isDigit(); });
     // a lone point may still turn out to be the decimal one
@@ -73,13 +75,13 @@ QString CajaImporte::admitir(QString &antes, const QString &insertado, QString &
     if (!puedeSerImporte(antes + limpio + despues))
         return {};
     m_conPuntosNuestros = false;
-    return limpio.isNull() ? u""_qs : limpio;
+    return limpio.isNull() ? u""_s : limpio;
 }
 
 void CajaImporte::keyPressEvent(QKeyEvent *evento)
 {
     if (evento->text() == u"." && evento->modifiers().testFlag(Qt::KeypadModifier)) {
-        QKeyEvent coma(evento->type(), Qt::Key_Comma, Qt::KeypadModifier, u","_qs);
+        QKeyEvent coma(evento->type(), Qt::Key_Comma, Qt::KeypadModifier, u","_s);
         Caja::keyPressEvent(&coma);
         return;
     }

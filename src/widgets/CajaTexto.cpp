@@ -2,6 +2,8 @@
 
 #include "core/FiltroTeclas.h"
 
+using namespace Qt::StringLiterals;
+
 static constexpr int AnchoFijo = 9;
 static constexpr int AnchoMinimo = 20;
 
@@ -29,7 +31,7 @@ QSize CajaTexto::minimumSizeHint() const
 
 QString CajaTexto::admitir(QString &antes, const QString &insertado, QString &despues)
 {
-    QString limpio = u""_qs;
+    QString limpio = u""_s;
     const auto hueco = m_limite - antes.size() - despues.size();
     for (const QChar c : insertado) {
         const QChar tomado = m_filtro == Cifras ? filtrarCifra(c) : filtrarTexto(c);

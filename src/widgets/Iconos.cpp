@@ -11,6 +11,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 static QColor mezclar(const QColor &uno, const QColor &otro, double parte)
 {
     const auto canal = [parte](int a, int b) { return qRound(a * parte + b * (1 - parte)); };
@@ -95,7 +97,7 @@ public:
     }
 
     QIconEngine *clone() const override { return std::make_unique<Motor>(m_cual).release(); }
-    QString key() const override { return QStringLiteral("ostrel"); }
+    QString key() const override { return u"ostrel"_s; }
 
 private:
     static void pintar(QPainter &pintor, const Trazo &trazo, bool inactivo)

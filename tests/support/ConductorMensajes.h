@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 /// Answers the program's message boxes, the real ones, by clicking their buttons. A box that nobody
 /// expected, and an answer that nobody asked for, fail the test.
 class ConductorMensajes
@@ -52,8 +54,7 @@ private:
         m_mostrados.append({caja.icon(), caja.windowTitle(), caja.text(),
                             porDefecto ? caja.standardButton(porDefecto) : QMessageBox::NoButton});
         if (m_respuestas.isEmpty())
-            QTest::qFail(qPrintable(QStringLiteral("unexpected message: ") + caja.text()), __FILE__,
-                         __LINE__);
+            QTest::qFail(qPrintable(u"unexpected message: "_s + caja.text()), __FILE__, __LINE__);
         const auto respuesta
             = m_respuestas.isEmpty() ? QMessageBox::NoButton : m_respuestas.takeFirst();
         QTimer::singleShot(0, &caja, [&caja, respuesta] {

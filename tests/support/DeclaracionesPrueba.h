@@ -7,15 +7,16 @@
 #include "printing/cImOf.h"
 #include "support/Entorno.h"
 
+using namespace Qt::StringLiterals;
+
 /// Stores a declarant with one return and makes it the print request, as the summary does.
-inline qint32 pedirImpresion(const QString &modelo,
-                             const QString &dni = QStringLiteral("A58818501"))
+inline qint32 pedirImpresion(const QString &modelo, const QString &dni = u"A58818501"_s)
 {
     const qint32 csco = Entorno::altaDeclarante(dni);
     const qint32 csde = Entorno::altaDeclaracion(csco, 2026, modelo == u"480" ? 12 : 1, modelo);
     if (modelo == u"430") {
         cDatos430 r;
-        r.MODO(QStringLiteral("A"));
+        r.MODO(u"A"_s);
         r.CSDE(csde);
         r.BASELIQ(123456);
         r.MarcarRectificacion(true);
@@ -25,7 +26,7 @@ inline qint32 pedirImpresion(const QString &modelo,
         r.GuardarDeclaracion(r.RegistroGuardar());
     } else {
         cDatos480 r;
-        r.MODO(QStringLiteral("A"));
+        r.MODO(u"A"_s);
         r.CSDE(csde);
         r.casilla(1, 1000000);
         r.casilla(2, 234567);

@@ -12,6 +12,8 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 static void exigir(bool cierto, const char *que)
 {
     if (!cierto)
@@ -32,14 +34,14 @@ Entorno::Entorno(const QString &idioma)
 qint32 Entorno::altaDeclarante(const QString &dni, const QString &nombre)
 {
     cDecDatos nuevo;
-    nuevo.MODO(u"A"_qs);
+    nuevo.MODO(u"A"_s);
     nuevo.DNI(dni);
     nuevo.NOMBRE(nombre);
-    nuevo.DOMICILIO(u"MAYOR"_qs);
-    nuevo.CODPOS(u"20001"_qs);
-    nuevo.CODMUN(u"001"_qs);
-    nuevo.NOMMUN(u"ABRENZUOLA"_qs);
-    nuevo.TELEFONO(u"943000000"_qs);
+    nuevo.DOMICILIO(u"MAYOR"_s);
+    nuevo.CODPOS(u"20001"_s);
+    nuevo.CODMUN(u"001"_s);
+    nuevo.NOMMUN(u"ABRENZUOLA"_s);
+    nuevo.TELEFONO(u"943000000"_s);
     exigir(nuevo.ValidarDatosDeclarante(nuevo.RegistroValidacion()) == 0, "invalid declarant");
     exigir(nuevo.GuardarDeclarante(nuevo.RegistroCompleto()) == 0, "declarant not saved");
     return nuevo.ObtenerCodigoDeclarante(dni);
@@ -62,7 +64,7 @@ qint32 Entorno::altaDeclaracion(qint32 csco, qint16 ejercicio, quint8 periodo,
 
 void Entorno::pasarAEuskera(QObject &pantalla)
 {
-    unico::la<CEntrada>().IDI(u"E"_qs);
+    unico::la<CEntrada>().IDI(u"E"_s);
     QEvent cambio(QEvent::LanguageChange);
     QCoreApplication::sendEvent(&pantalla, &cambio);
 }
@@ -70,6 +72,6 @@ void Entorno::pasarAEuskera(QObject &pantalla)
 ModeloPerdido::ModeloPerdido()
 {
     Rutas malas = m_buenas;
-    malas.modelo = malas.tablas + u"ninguna/OstrMod.mdb"_qs;
+    malas.modelo = malas.tablas + u"ninguna/OstrMod.mdb"_s;
     fijarRutas(malas);
 }

@@ -6,22 +6,24 @@
 
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 /// A fresh program folder with the real data service, fresh records and a session begun in it.
 class Entorno
 {
 public:
     /// Begins the session in `idioma` ("C" or "E"); empty: as on the first start, none chosen.
-    explicit Entorno(const QString &idioma = QStringLiteral("C"));
+    explicit Entorno(const QString &idioma = u"C"_s);
 
     QString ruta(const QString &relativa) const { return m_carpeta.filePath(relativa); }
     const InicioSesion &inicio() const { return m_inicio; }
 
     /// Stores a valid declarant of the home province; its key.
-    static qint32 altaDeclarante(const QString &dni = QStringLiteral("12345678Z"),
-                                 const QString &nombre = QStringLiteral("SEGUROS UNO"));
+    static qint32 altaDeclarante(const QString &dni = u"12345678Z"_s,
+                                 const QString &nombre = u"SEGUROS UNO"_s);
     /// Stores a return whose figures are all empty, and its header in cDecResumen; its key.
     static qint32 altaDeclaracion(qint32 csco, qint16 ejercicio, quint8 periodo,
-                                  const QString &modelo = QStringLiteral("430"));
+                                  const QString &modelo = u"430"_s);
 
     /// Switches the session to Basque and tells the screen so.
     static void pasarAEuskera(QObject &pantalla);

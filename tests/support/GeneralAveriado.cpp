@@ -2,11 +2,13 @@
 
 #include "server/Registro.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 [[noreturn]] void fallar()
 {
-    throw ErrorDatos(Fallo::SinEspacio, u"OstrMod.mdb"_qs);
+    throw ErrorDatos(Fallo::SinEspacio, u"OstrMod.mdb"_s);
 }
 
 class Doble : public SvrOstr::cDatosGeneral

@@ -12,15 +12,17 @@
 #include <functional>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 /// The real data service on files of its own, and the records that its tests start from.
 class ServidorPrueba
 {
 public:
     ServidorPrueba() { registrarServidor(); }
 
-    QString carpeta() const { return m_carpeta.filePath(u"Tablas"_qs); }
-    QString modelo() const { return carpeta() + u"/OstrMod.mdb"_qs; }
-    QString consulta() const { return carpeta() + u"/OstrLec.mdb"_qs; }
+    QString carpeta() const { return m_carpeta.filePath(u"Tablas"_s); }
+    QString modelo() const { return carpeta() + u"/OstrMod.mdb"_s; }
+    QString consulta() const { return carpeta() + u"/OstrLec.mdb"_s; }
 
     bool traspaso() const
     {
@@ -57,20 +59,20 @@ public:
 
     static Registro registro(const QString &dni, const QString &nombre)
     {
-        return {0,        dni,         nombre,    u"CL"_qs,        u"MAYOR"_qs,
-                7,        QString(),   QString(), u"2"_qs,         u"DCH"_qs,
-                u"20"_qs, u"20123"_qs, u"001"_qs, u"MUNICIPIO"_qs, u"943123456"_qs,
-                9.0,      9.0};
+        return {0,       dni,        nombre,    u"CL"_s,        u"MAYOR"_s,
+                7,       QString(),  QString(), u"2"_s,         u"DCH"_s,
+                u"20"_s, u"20123"_s, u"001"_s,  u"MUNICIPIO"_s, u"943123456"_s,
+                9.0,     9.0};
     }
     static Registro datos430(qint32 CSCO, int ejercicio, int periodo, double cuota, qint32 CSDE = 0)
     {
-        return {CSDE,     CSCO, ejercicio, 1,      periodo, u"430"_qs, 1,     u"X"_qs,
-                123456.0, 8.0F, 9876.0,    -100.0, -8.0,    123356.0,  6.01F, cuota};
+        return {CSDE,     CSCO, ejercicio, 1,      periodo, u"430"_s, 1,     u"X"_s,
+                123456.0, 8.0F, 9876.0,    -100.0, -8.0,    123356.0, 6.01F, cuota};
     }
     /// Box i of the record holds i + 1 cents; the rates are 8 and 6.
     static Registro datos480(qint32 CSCO, int ejercicio, qint32 CSDE = 0)
     {
-        Registro datos{CSDE, CSCO, ejercicio, 2, 12, u"480"_qs, 2};
+        Registro datos{CSDE, CSCO, ejercicio, 2, 12, u"480"_s, 2};
         for (int i = 0; i < Reg480::Total; ++i)
             datos += static_cast<double>(i + 1);
         datos[int(RegGuardar::Figuras) + Reg480::C74_TI1] = 8.0F;

@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 /// Returns to print that try the forms to the limit.
 namespace valoresPrueba {
 
@@ -14,8 +16,8 @@ inline ValoresImpreso vacio()
 {
     ValoresImpreso v;
     for (int i = 1; i < 82; ++i)
-        v.casilla(i) = QStringLiteral("0,00");
-    v.textos[Valor::Importe] = QStringLiteral("0,00");
+        v.casilla(i) = u"0,00"_s;
+    v.textos[Valor::Importe] = u"0,00"_s;
     return v;
 }
 
@@ -23,26 +25,26 @@ inline ValoresImpreso lleno()
 {
     const auto largo = [](int n) { return QString(n, u'W'); };
     ValoresImpreso v;
-    v.haciendaEuskera = QStringLiteral("Ogasun eta Finantza Departamentua");
-    v.haciendaCastellano = QStringLiteral("Departamento de Hacienda y Finanzas");
+    v.haciendaEuskera = u"Ogasun eta Finantza Departamentua"_s;
+    v.haciendaCastellano = u"Departamento de Hacienda y Finanzas"_s;
     v.textos = {
-        {Valor::Nif, QStringLiteral("W5881850W")},
+        {Valor::Nif, u"W5881850W"_s},
         {Valor::Nombre, largo(40)},
-        {Valor::Telefono, QStringLiteral("943123456")},
-        {Valor::Domicilio, QStringLiteral("CL ") + largo(30)},
-        {Valor::Numero, QStringLiteral("99999 WW")},
-        {Valor::Piso, QStringLiteral("ESC. WW WW WWW")},
+        {Valor::Telefono, u"943123456"_s},
+        {Valor::Domicilio, u"CL "_s + largo(30)},
+        {Valor::Numero, u"99999 WW"_s},
+        {Valor::Piso, u"ESC. WW WW WWW"_s},
         {Valor::Municipio, largo(25)},
-        {Valor::CodigoPostal, QStringLiteral("38001")},
+        {Valor::CodigoPostal, u"38001"_s},
         {Valor::Provincia, largo(20)},
-        {Valor::Ejercicio, QStringLiteral("2026")},
-        {Valor::Periodo, QStringLiteral("IRAILA / SEPTIEMBRE")},
-        {Valor::Fecha, QStringLiteral("31/12/2026")},
+        {Valor::Ejercicio, u"2026"_s},
+        {Valor::Periodo, u"IRAILA / SEPTIEMBRE"_s},
+        {Valor::Fecha, u"31/12/2026"_s},
         {Valor::Importe, textoImporte(-ImporteMaximo)},
     };
     for (int i = 1; i < 82; ++i)
         v.casilla(i) = textoImporte(i % 2 == 0 ? ImporteMaximo : -ImporteMaximo);
-    v.casilla(74) = v.casilla(77) = QStringLiteral("100,00");
+    v.casilla(74) = v.casilla(77) = u"100,00"_s;
     return v;
 }
 
@@ -50,9 +52,9 @@ inline ValoresImpreso lleno()
 inline ValoresImpreso para(const QString &modelo, ValoresImpreso v)
 {
     if (modelo == u"430")
-        v.casilla(2) = QStringLiteral("100,00");
+        v.casilla(2) = u"100,00"_s;
     else if (!v.texto(Valor::Periodo).isEmpty())
-        v.textos[Valor::Periodo] = QStringLiteral("URTEKOA / ANUAL");
+        v.textos[Valor::Periodo] = u"URTEKOA / ANUAL"_s;
     return v;
 }
 
