@@ -11,6 +11,7 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+using namespace impreso;
 
 namespace {
 

@@ -5,6 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace impreso {
 namespace {
 
 using namespace Impreso480;
@@ -110,3 +111,5 @@ void dibujarValoresClases(Lienzo &lienzo, const ValoresImpreso &impreso)
                     impreso.casilla(Reg480::casilla(fila, indice)));
     }
 }
+
+} // namespace impreso

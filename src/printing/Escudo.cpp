@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+namespace impreso {
+
 /// The drawing's own units: 100 wide, 120 high, the shield below the crown.
 static constexpr double Ancho = 100;
 static constexpr double Alto = 120;
@@ -123,3 +125,5 @@ void dibujarEscudo(QPainter &pintor, const QRectF &lugar)
     pintor.strokePath(corona(), contorno);
     pintor.restore();
 }
+
+} // namespace impreso

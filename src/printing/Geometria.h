@@ -3,6 +3,8 @@
 #include <QRectF>
 #include <QRgb>
 
+namespace impreso {
+
 /// Shapes and type of the official forms. Every length is in millimetres from the page's left edge
 /// and, downwards, from the top of the section that draws it; type sizes are in points.
 
@@ -66,3 +68,5 @@ inline constexpr Estilo EstiloInicial{Letra::Arial, 8, true, Tinta::Negro};
 /// Printed labels: Basque in bold, Castilian beside it in roman.
 inline constexpr Estilo EstiloEtiqueta{Letra::Times, 7, true, Tinta::Oscura};
 inline constexpr Estilo EstiloValor{Letra::Arial, 9, false, Tinta::Negro};
+
+} // namespace impreso

@@ -5,6 +5,7 @@
 #include "printing/Membrete.h"
 #include "printing/Tablas430.h"
 
+namespace impreso {
 namespace {
 
 using namespace Impreso430;
@@ -120,3 +121,5 @@ void dibujar430(QPainter &pintor, const ValoresImpreso &impreso, QStringView cop
     }
     dibujarMarca(lienzo, copia);
 }
+
+} // namespace impreso

@@ -6,6 +6,7 @@
 #include "printing/Membrete.h"
 #include "printing/Tablas480.h"
 
+namespace impreso {
 namespace {
 
 using namespace Impreso480;
@@ -144,3 +145,5 @@ void dibujar480(QPainter &pintor, const ValoresImpreso &impreso, QStringView cop
     }
     dibujarMarca(lienzo, copia);
 }
+
+} // namespace impreso

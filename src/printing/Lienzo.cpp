@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace impreso {
+
 static constexpr double PulgadaMm = 25.4;
 static constexpr double PuntoMm = PulgadaMm / 72;
 /// Size, in pixels, at which every text is laid out.
@@ -162,3 +164,5 @@ double Lienzo::texto(const Caja &caja, const QString &texto, Qt::AlignmentFlag a
     m_pintor.setTransform(anterior);
     return ancho;
 }
+
+} // namespace impreso

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QString>
 
+namespace impreso {
+
 /// A page on any paint device, in millimetres from its top-left corner, with the shapes that the
 /// forms are made of. The painter's state is saved on construction and restored at the end.
 ///
@@ -48,3 +50,5 @@ private:
     QTransform m_pagina;
     Estilo m_estilo = EstiloInicial;
 };
+
+} // namespace impreso

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+namespace impreso {
 namespace {
 
 struct Marca
@@ -49,3 +50,5 @@ void dibujarMarca(Lienzo &lienzo, QStringView copia)
     lienzo.texto({dentro.x, dentro.y + mitad, dentro.ancho, mitad}, marca->castellano.toString(),
                  Qt::AlignHCenter);
 }
+
+} // namespace impreso

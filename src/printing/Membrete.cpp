@@ -3,6 +3,7 @@
 #include "printing/Escudo.h"
 #include "printing/Piezas.h"
 
+namespace impreso {
 namespace {
 
 constexpr QStringView DireccionWeb = u"www.varlenda.example";
@@ -45,3 +46,5 @@ void dibujarMembrete(Lienzo &lienzo, const ValoresImpreso &impreso, QStringView 
     lienzo.texto(CajaWeb, DireccionWeb.toString(), Qt::AlignRight);
     numeroModelo(lienzo, modelo);
 }
+
+} // namespace impreso

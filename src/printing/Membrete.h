@@ -2,6 +2,8 @@
 
 #include "printing/ValoresImpreso.h"
 
+namespace impreso {
+
 class Lienzo;
 
 /// Height of the letterhead, which stands above the top of a form's header section.
@@ -9,3 +11,5 @@ inline constexpr double AltoMembrete = 18;
 
 /// Letterhead of both forms: arms, treasury, department, tax and the model's number.
 void dibujarMembrete(Lienzo &lienzo, const ValoresImpreso &impreso, QStringView modelo);
+
+} // namespace impreso

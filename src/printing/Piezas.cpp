@@ -2,6 +2,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace impreso {
+
 static constexpr double Holgura = 1; ///< between a frame and the text inside, sideways
 static constexpr double AnchoNumero = 5;
 
@@ -139,3 +141,5 @@ void tipo(Lienzo &lienzo, const Caja &caja, const QString &texto)
     const double ancho = dentro.ancho - Holgura - anchoSigno(lienzo);
     lienzo.texto({dentro.x + Holgura, dentro.y, ancho, dentro.alto}, texto, Qt::AlignRight);
 }
+
+} // namespace impreso

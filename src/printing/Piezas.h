@@ -5,6 +5,8 @@
 
 #include <span>
 
+namespace impreso {
+
 /// The pieces that both forms are made of.
 
 /// A label in both languages, exactly as printed: the slash belongs to the Basque text.
@@ -53,3 +55,5 @@ void importe(Lienzo &lienzo, const Caja &caja, const QString &texto);
 /// A rate: like an amount, left of the printed "%". Both in the current type.
 void signoTipo(Lienzo &lienzo, const Caja &caja);
 void tipo(Lienzo &lienzo, const Caja &caja, const QString &texto);
+
+} // namespace impreso

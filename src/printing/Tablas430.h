@@ -4,6 +4,8 @@
 
 #include <array>
 
+namespace impreso {
+
 /// Labels and places of the model 430 form.
 namespace Impreso430 {
 
@@ -91,3 +93,5 @@ inline constexpr Par EtiquetaSello{u"Zigilua eta sinadura/", u"Sello y Firma"};
 inline constexpr Caja CajaSello{125, 6.4, 74, 54.6};
 
 } // namespace Impreso430
+
+} // namespace impreso

@@ -5,6 +5,8 @@
 
 #include <array>
 
+namespace impreso {
+
 /// Labels and places of the model 480 form. The class labels are those of Clases480.h.
 namespace Impreso480 {
 
@@ -144,3 +146,5 @@ inline constexpr Par EtiquetaFirma{u"Entitatearen ordezkariaren sinadura /",
 inline constexpr Caja CajaSinadura{59.5, 36, 139.5, 29};
 
 } // namespace Impreso480
+
+} // namespace impreso

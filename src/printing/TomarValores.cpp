@@ -17,6 +17,7 @@
 
 using namespace Qt::StringLiterals;
 
+namespace impreso {
 namespace {
 
 /// What `texto` gives in Basque and in Castilian, whatever the session's language.
@@ -122,3 +123,5 @@ void tomarHacienda(ValoresImpreso &impreso, SvrKtComunLib::cMiscelaneos &servici
     impreso.haciendaEuskera = titular.section(u'\n', 0, 0);
     impreso.haciendaCastellano = titular.section(u'\n', 1, 1);
 }
+
+} // namespace impreso

@@ -19,6 +19,8 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 
+using namespace impreso;
+
 static ValoresImpreso cargarValores(const cImOf &peticion)
 {
     if (peticion.MODELO() == Modelo430) {

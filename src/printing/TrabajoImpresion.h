@@ -46,7 +46,7 @@ private:
     int m_periodo = 0;
     QString m_nif;
     QStringList m_copias;
-    ValoresImpreso m_valores;
+    impreso::ValoresImpreso m_valores;
 };
 
 /// A4, upright, drawn from the sheet's corner.

@@ -5,6 +5,8 @@
 
 #include <array>
 
+namespace impreso {
+
 /// What is filled in on a form besides the numbered boxes.
 enum class Valor {
     Ninguno,
@@ -36,3 +38,5 @@ struct ValoresImpreso
     const QString &casilla(int numero) const { return casillas.at(static_cast<size_t>(numero)); }
     QString &casilla(int numero) { return casillas.at(static_cast<size_t>(numero)); }
 };
+
+} // namespace impreso

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
+using namespace impreso;
 
 /// Returns to print that try the forms to the limit.
 namespace valoresPrueba {
