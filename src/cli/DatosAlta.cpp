@@ -4,37 +4,22 @@
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/Listas.h"
-#include "declarants/cDecDatos.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
-/// An option, the width that it may have and where it goes; those that depend on a table have no
-/// place of their own.
-struct CampoAlta
+QString opcionDe(const campos::Definicion &campo)
 {
-    QStringView opcion;
-    int ancho;
-    void (cDecDatos::*escribir)(const QString &) = nullptr;
-};
+    return campo.nombre.toString().toLower();
+}
 
-static constexpr CampoAlta Campos[] = {
-    {u"dni", 9, &cDecDatos::DNI},
-    {u"nombre", 40, &cDecDatos::NOMBRE},
-    {u"domicilio", 20, &cDecDatos::DOMICILIO},
-    {u"codpos", 5, &cDecDatos::CODPOS},
-    {u"telefono", 9, &cDecDatos::TELEFONO},
-    {u"letra", 2, &cDecDatos::LETRA},
-    {u"escalera", 2, &cDecDatos::ESCALERA},
-    {u"piso", 2, &cDecDatos::PISO},
-    {u"mano", 3, &cDecDatos::MANO},
-    {u"nommun", 25, &cDecDatos::NOMMUN},
-    {u"numero", 5},
-    {u"via", 2},
-    {u"codprov", 2},
-    {u"codmun", 3},
-};
+/// Fields whose value depends on a table, or is a number, have a check of their own.
+static bool vaTalCual(campos::Campo campo)
+{
+    using enum RegDeclarante::Campo;
+    return campo != NUMERO && campo != VIA && campo != CODPROV && campo != CODMUN;
+}
 
 static Rechazo valorMalo(QStringView opcion, const QString &valor)
 {
@@ -46,16 +31,16 @@ static QString texto(const Argumentos &argumentos, QStringView opcion)
     return argumentos.valor(opcion).trimmed().toUpper();
 }
 
-static Rechazo tomarTexto(const CampoAlta &campo, const QString &valor)
+static Rechazo tomarTexto(const campos::Definicion &campo, const QString &valor)
 {
-    const QString opcion = conGuiones(campo.opcion);
+    const QString opcion = conGuiones(opcionDe(campo));
     const auto malo = std::ranges::find_if_not(valor, admitidoEnFichero);
     if (malo != valor.end())
         return rechazado(msj(Msj::CliCaracterNoAdmitido, QString(*malo), opcion));
     if (valor.size() > campo.ancho)
         return rechazado(msj(Msj::CliDemasiadoLargo, opcion, QString::number(campo.ancho)));
-    if (campo.escribir)
-        (unico::la<cDecDatos>().*campo.escribir)(valor);
+    if (vaTalCual(campo.campo))
+        campos::escribir(campo.campo, unico::la<cDecDatos>(), valor);
     return {};
 }
 
@@ -115,9 +100,12 @@ static Rechazo tomarMunicipio(const QString &codigo, const QString &nombre)
 Rechazo tomarDatosAlta(const Argumentos &argumentos)
 {
     unico::la<cDecDatos>().MODO(u"A"_s);
-    for (const CampoAlta &campo : Campos)
-        if (auto fallo = tomarTexto(campo, texto(argumentos, campo.opcion)))
+    for (const auto &campo : campos::tabla) {
+        if (campo.clase == campos::Clase::Contador)
+            continue;
+        if (auto fallo = tomarTexto(campo, texto(argumentos, opcionDe(campo))))
             return fallo;
+    }
     if (auto fallo = tomarNumero(texto(argumentos, u"numero")))
         return fallo;
     if (argumentos.tiene(u"via"))

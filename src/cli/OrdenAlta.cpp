@@ -2,11 +2,6 @@
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/MensajesDeclarante.h"
-#include "declarants/cDecDatos.h"
-
-/// The option of each element of a RegValidacion.
-static constexpr QStringView OpcionDe[RegValidacion::Total]
-    = {u"dni", u"nombre", u"domicilio", u"codprov", u"codpos", u"codmun", u"nommun", u"telefono"};
 
 static Resultado declaranteAlta(const Argumentos &argumentos)
 {
@@ -15,9 +10,10 @@ static Resultado declaranteAlta(const Argumentos &argumentos)
     const auto &declarante = unico::la<cDecDatos>();
     const qint16 regla = declarante.ValidarDatosDeclarante(declarante.RegistroValidacion());
     if (regla != 0)
-        return rechazado(msj(Msj::CliOpcionMal,
-                             conGuiones(OpcionDe[campoValidacionDeclarante(regla)]),
-                             textoValidacionDeclarante(regla)));
+        return rechazado(
+            msj(Msj::CliOpcionMal,
+                conGuiones(opcionDe(campos::deValidacion(campoValidacionDeclarante(regla)))),
+                textoValidacionDeclarante(regla)));
     const qint16 guardado = declarante.GuardarDeclarante(declarante.RegistroCompleto());
     if (guardado != 0)
         return rechazado(textoGuardarDeclarante(guardado));

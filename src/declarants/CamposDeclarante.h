@@ -1,34 +1,22 @@
 #pragma once
 
-#include "core/Textos.h"
 #include "declarants/cDecDatos.h"
 
 #include <array>
 #include <variant>
 
-/// The boxes of the declarant form, in the order of the keyboard, as one table.
+/// The fields of a declarant as one table, in the order of the record and of the exchange file. The
+/// form, the command line and the exchange read it.
 namespace campos {
 
-enum Campo {
-    DNI,
-    NOMBRE,
-    VIA,
-    VIAAUX,
-    DOMICILIO,
-    NUMERO,
-    LETRA,
-    ESCALERA,
-    PISO,
-    MANO,
-    CODPROV,
-    NOMPROV,
-    CODPOS,
-    CODMUN,
-    NOMMUN,
-    TELEFONO,
-    NUM430,
-    NUM480,
-    Total
+using Campo = RegDeclarante::Campo; ///< a field is called by its element of the full record
+
+enum class Clase {
+    Texto, ///< in capitals
+    Numero, ///< digits, zero is none
+    Codigo, ///< digits of a fixed width, held as text
+    Telefono, ///< digits, held as text
+    Contador, ///< counted by the program, never typed
 };
 
 struct Texto
@@ -44,42 +32,42 @@ struct Numero
 struct Contador
 {
     double (cDecDatos::*leer)() const;
+    void (cDecDatos::*escribir)(double);
 };
-/// monostate: a box that shows something that is no property of the record.
-using Propiedad = std::variant<std::monostate, Texto, Numero, Contador>;
-
-/// How a value is shown, and what of it the record holds.
-enum class Imagen {
-    Tal, ///< as it is
-    Dos, ///< two digits, "01"
-    Cinco, ///< five digits, "01005"
-    Municipio, ///< shown without zeros in front, three digits in the record
-    Entero, ///< without zeros in front, zero is empty
-    Miles, ///< grouped thousands
-};
+using Propiedad = std::variant<Texto, Numero, Contador>;
 
 struct Definicion
 {
-    QStringView control;
-    Msj etiqueta; ///< text of its label, and its name for a screen reader
-    bool conEtiqueta; ///< a label of its own, called "lbl" and the rest of the control's name
-    int limite;
-    Imagen imagen;
+    Campo campo;
+    QStringView nombre; ///< of the property
+    QStringView enFichero; ///< as the description of the exchange file calls it
+    Clase clase;
+    int ancho; ///< characters that can be typed
+    int columna; ///< where it starts in a line of the exchange file, from 1
+    int anchoFichero; ///< and how many characters it has there
     Propiedad propiedad;
-    int validacion = -1; ///< element of RegValidacion
+    int validacion = -1; ///< element of RegValidacion; -1 none
 };
 
-extern const std::array<Definicion, Total> tabla;
+inline constexpr int Cuantos = RegDeclarante::Total - 1; ///< without the key
+inline constexpr int AnchoLinea = 153; ///< characters of a line of the exchange file
 
-/// What the box shows.
-QString presentar(Campo campo, const cDecDatos &datos);
-/// Takes what was typed; false when the record holds that already.
-bool tomar(Campo campo, cDecDatos &datos, const QString &texto);
-/// What the record would hold of a typed text.
+extern const std::array<Definicion, Cuantos> tabla;
+
+const Definicion &definicion(Campo campo);
+/// The field of an element of RegValidacion.
+const Definicion &deValidacion(int elemento);
+/// Whether only digits can stand in it.
+bool soloCifras(Clase clase);
+
+/// The property as text; a number without zeros in front.
+QString leer(Campo campo, const cDecDatos &datos);
+/// Writes the property of a text in the form that `valor` gives.
+void escribir(Campo campo, cDecDatos &datos, const QString &valor);
+/// What the record holds of a text that was typed: capitals, codes filled up with zeros, a number
+/// or a municipality that is all zeros is empty.
 QString valor(Campo campo, const QString &texto);
-/// The box of an element of RegValidacion.
-Campo deValidacion(int elemento);
-
-bool soloCifras(Campo campo);
+/// Takes a typed text; false when the record holds that already.
+bool tomar(Campo campo, cDecDatos &datos, const QString &texto);
 
 } // namespace campos

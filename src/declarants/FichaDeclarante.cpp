@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-using namespace campos;
+using namespace cajas;
 
 static constexpr int Separacion = 16;
 
@@ -38,11 +38,11 @@ FichaDeclarante::FichaDeclarante(QWidget *padre)
 void FichaDeclarante::crearCajas()
 {
     for (int i = 0; i < Total; ++i) {
-        const auto campo = static_cast<Campo>(i);
+        const auto campo = static_cast<Cual>(i);
         const auto &definicion = tabla[campo];
         const auto filtro = soloCifras(campo) ? CajaTexto::Cifras : CajaTexto::Texto;
         const QString nombre = definicion.control.toString();
-        m_cajas[campo] = new CajaTexto(nombre, definicion.limite, filtro, this);
+        m_cajas[campo] = new CajaTexto(nombre, limite(campo), filtro, this);
         if (definicion.conEtiqueta) {
             m_etiquetas[campo] = new QLabel(this);
             m_etiquetas[campo]->setObjectName(u"lbl"_s + nombre.mid(3));
@@ -50,9 +50,9 @@ void FichaDeclarante::crearCajas()
         }
     }
     m_etiquetas[NOMPROV]->setBuddy(m_cajas[CODPROV]);
-    for (const Campo campo : {VIAAUX, NOMPROV, NUM430, NUM480})
+    for (const Cual campo : {VIAAUX, NOMPROV, NUM430, NUM480})
         m_cajas[campo]->bloquear(true);
-    for (const Campo campo : {NUMERO, NUM430, NUM480})
+    for (const Cual campo : {NUMERO, NUM430, NUM480})
         m_cajas[campo]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
@@ -128,7 +128,7 @@ QGroupBox *FichaDeclarante::grupoDomicilio()
 
     auto *menores = new QHBoxLayout;
     menores->setSpacing(Separacion);
-    for (const Campo campo : {NUMERO, LETRA, ESCALERA, PISO, MANO})
+    for (const Cual campo : {NUMERO, LETRA, ESCALERA, PISO, MANO})
         menores->addLayout(disponer({campo, {m_cajas[campo]}}));
     menores->addStretch(1);
     celdas->addLayout(menores, 1, 0, 1, 2);
@@ -149,7 +149,7 @@ QGroupBox *FichaDeclarante::grupoContadores()
     auto *fila = new QHBoxLayout(grupo);
     fila->setContentsMargins(14, 10, 14, 12);
     fila->setSpacing(8);
-    for (const Campo campo : {NUM430, NUM480}) {
+    for (const Cual campo : {NUM430, NUM480}) {
         fila->addWidget(m_etiquetas[campo]);
         fila->addWidget(m_cajas[campo]);
         fila->addSpacing(Separacion);
@@ -183,7 +183,7 @@ void FichaDeclarante::Anadir_captions()
     m_cmdProvincia->setFixedWidth(ancho);
     m_cmdMunicipio->setFixedWidth(ancho);
     const int codigo = m_cajas[CODMUN]->sizeHint().width();
-    for (const Campo campo : {VIA, CODPROV, CODMUN})
+    for (const Cual campo : {VIA, CODPROV, CODMUN})
         m_cajas[campo]->setFixedWidth(codigo);
     m_identificacion->setTitle(msj(Msj::GrupoIdentificacion));
     m_domicilio->setTitle(msj(Msj::GrupoDomicilioFiscal));
@@ -203,7 +203,7 @@ void FichaDeclarante::PresentaDatos(const cDecDatos &datos, const QString &nombr
 {
     for (int i = 0; i < Total; ++i)
         if (i != VIAAUX)
-            m_cajas[static_cast<size_t>(i)]->mostrar(presentar(static_cast<Campo>(i), datos));
+            m_cajas[static_cast<size_t>(i)]->mostrar(presentar(static_cast<Cual>(i), datos));
     PresentaNombres(datos, nombreVia);
 
     const bool propia = datos.enProvinciaPropia();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "declarants/CamposDeclarante.h"
+#include "declarants/CajasDeclarante.h"
 
 #include <QFrame>
 
@@ -24,7 +24,7 @@ public:
     /// Only what depends on the language.
     void PresentaNombres(const cDecDatos &datos, const QString &nombreVia);
 
-    CajaTexto *caja(campos::Campo campo) const { return m_cajas[campo]; }
+    CajaTexto *caja(cajas::Cual campo) const { return m_cajas[campo]; }
     QPushButton *cmdVia() const { return m_cmdVia; }
     QPushButton *cmdProvincia() const { return m_cmdProvincia; }
     QPushButton *cmdMunicipio() const { return m_cmdMunicipio; }
@@ -32,7 +32,7 @@ public:
 private:
     struct Celda
     {
-        campos::Campo etiqueta; ///< the box whose label stands over the cell
+        cajas::Cual etiqueta; ///< the box whose label stands over the cell
         QList<QWidget *> controles;
     };
 
@@ -44,8 +44,8 @@ private:
     QGroupBox *grupoDomicilio();
     QGroupBox *grupoContadores();
 
-    std::array<CajaTexto *, campos::Total> m_cajas{};
-    std::array<QLabel *, campos::Total> m_etiquetas{};
+    std::array<CajaTexto *, cajas::Total> m_cajas{};
+    std::array<QLabel *, cajas::Total> m_etiquetas{};
     QPushButton *m_cmdVia;
     QPushButton *m_cmdProvincia;
     QPushButton *m_cmdMunicipio;

@@ -16,7 +16,7 @@
 
 using namespace Qt::StringLiterals;
 
-using namespace campos;
+using namespace cajas;
 
 static cDecDatos &registro()
 {
@@ -69,7 +69,7 @@ void frmDecDatos::crearListas()
 void frmDecDatos::conectarCajas()
 {
     for (int i = 0; i < Total; ++i) {
-        const auto campo = static_cast<Campo>(i);
+        const auto campo = static_cast<Cual>(i);
         m_ficha->caja(campo)->alConfirmar = [this, campo] { return tomarCampo(campo); };
     }
     m_ficha->caja(CODPROV)->alConfirmar = [this] { return tomarCodigoProvincia(); };
@@ -121,9 +121,9 @@ void frmDecDatos::showEvent(QShowEvent *evento)
         m_ficha->caja(DNI)->setFocus(Qt::OtherFocusReason);
 }
 
-bool frmDecDatos::tomarCampo(Campo campo)
+bool frmDecDatos::tomarCampo(Cual campo)
 {
-    if (campos::tomar(campo, registro(), m_ficha->caja(campo)->text()))
+    if (cajas::tomar(campo, registro(), m_ficha->caja(campo)->text()))
         m_modificado = true;
     PresentaDatos();
     return true;
@@ -132,7 +132,7 @@ bool frmDecDatos::tomarCampo(Campo campo)
 /// A code that is not in the table opens the list; none at all empties the province first.
 bool frmDecDatos::tomarCodigoProvincia()
 {
-    const QString codigo = valor(CODPROV, m_ficha->caja(CODPROV)->text());
+    const QString codigo = campos::valor(RegDeclarante::CODPROV, m_ficha->caja(CODPROV)->text());
     const auto &lista = m_listas[PROVINCIAS];
     if (codigo != registro().CODPROV()) {
         if (const auto *provincia = buscarCodigo(lista.selector->lista(), codigo)) {
@@ -153,7 +153,7 @@ bool frmDecDatos::tomarCodigoProvincia()
 /// The name follows from the code; a code that is not in the table opens the list.
 bool frmDecDatos::tomarCodigoMunicipio()
 {
-    const QString codigo = valor(CODMUN, m_ficha->caja(CODMUN)->text());
+    const QString codigo = campos::valor(RegDeclarante::CODMUN, m_ficha->caja(CODMUN)->text());
     const auto &lista = m_listas[MUNICIPIOS];
     if (codigo != registro().CODMUN()) {
         const auto *municipio = buscarCodigo(lista.selector->lista(), codigo);
@@ -169,12 +169,12 @@ bool frmDecDatos::tomarCodigoMunicipio()
 
 void frmDecDatos::tomarVia(const QString &codigo, const QString &)
 {
-    m_modificado = campos::tomar(VIA, registro(), codigo) || m_modificado;
+    m_modificado = cajas::tomar(VIA, registro(), codigo) || m_modificado;
 }
 
 void frmDecDatos::tomarProvincia(const QString &codigo, const QString &nombre)
 {
-    if (valor(CODPROV, codigo) == registro().CODPROV())
+    if (campos::valor(RegDeclarante::CODPROV, codigo) == registro().CODPROV())
         return;
     registro().CambiarProvincia(codigo, nombre);
     m_modificado = true;
@@ -182,8 +182,8 @@ void frmDecDatos::tomarProvincia(const QString &codigo, const QString &nombre)
 
 void frmDecDatos::tomarMunicipio(const QString &codigo, const QString &nombre)
 {
-    const bool otroCodigo = campos::tomar(CODMUN, registro(), codigo);
-    const bool otroNombre = campos::tomar(NOMMUN, registro(), nombre);
+    const bool otroCodigo = cajas::tomar(CODMUN, registro(), codigo);
+    const bool otroNombre = cajas::tomar(NOMMUN, registro(), nombre);
     m_modificado = m_modificado || otroCodigo || otroNombre;
 }
 

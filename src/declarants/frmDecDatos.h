@@ -1,6 +1,6 @@
 #pragma once
 
-#include "declarants/CamposDeclarante.h"
+#include "declarants/CajasDeclarante.h"
 #include "widgets/PantallaBase.h"
 
 #include <array>
@@ -36,8 +36,8 @@ private:
     /// A pick list: the box of its code, its button, where its choice goes.
     struct Lista
     {
-        campos::Campo codigo;
-        campos::Campo siguiente; ///< gets the focus after a choice
+        cajas::Cual codigo;
+        cajas::Cual siguiente; ///< gets the focus after a choice
         QPushButton *boton;
         SelectorLista *selector;
         void (frmDecDatos::*tomar)(const QString &codigo, const QString &nombre);
@@ -50,7 +50,7 @@ private:
     void PresentaDatos();
     QString nombreVia() const;
 
-    bool tomarCampo(campos::Campo campo);
+    bool tomarCampo(cajas::Cual campo);
     bool tomarCodigoProvincia();
     bool tomarCodigoMunicipio();
     void tomarVia(const QString &codigo, const QString &nombre);
@@ -59,7 +59,7 @@ private:
 
     const Lista *listaAbierta() const;
     void abrirLista(const Lista &lista);
-    void cerrarLista(campos::Campo enfocado);
+    void cerrarLista(cajas::Cual enfocado);
 
     void aceptar();
     void cancelar();

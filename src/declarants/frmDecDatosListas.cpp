@@ -35,12 +35,12 @@ void frmDecDatos::abrirLista(const Lista &lista)
     lista.selector->setGeometry(bajo.x(), arriba, std::min(AnchoMinimo, width() - bajo.x()),
                                 fondo - arriba);
     // opened first, so that disabling the form finds the focus gone and moves it nowhere
-    lista.selector->abrir(campos::presentar(lista.codigo, unico::la<cDecDatos>()));
+    lista.selector->abrir(cajas::presentar(lista.codigo, unico::la<cDecDatos>()));
     m_ficha->setEnabled(false);
     m_botones->setEnabled(false);
 }
 
-void frmDecDatos::cerrarLista(campos::Campo enfocado)
+void frmDecDatos::cerrarLista(cajas::Cual enfocado)
 {
     const bool elegido = std::ranges::none_of(
         m_listas, [enfocado](const Lista &l) { return l.codigo == enfocado; });
