@@ -67,7 +67,7 @@ std::unique_ptr<MDIOstrel> Arranque::iniciar()
 void Arranque::elegirIdioma()
 {
     FrmIdioma eleccion;
-    eleccion.exec();
+    eleccion.ejecutar();
 }
 
 void Arranque::mostrarInicio()

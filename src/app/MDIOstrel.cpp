@@ -5,7 +5,6 @@
 #include "app/Pantallas.h"
 #include "app/Recientes.h"
 #include "app/Version.h"
-#include "app/frmAbout.h"
 #include "core/CEntrada.h"
 #include "core/Unico.h"
 #include "declarants/cDecDatos.h"
@@ -24,6 +23,7 @@ MDIOstrel::MDIOstrel(QWidget *padre)
     : QMainWindow(padre)
     , m_mandos(new Mandos(this))
     , m_recientes(new Recientes(m_mandos->menu(0)))
+    , m_estado(new QLabel(this))
     , m_version(new QLabel(this))
 {
     setObjectName(u"MDIOstrel"_s);
@@ -33,6 +33,9 @@ MDIOstrel::MDIOstrel(QWidget *padre)
     setCentralWidget(area);
     m_pantallas = new Pantallas(area, this);
     m_version->setContentsMargins(0, 0, 10, 0);
+    m_estado->setObjectName(u"lblEstado"_s);
+    m_estado->setContentsMargins(10, 0, 0, 0);
+    statusBar()->addWidget(m_estado, 1);
     statusBar()->addPermanentWidget(m_version);
     statusBar()->setSizeGripEnabled(false);
     conectar();
@@ -48,7 +51,7 @@ MDIOstrel::~MDIOstrel()
 void MDIOstrel::conectar()
 {
     connect(m_mandos, &Mandos::pedido, this,
-            [this](Mando mando) { procedimiento(this, [&] { atender(mando); }); });
+            [this](const Destino &destino) { procedimiento(this, [&] { atender(destino); }); });
     connect(m_recientes, &Recientes::elegido, this,
             [this](qint32 csco, const QString &dni, const QString &nombre) {
                 procedimiento(this, [&] { verReciente(csco, dni, nombre); });
@@ -57,6 +60,7 @@ void MDIOstrel::conectar()
         connect(m_mandos->menu(menu), &QMenu::aboutToShow, this, &MDIOstrel::actualizarEstados);
     }
     connect(m_pantallas, &Pantallas::cambiadas, this, &MDIOstrel::actualizarEstados);
+    connect(m_pantallas, &Pantallas::dicho, this, &MDIOstrel::mostrarEnEstado);
     connect(m_pantallas, &Pantallas::datosCambiados, this, &MDIOstrel::alCambiarDatos);
 }
 
@@ -94,7 +98,15 @@ void MDIOstrel::DescargarTodosLosFormularios()
     m_pantallas->terminar();
 }
 
-void MDIOstrel::atender(Mando mando)
+void MDIOstrel::atender(const Destino &destino)
+{
+    if (const auto *mando = std::get_if<Mando>(&destino))
+        cumplir(*mando);
+    else if (const auto *pantalla = std::get_if<Pantalla>(&destino))
+        m_pantallas->abrir(*pantalla);
+}
+
+void MDIOstrel::cumplir(Mando mando)
 {
     switch (mando) {
     case Mando::Nuevo:
@@ -103,8 +115,6 @@ void MDIOstrel::atender(Mando mando)
         return listaDeclarantes(u"C"_s);
     case Mando::Eliminar:
         return listaDeclarantes(u"E"_s);
-    case Mando::AcercaDe:
-        return (new frmAbout(this))->open();
     case Mando::Salir:
         close();
         return;
@@ -137,6 +147,15 @@ void MDIOstrel::verReciente(qint32 csco, const QString &dni, const QString &nomb
     resumen.ENTRADA(u"A"_s);
     resumen.TomarDeclarante(csco, dni, nombre);
     m_pantallas->abrir(Pantalla::Resumen);
+}
+
+void MDIOstrel::mostrarEnEstado(const QString &texto, bool pasajera)
+{
+    constexpr int milisegundos = 6000;
+    if (pasajera)
+        statusBar()->showMessage(texto, milisegundos);
+    else
+        m_estado->setText(texto);
 }
 
 void MDIOstrel::alCambiarDatos()

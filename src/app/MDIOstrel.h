@@ -29,16 +29,19 @@ protected:
 
 private:
     void conectar();
-    void atender(Mando mando);
+    void atender(const Destino &destino);
+    void cumplir(Mando mando);
     void nuevoDeclarante();
     void listaDeclarantes(const QString &modo);
     void verReciente(qint32 csco, const QString &dni, const QString &nombre);
     void DescargarTodosLosFormularios();
+    void mostrarEnEstado(const QString &texto, bool pasajera);
     void alCambiarDatos();
     void actualizarEstados();
 
     Mandos *m_mandos;
     Recientes *m_recientes;
     Pantallas *m_pantallas;
+    QLabel *m_estado; ///< what was last done
     QLabel *m_version;
 };

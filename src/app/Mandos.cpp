@@ -22,7 +22,7 @@ void habilitar(QAction *accion, const QString &motivo, const QString &pista)
 
 static QString motivoContra(const EntradaMenu &entrada, const Situacion &situacion)
 {
-    if (entrada.condiciones & Venidera)
+    if (std::holds_alternative<std::monostate>(entrada.destino))
         return msj(Msj::ProximaVersion);
     if ((entrada.condiciones & SinEdicion) && situacion.editando)
         return msj(Msj::DeshabilitadoEnEdicion);
@@ -55,8 +55,8 @@ void Mandos::crearMenus(QMainWindow *ventana)
         accion->setObjectName(nombreDe(entrada.nombre));
         accion->setShortcut(QKeySequence(nombreDe(entrada.atajo)));
         connect(accion, &QAction::triggered, this,
-                [this, mando = entrada.mando] { Q_EMIT pedido(mando); });
-        m_acciones.insert(entrada.mando, accion);
+                [this, destino = entrada.destino] { Q_EMIT pedido(destino); });
+        m_acciones.insert(QLatin1StringView(entrada.nombre), accion);
     }
 }
 
@@ -71,7 +71,7 @@ void Mandos::crearBarra(QMainWindow *ventana)
     for (const auto &entrada : tablaBarra()) {
         if (entrada.trasSeparador)
             m_barra->addSeparator();
-        auto *delMenu = m_acciones.value(entrada.mando);
+        auto *delMenu = m_acciones.value(QLatin1StringView(entrada.entrada));
         auto *accion = m_barra->addAction(delMenu->icon(), QString());
         accion->setObjectName(nombreDe(entrada.nombre));
         m_barra->widgetForAction(accion)->setObjectName(accion->objectName());
@@ -85,7 +85,7 @@ void Mandos::Anadir_captions()
     for (qsizetype i = 0; i < m_menus.size(); ++i)
         m_menus.at(i)->setTitle(msj(tablaMenus()[static_cast<std::size_t>(i)].texto));
     for (const auto &entrada : tablaEntradas())
-        m_acciones.value(entrada.mando)->setText(msj(entrada.texto));
+        m_acciones.value(QLatin1StringView(entrada.nombre))->setText(msj(entrada.texto));
     m_barra->setWindowTitle(msj(Msj::AccesibleBarraHerramientas));
     m_barra->setAccessibleName(msj(Msj::AccesibleBarraHerramientas));
     for (const auto &entrada : tablaBarra())
@@ -97,12 +97,12 @@ void Mandos::aplicar(const Situacion &situacion)
 {
     m_situacion = situacion;
     for (const auto &entrada : tablaEntradas()) {
-        habilitar(m_acciones.value(entrada.mando), motivoContra(entrada, situacion),
-                  msj(entrada.pista));
+        habilitar(m_acciones.value(QLatin1StringView(entrada.nombre)),
+                  motivoContra(entrada, situacion), msj(entrada.pista));
     }
     for (const auto &entrada : tablaBarra()) {
         auto *accion = m_barra->findChild<QAction *>(nombreDe(entrada.nombre));
-        const auto *delMenu = m_acciones.value(entrada.mando);
+        const auto *delMenu = m_acciones.value(QLatin1StringView(entrada.entrada));
         accion->setStatusTip(delMenu->statusTip());
         accion->setToolTip(delMenu->isEnabled() ? msj(entrada.texto) : delMenu->toolTip());
     }

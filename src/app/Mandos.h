@@ -31,14 +31,14 @@ public:
     void aplicar(const Situacion &situacion);
 
 Q_SIGNALS:
-    void pedido(Mando mando);
+    void pedido(const Destino &destino);
 
 private:
     void crearMenus(QMainWindow *ventana);
     void crearBarra(QMainWindow *ventana);
 
     QList<QMenu *> m_menus;
-    QHash<Mando, QAction *> m_acciones;
+    QHash<QLatin1StringView, QAction *> m_acciones; ///< by the names of the table
     QToolBar *m_barra = nullptr;
     Situacion m_situacion;
 };

@@ -22,20 +22,21 @@ PantallaBase *Pantallas::pantalla(Pantalla cual) const
     return abierta && !abierta->isHidden() ? abierta : nullptr;
 }
 
-void Pantallas::abrir(Pantalla cual)
+bool Pantallas::abrir(Pantalla cual)
 {
     if (m_terminado || cual == Pantalla::Ninguna)
-        return;
+        return false;
     const auto *datos = datosPantalla(cual);
-    procedimiento(m_ventana, [&] {
+    const bool abierta = procedimiento(m_ventana, [&] {
         if (datos->caduca && datos->caduca())
             cerrar(cual);
-        if (auto *abierta = pantalla(cual))
-            traerDelante(abierta);
+        if (auto *anterior = pantalla(cual))
+            traerDelante(anterior);
         else
             mostrarNueva(*datos);
     });
     Q_EMIT cambiadas();
+    return abierta;
 }
 
 void Pantallas::traerDelante(PantallaBase *abierta)
@@ -58,11 +59,13 @@ void Pantallas::mostrarNueva(const DatosPantalla &datos)
     m_abiertas.insert(datos.cual, nueva);
     // after the screen's own work is over, so that none is opened in the middle of a closing
     connect(nueva, &PantallaBase::mostrar, this, &Pantallas::abrir, Qt::QueuedConnection);
+    nueva->quienAbre([this](Pantalla siguiente) { return abrir(siguiente); });
+    connect(nueva, &PantallaBase::dicho, this, &Pantallas::dicho);
+    connect(nueva, &PantallaBase::cambiaEdicion, this, &Pantallas::cambiadas);
     connect(nueva, &PantallaBase::datosCambiados, this, [this, nueva] { avisarCambio(nueva); });
     connect(nueva, &QObject::destroyed, this, [this, nueva] { olvidar(nueva); });
     if (modal) {
-        nueva->setWindowFlag(Qt::Dialog);
-        nueva->setWindowModality(Qt::WindowModal);
+        nueva->hacerModal();
         nueva->setAttribute(Qt::WA_DeleteOnClose);
         nueva->show();
     } else {
@@ -83,6 +86,7 @@ void Pantallas::cerrar(Pantalla cual)
     if (!abierta)
         return;
     abierta->disconnect(this);
+    abierta->quienAbre({});
     auto *marco = qobject_cast<QMdiSubWindow *>(abierta->parentWidget());
     (marco ? static_cast<QWidget *>(marco) : abierta)->close();
     m_abiertas.remove(cual);

@@ -15,8 +15,9 @@ class Pantallas : public QObject
 public:
     Pantallas(QMdiArea *area, QWidget *ventana);
 
-    /// Opens a screen, or brings it forward and shows its data again when it is open.
-    void abrir(Pantalla cual);
+    /// Opens a screen, or brings it forward and shows its data again when it is open; false when
+    /// that failed, which the user has been told.
+    bool abrir(Pantalla cual);
     /// Closes a screen and does not open what it asks for.
     void cerrar(Pantalla cual);
     /// Closes them all; from then on none opens.
@@ -27,6 +28,7 @@ public:
 Q_SIGNALS:
     void cambiadas(); ///< one was opened or closed
     void datosCambiados(); ///< stored data changed
+    void dicho(const QString &texto, bool pasajera); ///< a line for the status bar
 
 private:
     PantallaBase *pantalla(Pantalla cual) const;

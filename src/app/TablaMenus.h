@@ -2,34 +2,34 @@
 
 #include "core/Textos.h"
 #include "widgets/Iconos.h"
+#include "widgets/PantallaBase.h"
 
 #include <QKeySequence>
 
 #include <span>
+#include <variant>
 
-/// What the menus and the tool bar can be asked for; the recent declarants stand apart.
+/// What an entry does when it is more than opening a screen.
 enum class Mando {
     Nuevo,
     Abrir,
     Eliminar,
     Salir,
-    Exportar,
-    Importar,
     Copia,
     Restaurar,
-    Preferencias,
     Contenido,
     Asistencia,
     Descripcion,
-    AcercaDe,
 };
+
+/// Where an entry leads; nowhere while its part of the program is still to come.
+using Destino = std::variant<std::monostate, Pantalla, Mando>;
 
 /// When an entry can be used.
 enum Condicion {
     Siempre = 0,
     SinEdicion = 1, ///< it would rewrite a record that an open screen is editing
     ConDeclarantes = 2, ///< it acts on stored declarants
-    Venidera = 4, ///< its screen is not there yet
 };
 
 struct DatosMenu
@@ -40,12 +40,12 @@ struct DatosMenu
 
 struct EntradaMenu
 {
-    int menu; ///< position in TablaMenus
-    Mando mando;
+    int menu; ///< position in the table of menus
     const char *nombre;
     Msj texto;
     Msj pista;
     Icono icono;
+    Destino destino;
     int condiciones = Siempre;
     const char *atajo = ""; ///< portable text of a key sequence
     bool trasSeparador = false;
@@ -54,7 +54,7 @@ struct EntradaMenu
 struct EntradaBarra
 {
     const char *nombre;
-    Mando mando;
+    const char *entrada; ///< the entry of a menu that it repeats
     Msj texto;
     bool trasSeparador = false;
 };

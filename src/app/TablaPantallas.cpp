@@ -1,5 +1,6 @@
 #include "app/TablaPantallas.h"
 
+#include "app/frmAbout.h"
 #include "core/Unico.h"
 #include "declarants/FrmDecLista.h"
 #include "declarants/FrmDecResumen.h"
@@ -33,6 +34,7 @@ static constexpr DatosPantalla Tabla[] = {
     {Pantalla::Datos480b, crear<FrmDatos480b>, DatosPantalla::Ajustado},
     {Pantalla::Datos480c, crear<FrmDatos480c>, DatosPantalla::Ajustado},
     {Pantalla::Impresion, crear<FrmImOf>, DatosPantalla::Modal},
+    {Pantalla::AcercaDe, crear<frmAbout>, DatosPantalla::Modal},
 };
 
 const DatosPantalla *datosPantalla(Pantalla cual)

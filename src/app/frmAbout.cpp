@@ -2,45 +2,34 @@
 
 #include "app/Version.h"
 #include "core/Textos.h"
+#include "widgets/Disposicion.h"
 #include "widgets/Iconos.h"
 
-#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
-static QLabel *etiqueta(QWidget *padre, const char *nombre)
-{
-    auto *nueva = new QLabel(padre);
-    nueva->setObjectName(QString::fromLatin1(nombre));
-    nueva->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return nueva;
-}
-
 frmAbout::frmAbout(QWidget *padre)
-    : QDialog(padre)
-    , m_lblTitulo(etiqueta(this, "lblTitulo"))
-    , m_lblTexto(etiqueta(this, "lblTexto"))
-    , m_lblVersion(etiqueta(this, "lblVersion"))
-    , m_lblDiputacion(etiqueta(this, "lblDiputacion"))
+    : PantallaBase(u"frmAbout"_s, padre)
+    , m_lblTitulo(nuevaEtiqueta(u"lblTitulo"_s, this))
+    , m_lblTexto(nuevaEtiqueta(u"lblTexto"_s, this))
+    , m_lblVersion(nuevaEtiqueta(u"lblVersion"_s, this))
+    , m_lblDiputacion(nuevaEtiqueta(u"lblDiputacion"_s, this))
     , m_cmdAceptar(new QPushButton(this))
 {
-    setObjectName(u"frmAbout"_s);
-    setAttribute(Qt::WA_DeleteOnClose);
     m_cmdAceptar->setObjectName(u"cmdAceptar"_s);
-    m_cmdAceptar->setDefault(true);
-    connect(m_cmdAceptar, &QPushButton::clicked, this, &QDialog::accept);
-
-    QFont grande = font();
-    grande.setPointSizeF(grande.pointSizeF() * 1.7);
-    m_lblTitulo->setFont(grande);
+    m_cmdAceptar->setFocus();
+    alPulsar(m_cmdAceptar, [this] { cerrarA(Pantalla::Ninguna); });
+    for (auto *etiqueta : {m_lblTitulo, m_lblTexto, m_lblVersion, m_lblDiputacion})
+        etiqueta->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    agrandarLetra(m_lblTitulo, 1.7);
     auto *emblema = new QLabel(this);
     emblema->setPixmap(icono(Icono::Programa).pixmap(QSize(80, 80), devicePixelRatioF()));
 
     auto *rejilla = new QGridLayout(this);
-    rejilla->setContentsMargins(28, 26, 28, 22);
+    rejilla->setContentsMargins(MargenDialogo);
     rejilla->setHorizontalSpacing(24);
     rejilla->setVerticalSpacing(8);
     rejilla->addWidget(emblema, 0, 0, 4, 1, Qt::AlignTop);
@@ -62,11 +51,4 @@ void frmAbout::Anadir_captions()
     m_lblVersion->setText(msj(Msj::VersionPrograma, versionPrograma()));
     m_lblDiputacion->setText(msj(Msj::NombreDiputacion));
     m_cmdAceptar->setText(msj(Msj::BotonAceptar));
-}
-
-void frmAbout::changeEvent(QEvent *evento)
-{
-    if (evento->type() == QEvent::LanguageChange)
-        Anadir_captions();
-    QDialog::changeEvent(evento);
 }

@@ -1,24 +1,20 @@
 #pragma once
 
-#include <QDialog>
+#include "widgets/PantallaBase.h"
 
 class QLabel;
-class QPushButton;
 
 /// The about box: title and version of the program.
-class frmAbout : public QDialog
+class frmAbout : public PantallaBase
 {
     Q_OBJECT
 
 public:
     explicit frmAbout(QWidget *padre = nullptr);
 
-protected:
-    void changeEvent(QEvent *evento) override;
+    void Anadir_captions() override;
 
 private:
-    void Anadir_captions();
-
     QLabel *m_lblTitulo;
     QLabel *m_lblTexto;
     QLabel *m_lblVersion;

@@ -46,7 +46,7 @@ static Rechazo tomarTexto(const campos::Definicion &campo, const QString &valor)
 
 static Rechazo tomarNumero(const QString &valor)
 {
-    if (!std::ranges::all_of(valor, [](QChar c) { return c >= u'0' && c <= u'9'; }))
+    if (!sonCifras(valor))
         return valorMalo(u"numero", valor);
     unico::la<cDecDatos>().NUMERO(valor.toInt());
     return {};

@@ -1,14 +1,13 @@
 #include "cli/Declaracion.h"
 
 #include "cli/Declarante.h"
+#include "core/FiltroTeclas.h"
 #include "core/Importe.h"
 #include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/MensajesDeclarante.h"
 #include "declarants/cDecResumen.h"
-
-#include <algorithm>
 
 ImporteDado importeDado(const QString &texto)
 {
@@ -21,8 +20,7 @@ ImporteDado importeDado(const QString &texto)
 /// A whole number from 1 to `maximo`, digits only; 0 when it is something else.
 static int numero(const QString &texto, int maximo)
 {
-    const bool cifras = std::ranges::all_of(texto, [](QChar c) { return c >= u'0' && c <= u'9'; });
-    const int valor = cifras ? texto.toInt() : 0;
+    const int valor = sonCifras(texto) ? texto.toInt() : 0;
     return valor <= maximo ? valor : 0;
 }
 

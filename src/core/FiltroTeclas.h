@@ -11,6 +11,9 @@ inline constexpr QChar TeclaRetroceso(8);
 /// Only 0 to 9.
 QChar filtrarCifra(QChar tecla);
 
+/// Whether a text holds nothing but the digits 0 to 9.
+bool sonCifras(QStringView texto);
+
 /// Capitals, digits and " !$%&()*+,-./:;<=>?\_ºª¿¡çÇ"; letters become capitals.
 QChar filtrarTexto(QChar tecla);
 

@@ -1,5 +1,6 @@
 #include "core/Importe.h"
 
+#include "core/FiltroTeclas.h"
 #include "core/Textos.h"
 
 #include <QList>
@@ -9,11 +10,6 @@
 
 static constexpr int CifrasEnteras = 13;
 static constexpr int Decimales = 2;
-
-static bool sonCifras(QStringView texto)
-{
-    return std::ranges::all_of(texto, [](QChar c) { return c >= u'0' && c <= u'9'; });
-}
 
 /// Digits in groups of three ("1.234.567"), without a leading zero.
 static bool sonGrupos(QStringView texto)

@@ -7,9 +7,9 @@
 #include "declarants/cDecLista.h"
 #include "declarants/cDecResumen.h"
 #include "widgets/BarraBotones.h"
+#include "widgets/Disposicion.h"
 #include "widgets/Mensajes.h"
 #include "widgets/ModeloFilas.h"
-#include "widgets/Tabla.h"
 #include "widgets/cUtilidadesGrid.h"
 
 #include <QHBoxLayout>
@@ -36,28 +36,21 @@ static int columnaOrden()
     return estado().ORDEN() == cDecLista::PorNombre ? NOMBRE : DNI;
 }
 
-static QLabel *etiqueta(const QString &nombre, QWidget *padre)
-{
-    auto *label = new QLabel(padre);
-    label->setObjectName(nombre);
-    label->setWordWrap(true);
-    return label;
-}
-
 FrmDecLista::FrmDecLista(QWidget *padre)
     : PantallaBase(u"FrmDecLista"_s, padre)
-    , m_lblOrdenar(etiqueta(u"lblOrdenar"_s, this))
+    , m_lblOrdenar(nuevaEtiqueta(u"lblOrdenar"_s, this))
     , m_flxDeclarantes(new QTableView(this))
     , m_modelo(new ModeloFilas(this))
     , m_busqueda(new cUtilidadesGrid(m_flxDeclarantes))
-    , m_lblVacio(etiqueta(u"lblVacio"_s, m_flxDeclarantes->viewport()))
-    , m_lblBusqueda(etiqueta(u"lblBusqueda"_s, this))
-    , m_lblNumDecla(new QLabel(this))
+    , m_lblVacio(nuevaEtiqueta(u"lblVacio"_s, m_flxDeclarantes->viewport()))
+    , m_lblBusqueda(nuevaEtiqueta(u"lblBusqueda"_s, this))
+    , m_lblNumDecla(nuevaEtiqueta(u"lblNumDecla"_s, this))
     , m_botones(new BarraBotones(u"fraBotones"_s, this))
     , m_cmdAceptar(m_botones->anadir(u"cmdAceptar"_s, u"PicAce"_s, Icono::Aceptar))
     , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar))
 {
-    m_lblNumDecla->setObjectName(u"lblNumDecla"_s);
+    for (auto *etiqueta : {m_lblOrdenar, m_lblVacio, m_lblBusqueda})
+        etiqueta->setWordWrap(true);
     Anadir_captions();
     prepararGrid();
     crearOrdenes();
@@ -106,15 +99,13 @@ void FrmDecLista::disponer()
     m_lblVacio->setAlignment(Qt::AlignCenter);
     auto *centro = new QVBoxLayout(m_flxDeclarantes->viewport());
     centro->addWidget(m_lblVacio);
-    QFont pequena = font();
-    pequena.setPointSizeF(pequena.pointSizeF() * 0.9);
-    m_lblBusqueda->setFont(pequena);
+    agrandarLetra(m_lblBusqueda, 0.9);
 
     auto *pie = new QHBoxLayout;
     pie->addWidget(m_lblNumDecla);
     pie->addWidget(m_botones, 1);
     auto *todo = new QVBoxLayout(this);
-    todo->setContentsMargins(16, 14, 16, 14);
+    todo->setContentsMargins(MargenPantalla);
     todo->setSpacing(8);
     todo->addWidget(m_lblOrdenar);
     todo->addWidget(m_flxDeclarantes, 1);

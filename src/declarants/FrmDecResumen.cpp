@@ -6,9 +6,9 @@
 #include "core/Unico.h"
 #include "declarants/NuevaDeclaracion.h"
 #include "declarants/cDecResumen.h"
+#include "widgets/Disposicion.h"
 #include "widgets/Iconos.h"
 #include "widgets/ModeloFilas.h"
-#include "widgets/Tabla.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -23,18 +23,10 @@ using namespace FilaDeclaracion;
 
 static constexpr int ColumnaPeriodoNumero = 7;
 
-static QLabel *etiqueta(const QString &nombre, QWidget *padre)
-{
-    auto *label = new QLabel(padre);
-    label->setObjectName(nombre);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
-
 FrmDecResumen::FrmDecResumen(QWidget *padre)
     : PantallaBase(u"FrmDecResumen"_s, padre)
-    , m_lbldni(etiqueta(u"lbldni"_s, this))
-    , m_lblnombre(etiqueta(u"lblnombre"_s, this))
+    , m_lbldni(nuevaEtiqueta(u"lbldni"_s, this))
+    , m_lblnombre(nuevaEtiqueta(u"lblnombre"_s, this))
     , m_nueva(new NuevaDeclaracion(this))
     , m_imgNueva(crearBoton(u"ImgNueva"_s))
     , m_cmdAbandonar(crearBoton(u"cmdAbandonar"_s))
@@ -45,7 +37,7 @@ FrmDecResumen::FrmDecResumen(QWidget *padre)
     , m_cmdEliminar(crearBoton(u"cmdEliminar"_s))
     , m_cmdDeclarante(crearBoton(u"cmdDeclarante"_s))
     , m_cmdCerrar(crearBoton(u"cmdCerrar"_s))
-    , m_lblNumDecla(etiqueta(u"lblNumDecla"_s, this))
+    , m_lblNumDecla(nuevaEtiqueta(u"lblNumDecla"_s, this))
 {
     auto &cabecera = unico::la<cDecResumen>();
     cabecera.MODO(u"L"_s);
@@ -134,7 +126,7 @@ void FrmDecResumen::disponer()
     derecha->addWidget(m_cmdCerrar);
 
     auto *celdas = new QGridLayout(this);
-    celdas->setContentsMargins(16, 14, 16, 14);
+    celdas->setContentsMargins(MargenPantalla);
     celdas->setHorizontalSpacing(16);
     celdas->setVerticalSpacing(12);
     auto *titulo = new QVBoxLayout;

@@ -5,6 +5,7 @@
 #include "core/Unico.h"
 #include "declarants/cDecResumen.h"
 #include "widgets/CajaTexto.h"
+#include "widgets/Disposicion.h"
 #include "widgets/ListaDesplegable.h"
 #include "widgets/Mensajes.h"
 
@@ -18,23 +19,15 @@ static cDecResumen &cabecera()
     return unico::la<cDecResumen>();
 }
 
-static QLabel *etiqueta(const QString &nombre, QWidget *de, QWidget *padre)
-{
-    auto *label = new QLabel(padre);
-    label->setObjectName(nombre);
-    label->setBuddy(de);
-    return label;
-}
-
 NuevaDeclaracion::NuevaDeclaracion(QWidget *padre)
     : QFrame(padre)
     , m_txtejer(new CajaTexto(u"txtejer"_s, 4, CajaTexto::Cifras, this))
     , m_cmbmodelo(new ListaDesplegable(u"cmbmodelo"_s, this))
     , m_cmbperiodo(new ListaDesplegable(u"cmbperiodo"_s, this))
-    , m_lblejer(etiqueta(u"lblejer"_s, m_txtejer, this))
-    , m_lblmodelo(etiqueta(u"lblmodelo"_s, m_cmbmodelo, this))
-    , m_lblperiodo(etiqueta(u"lblperiodo"_s, m_cmbperiodo, this))
-    , m_lblGuia(etiqueta(u"lblGuia"_s, nullptr, this))
+    , m_lblejer(nuevaEtiqueta(u"lblejer"_s, this, m_txtejer))
+    , m_lblmodelo(nuevaEtiqueta(u"lblmodelo"_s, this, m_cmbmodelo))
+    , m_lblperiodo(nuevaEtiqueta(u"lblperiodo"_s, this, m_cmbperiodo))
+    , m_lblGuia(nuevaEtiqueta(u"lblGuia"_s, this))
 {
     setObjectName(u"fraNueva"_s);
     setFrameShape(QFrame::StyledPanel);

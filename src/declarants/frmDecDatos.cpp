@@ -8,6 +8,7 @@
 #include "declarants/cDecResumen.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/CajaTexto.h"
+#include "widgets/Disposicion.h"
 #include "widgets/SelectorLista.h"
 
 #include <QPushButton>
@@ -31,7 +32,7 @@ frmDecDatos::frmDecDatos(QWidget *padre)
     , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar))
 {
     auto *todo = new QVBoxLayout(this);
-    todo->setContentsMargins(16, 14, 16, 14);
+    todo->setContentsMargins(MargenPantalla);
     todo->setSpacing(12);
     todo->addWidget(m_ficha, 1);
     todo->addWidget(m_botones);
@@ -58,11 +59,10 @@ void frmDecDatos::crearListas()
         alPulsar(lista.boton, [this, &lista] { abrirLista(lista); });
         connect(lista.selector, &SelectorLista::cancelado, this,
                 [this, &lista] { cerrarLista(lista.codigo); });
-        connect(lista.selector, &SelectorLista::elegido, this,
-                [this, &lista](const QString &codigo, const QString &nombre) {
-                    (this->*lista.tomar)(codigo, nombre);
-                    cerrarLista(lista.siguiente);
-                });
+        lista.selector->alElegir = [this, &lista](const QString &codigo, const QString &nombre) {
+            (this->*lista.tomar)(codigo, nombre);
+            cerrarLista(lista.siguiente);
+        };
     }
 }
 

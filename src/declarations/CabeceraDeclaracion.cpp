@@ -5,19 +5,12 @@
 #include "core/Unico.h"
 #include "declarants/cDecResumen.h"
 #include "widgets/CajaTexto.h"
+#include "widgets/Disposicion.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
-
-static QLabel *etiqueta(const QString &nombre, QWidget *padre)
-{
-    auto *label = new QLabel(padre);
-    label->setObjectName(nombre);
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
 
 static CajaTexto *caja(const QString &nombre, int cifras, QWidget *padre)
 {
@@ -30,13 +23,13 @@ static CajaTexto *caja(const QString &nombre, int cifras, QWidget *padre)
 
 CabeceraDeclaracion::CabeceraDeclaracion(QWidget *padre)
     : QWidget(padre)
-    , m_lbldni(etiqueta(u"lbldni"_s, this))
-    , m_lblnombre(etiqueta(u"lblnombre"_s, this))
-    , m_lblejer(etiqueta(u"lblejer"_s, this))
+    , m_lbldni(nuevaEtiqueta(u"lbldni"_s, this))
+    , m_lblnombre(nuevaEtiqueta(u"lblnombre"_s, this))
+    , m_lblejer(nuevaEtiqueta(u"lblejer"_s, this))
     , m_txtejer(caja(u"txtejer"_s, 4, this))
-    , m_lblper(etiqueta(u"lblper"_s, this))
+    , m_lblper(nuevaEtiqueta(u"lblper"_s, this))
     , m_txtper(caja(u"txtper"_s, 2, this))
-    , m_lblperiodo(etiqueta(u"lblperiodo"_s, this))
+    , m_lblperiodo(nuevaEtiqueta(u"lblperiodo"_s, this))
 {
     QFont negrita = font();
     negrita.setBold(true);

@@ -4,19 +4,12 @@
 #include "core/Unico.h"
 #include "declarants/cDecResumen.h"
 #include "declarations/CabeceraDeclaracion.h"
+#include "widgets/Disposicion.h"
 
 #include <QFrame>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-static QFrame *raya(QWidget *padre)
-{
-    auto *linea = new QFrame(padre);
-    linea->setFrameShape(QFrame::HLine);
-    linea->setFrameShadow(QFrame::Sunken);
-    return linea;
-}
 
 PantallaDeclaracion::PantallaDeclaracion(const QString &nombre, QWidget *padre)
     : PantallaBase(nombre, padre)
@@ -26,12 +19,12 @@ PantallaDeclaracion::PantallaDeclaracion(const QString &nombre, QWidget *padre)
 {
     m_cuerpo->setSpacing(10);
     auto *todo = new QVBoxLayout(this);
-    todo->setContentsMargins(16, 14, 16, 14);
+    todo->setContentsMargins(MargenPantalla);
     todo->setSpacing(10);
     todo->addWidget(m_cabecera);
-    todo->addWidget(raya(this));
+    todo->addWidget(nuevaRaya(this));
     todo->addLayout(m_cuerpo, 1);
-    todo->addWidget(raya(this));
+    todo->addWidget(nuevaRaya(this));
     todo->addWidget(m_botones);
 }
 

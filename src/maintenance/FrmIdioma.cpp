@@ -3,13 +3,12 @@
 #include "core/CEntrada.h"
 #include "core/Servicios.h"
 #include "core/Unico.h"
+#include "widgets/Disposicion.h"
 #include "widgets/Iconos.h"
-#include "widgets/Procedimiento.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -32,23 +31,26 @@ static QString enLineas(const QString &texto, const QFontMetrics &medida)
 }
 
 FrmIdioma::FrmIdioma(QWidget *padre)
-    : QDialog(padre)
+    : PantallaBase(u"FrmIdioma"_s, padre)
     , m_cmdcastellano(boton("cmdcastellano", Msj::EleccionIdiomaCastellano, u"C"_s))
     , m_cmdeuskera(boton("cmdeuskera", Msj::EleccionIdiomaEuskera, u"E"_s))
     , m_chkActOnline(new QCheckBox(this))
-    , m_lblAct(new QLabel(msj(Msj::EleccionIdiomaBuscando), this))
+    , m_lblAct(nuevaEtiqueta(u"lblAct"_s, this))
 {
-    setObjectName(u"FrmIdioma"_s);
-    setWindowTitle(msj(Msj::EleccionIdiomaTitulo));
-    setWindowIcon(icono(Icono::Programa));
-    m_lblAct->setObjectName(u"lblAct"_s);
     m_lblAct->hide();
     m_chkActOnline->setObjectName(u"chkActOnline"_s);
-    m_chkActOnline->setText(enLineas(msj(Msj::EleccionIdiomaActualizaciones), fontMetrics()));
-    m_chkActOnline->setAccessibleName(msj(Msj::EleccionIdiomaActualizaciones));
     disponer();
+    Anadir_captions();
     cargar();
     connect(m_chkActOnline, &QCheckBox::clicked, this, &FrmIdioma::guardarActOnline);
+}
+
+void FrmIdioma::Anadir_captions()
+{
+    setWindowTitle(msj(Msj::EleccionIdiomaTitulo));
+    m_lblAct->setText(msj(Msj::EleccionIdiomaBuscando));
+    m_chkActOnline->setText(enLineas(msj(Msj::EleccionIdiomaActualizaciones), fontMetrics()));
+    m_chkActOnline->setAccessibleName(msj(Msj::EleccionIdiomaActualizaciones));
 }
 
 QPushButton *FrmIdioma::boton(const char *nombre, Msj texto, const QString &codigo)
@@ -57,7 +59,7 @@ QPushButton *FrmIdioma::boton(const char *nombre, Msj texto, const QString &codi
     nuevo->setObjectName(QString::fromLatin1(nombre));
     nuevo->setMinimumSize(160, 44);
     nuevo->setAutoDefault(false);
-    connect(nuevo, &QPushButton::clicked, this, [this, codigo] { elegir(codigo); });
+    alPulsar(nuevo, [this, codigo] { elegir(codigo); });
     return nuevo;
 }
 
@@ -66,9 +68,7 @@ QLayout *FrmIdioma::cabecera()
     auto *emblema = new QLabel(this);
     emblema->setPixmap(icono(Icono::Programa).pixmap(QSize(64, 64), devicePixelRatioF()));
     auto *titulo = new QLabel(msj(Msj::EleccionIdiomaPrograma), this);
-    QFont grande = titulo->font();
-    grande.setPointSizeF(grande.pointSizeF() * 1.4);
-    titulo->setFont(grande);
+    agrandarLetra(titulo, 1.4);
     auto *fila = new QHBoxLayout;
     fila->setSpacing(18);
     fila->addWidget(emblema);
@@ -88,7 +88,7 @@ void FrmIdioma::disponer()
 
     auto *columna = new QVBoxLayout(this);
     columna->addLayout(cabecera());
-    columna->setContentsMargins(24, 22, 24, 22);
+    columna->setContentsMargins(MargenDialogo);
     columna->setSpacing(18);
     columna->addWidget(marco);
     columna->addWidget(m_chkActOnline);
@@ -114,18 +114,6 @@ void FrmIdioma::guardarActOnline(bool activa)
 
 void FrmIdioma::elegir(const QString &codigo)
 {
-    if (procedimiento(this, [&] { unico::la<CEntrada>().IDI(codigo); }))
-        accept();
-}
-
-void FrmIdioma::keyPressEvent(QKeyEvent *evento)
-{
-    if (evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter) {
-        QDialog::keyPressEvent(evento);
-        return;
-    }
-    if (auto *conFoco = qobject_cast<QPushButton *>(focusWidget()))
-        conFoco->click();
-    else
-        focusNextChild();
+    unico::la<CEntrada>().IDI(codigo);
+    cerrarA(Pantalla::Ninguna);
 }

@@ -1,23 +1,20 @@
 #pragma once
 
 #include "core/Textos.h"
-
-#include <QDialog>
+#include "widgets/PantallaBase.h"
 
 class QCheckBox;
 class QLabel;
-class QPushButton;
 
 /// The choice of the language at the first start. Its texts are in both languages at once.
-class FrmIdioma : public QDialog
+class FrmIdioma : public PantallaBase
 {
     Q_OBJECT
 
 public:
     explicit FrmIdioma(QWidget *padre = nullptr);
 
-protected:
-    void keyPressEvent(QKeyEvent *evento) override;
+    void Anadir_captions() override;
 
 private:
     QPushButton *boton(const char *nombre, Msj texto, const QString &codigo);

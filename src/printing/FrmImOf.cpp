@@ -19,7 +19,6 @@
 #include <QCheckBox>
 #include <QDate>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -52,8 +51,6 @@ FrmImOf::FrmImOf(QWidget *padre)
     , m_txtFecha(new CajaFecha(u"txtFechaPresentacion"_s, m_fraFecha))
     , m_chkUnPdf(crear<QCheckBox>(u"chkUnPdf"_s, this))
 {
-    setWindowFlag(Qt::Dialog);
-    setWindowModality(Qt::ApplicationModal);
     crearTipo();
     crearDestinatario();
     disponer();
@@ -188,7 +185,7 @@ void FrmImOf::conectar()
     alPulsar(m_btnVistaPrevia, [this] { vistaPrevia(); });
     alPulsar(m_btnGuardarPdf, [this] { guardarPdf(); });
     alPulsar(m_btnAceptar, [this] { imprimir(); });
-    alPulsarSinConfirmar(m_btnCancelar, [this] { cerrarA(Pantalla::Resumen); });
+    alPulsarSinConfirmar(m_btnCancelar, [this] { cerrarA(alCerrarMarco()); });
 }
 
 void FrmImOf::alMarcar(bool marcada, void (cImOf::*propiedad)(const QString &))
@@ -224,7 +221,7 @@ void FrmImOf::imprimir()
         impreso = m_salida.imprimir(trabajo);
     }
     if (impreso)
-        cerrarA(Pantalla::Resumen);
+        cerrarA(alCerrarMarco());
     else
         aviso(msj(Msj::ErrorImpresora, m_salida.nombre()));
 }
@@ -245,16 +242,8 @@ void FrmImOf::guardarPdf()
     guardarCopias(this, trabajo, m_chkUnPdf->isChecked());
 }
 
-void FrmImOf::closeEvent(QCloseEvent *evento)
+Pantalla FrmImOf::alCerrarMarco()
 {
     unico::la<cDecResumen>().ENTRADA(u"P"_s);
-    PantallaBase::closeEvent(evento);
-}
-
-void FrmImOf::keyPressEvent(QKeyEvent *evento)
-{
-    if (evento->key() == Qt::Key_Escape)
-        m_btnCancelar->click();
-    else
-        PantallaBase::keyPressEvent(evento);
+    return Pantalla::Resumen;
 }

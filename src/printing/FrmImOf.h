@@ -22,9 +22,7 @@ public:
     void Anadir_captions() override;
 
 protected:
-    void closeEvent(QCloseEvent *evento) override;
-    void keyPressEvent(QKeyEvent *evento) override;
-    Pantalla alCerrarMarco() override { return Pantalla::Resumen; }
+    Pantalla alCerrarMarco() override;
 
 private:
     void crearTipo();

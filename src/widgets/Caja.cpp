@@ -1,5 +1,7 @@
 #include "widgets/Caja.h"
 
+#include "widgets/PantallaBase.h"
+
 #include <QApplication>
 #include <QFocusEvent>
 #include <QScopedValueRollback>
@@ -20,7 +22,9 @@ bool Caja::confirmar()
         return true;
     const QScopedValueRollback enCurso(m_confirmando, true);
     m_pendiente = false;
-    if (!alConfirmar || alConfirmar())
+    bool tomado = !alConfirmar;
+    procedimiento(pantallaDe(this), [&] { tomado = tomado || alConfirmar(); });
+    if (tomado)
         return true;
     m_pendiente = true;
     QTimer::singleShot(0, this, [this] { setFocus(Qt::OtherFocusReason); });

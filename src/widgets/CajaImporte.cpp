@@ -2,6 +2,7 @@
 
 #include "core/Importe.h"
 #include "widgets/Mensajes.h"
+#include "widgets/PantallaBase.h"
 
 #include <QKeyEvent>
 #include <QRegularExpression>
@@ -17,19 +18,11 @@ CajaImporte::CajaImporte(const QString &nombre, QWidget *padre)
     alConfirmar = [this] { return tomar(); };
 }
 
-/// Caption of the screen that a control is on.
-static QString tituloPantalla(const QWidget *control)
-{
-    while (control && control->windowTitle().isEmpty())
-        control = control->parentWidget();
-    return control ? control->windowTitle() : QString();
-}
-
 bool CajaImporte::tomar()
 {
     const auto leido = leerImporte(text());
     if (!leido.valido()) {
-        mensajes::aviso(this, tituloPantalla(this), leido.motivo(text()));
+        mensajes::aviso(this, tituloDe(this), leido.motivo(text()));
         return false;
     }
     if (leido.centimos != m_importe && alCambiar && !alCambiar(leido.centimos))

@@ -1,5 +1,7 @@
 #include "widgets/ListaDesplegable.h"
 
+#include "widgets/PantallaBase.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QKeyEvent>
@@ -69,9 +71,8 @@ bool ListaDesplegable::confirmar()
         rechazar();
         return false;
     }
-    m_pendiente = false;
-    alElegir(posicion);
-    return true;
+    m_pendiente = !procedimiento(pantallaDe(this), [&] { alElegir(posicion); });
+    return !m_pendiente;
 }
 
 void ListaDesplegable::rechazar()

@@ -2,14 +2,17 @@
 
 #include "widgets/Accesos.h"
 #include "widgets/Confirmable.h"
+#include "widgets/Iconos.h"
 #include "widgets/Mensajes.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QCloseEvent>
+#include <QEventLoop>
 #include <QKeyEvent>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QScreen>
 
 #include <algorithm>
 
@@ -19,14 +22,56 @@ PantallaBase::PantallaBase(const QString &nombre, QWidget *padre)
     setObjectName(nombre);
 }
 
+PantallaBase *pantallaDe(QWidget *control)
+{
+    while (control && !qobject_cast<PantallaBase *>(control))
+        control = control->parentWidget();
+    return static_cast<PantallaBase *>(control);
+}
+
+QString tituloDe(QWidget *control)
+{
+    const auto *pantalla = pantallaDe(control);
+    return (pantalla ? pantalla : control->window())->windowTitle();
+}
+
+void PantallaBase::hacerModal()
+{
+    setWindowFlag(Qt::Dialog);
+    setWindowModality(Qt::ApplicationModal);
+    setWindowIcon(icono(Icono::Programa));
+}
+
+void PantallaBase::ejecutar()
+{
+    hacerModal();
+    QEventLoop abierta;
+    connect(this, &PantallaBase::cerrada, &abierta, &QEventLoop::quit);
+    show();
+    abierta.exec();
+}
+
 void PantallaBase::cerrarA(Pantalla siguiente)
 {
+    if (siguiente != Pantalla::Ninguna && m_abridor && !m_abridor(siguiente))
+        return;
     m_terminada = true;
-    m_siguiente = siguiente;
-    if (auto *marco = qobject_cast<QMdiSubWindow *>(parentWidget()))
-        marco->close();
-    else
-        close();
+    m_siguiente = m_abridor ? Pantalla::Ninguna : siguiente;
+    cerrar();
+}
+
+void PantallaBase::cerrar()
+{
+    auto *marco = qobject_cast<QMdiSubWindow *>(parentWidget());
+    (marco ? static_cast<QWidget *>(marco) : this)->close();
+}
+
+void PantallaBase::centrar()
+{
+    adjustSize();
+    const QWidget *sobre = parentWidget() ? parentWidget()->window() : nullptr;
+    const QRect lugar = sobre ? sobre->geometry() : screen()->availableGeometry();
+    move(lugar.center() - rect().center());
 }
 
 bool PantallaBase::confirmarCajas()
@@ -75,6 +120,8 @@ void PantallaBase::changeEvent(QEvent *evento)
 void PantallaBase::showEvent(QShowEvent *evento)
 {
     repartirAccesos(this);
+    if (isModal() && !evento->spontaneous())
+        centrar();
     QWidget::showEvent(evento);
 }
 
@@ -85,12 +132,17 @@ void PantallaBase::closeEvent(QCloseEvent *evento)
         procedimiento(this, [this] { m_siguiente = alCerrarMarco(); });
     }
     evento->accept();
+    Q_EMIT cerrada();
     if (m_siguiente != Pantalla::Ninguna)
         Q_EMIT mostrar(m_siguiente);
 }
 
 void PantallaBase::keyPressEvent(QKeyEvent *evento)
 {
+    if (evento->key() == Qt::Key_Escape) {
+        cerrar();
+        return;
+    }
     if (evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter) {
         QWidget::keyPressEvent(evento);
         return;

@@ -7,7 +7,7 @@
 class QAbstractButton;
 class QPushButton;
 
-/// The screens that one screen may ask for; the main window opens them.
+/// The screens that one screen, or a row of the menus, may ask for; the main window opens them.
 enum class Pantalla {
     Ninguna,
     DatosDeclarante,
@@ -18,11 +18,18 @@ enum class Pantalla {
     Datos480b,
     Datos480c,
     Impresion,
+    AcercaDe,
 };
 
-/// Base of the screens inside the main window. It answers to a change of language, guards every
-/// action of the user, commits the box with the focus before an accept, and says what is to be
-/// shown when it closes.
+/// Base of every screen, framed or modal: it answers to a change of language, guards every action
+/// of the user, commits the box with the focus before an accept, asks before changed data are lost,
+/// and says what is to be shown when it closes.
+///
+/// To add a screen: derive from this class (Anadir_captions; Actualizar when it shows stored data;
+/// edita, and modificada, when it owns a record; decir for what was done), name it in `Pantalla`,
+/// give it a row in app/TablaPantallas.cpp (how it is made; Ajustado, Amplio or Modal) and, when a
+/// menu leads to it, a row in app/TablaMenus.cpp that names it. Nothing else: modality, frame,
+/// disabling behind an edited record, language and status bar come from there and from here.
 class PantallaBase : public QWidget
 {
     Q_OBJECT
@@ -31,18 +38,34 @@ public:
     explicit PantallaBase(const QString &nombre, QWidget *padre = nullptr);
 
     /// Whether the screen owns a record while it is open, so that nothing else may rewrite it.
+    /// One whose answer changes while it is open emits `cambiaEdicion`.
     virtual bool edita() const { return false; }
+    /// Whether closing now would lose what the user changed.
+    virtual bool modificada() const { return false; }
     /// Sets every text in the session's language.
     virtual void Anadir_captions() = 0;
     /// Shows the stored data again; after a save, deletion or restore elsewhere.
     virtual void Actualizar() {}
 
+    /// Makes a dialogue of the screen, over all others.
+    void hacerModal();
+    /// Shows it as one and returns when it has been closed.
+    void ejecutar();
+    /// Who opens the screen that this one asks for before it closes; true when it is there.
+    void quienAbre(std::function<bool(Pantalla)> abridor) { m_abridor = std::move(abridor); }
+    /// Shows one line in the status bar of the main window: until the next one, or for some seconds
+    /// when it is `pasajera`.
+    void decir(const QString &texto, bool pasajera = false) { Q_EMIT dicho(texto, pasajera); }
+
 Q_SIGNALS:
     void mostrar(Pantalla cual);
     void datosCambiados();
+    void cambiaEdicion();
+    void dicho(const QString &texto, bool pasajera);
+    void cerrada();
 
 protected:
-    /// Closes the screen and then asks for another one.
+    /// Opens another screen and closes this one; nothing closes when the other cannot be opened.
     void cerrarA(Pantalla siguiente);
     /// What a screen closed by its frame leaves behind, and the screen to show then: what its
     /// cancel button does.
@@ -64,6 +87,15 @@ protected:
     void keyPressEvent(QKeyEvent *evento) override;
 
 private:
+    void cerrar();
+    void centrar();
+
+    std::function<bool(Pantalla)> m_abridor;
     Pantalla m_siguiente = Pantalla::Ninguna;
     bool m_terminada = false;
 };
+
+/// The screen that a control is on; null outside of one.
+PantallaBase *pantallaDe(QWidget *control);
+/// Caption of the window that a control is in, for what is told about it.
+QString tituloDe(QWidget *control);

@@ -63,7 +63,8 @@ void SelectorLista::tomar()
         return;
     hide();
     const auto elemento = m_lista.at(fila);
-    Q_EMIT elegido(elemento.codigo, elemento.nombre);
+    if (!procedimiento(pantallaDe(this), [&] { alElegir(elemento.codigo, elemento.nombre); }))
+        Q_EMIT cancelado();
 }
 
 bool SelectorLista::eventFilter(QObject *objeto, QEvent *evento)

@@ -4,6 +4,8 @@
 
 #include <QFrame>
 
+#include <functional>
+
 class QTreeWidget;
 
 /// List picker laid over a screen: hidden until called. Enter or a double click takes an element,
@@ -23,8 +25,10 @@ public:
     /// Opens at the element with `codigo`, if there is one.
     void abrir(const QString &codigo);
 
+    /// Takes the code and the name of the element chosen.
+    std::function<void(const QString &, const QString &)> alElegir;
+
 Q_SIGNALS:
-    void elegido(const QString &codigo, const QString &nombre);
     void cancelado();
 
 protected:

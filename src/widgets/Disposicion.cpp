@@ -1,7 +1,32 @@
-#include "widgets/Tabla.h"
+#include "widgets/Disposicion.h"
 
 #include <QHeaderView>
+#include <QLabel>
 #include <QTableView>
+
+QLabel *nuevaEtiqueta(const QString &nombre, QWidget *padre, QWidget *de)
+{
+    auto *etiqueta = new QLabel(padre);
+    etiqueta->setObjectName(nombre);
+    etiqueta->setTextFormat(Qt::PlainText);
+    etiqueta->setBuddy(de);
+    return etiqueta;
+}
+
+void agrandarLetra(QWidget *control, double aumento)
+{
+    QFont letra = control->font();
+    letra.setPointSizeF(letra.pointSizeF() * aumento);
+    control->setFont(letra);
+}
+
+QFrame *nuevaRaya(QWidget *padre)
+{
+    auto *linea = new QFrame(padre);
+    linea->setFrameShape(QFrame::HLine);
+    linea->setFrameShadow(QFrame::Sunken);
+    return linea;
+}
 
 void prepararTabla(QTableView *tabla)
 {
