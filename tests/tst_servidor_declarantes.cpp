@@ -135,6 +135,70 @@ private Q_SLOTS:
         QCOMPARE(leer(), (QVariantList{claves[0], claves[3], claves[2], claves[1]}));
     }
 
+    // Each way of meeting a stored identifier, with one that repeats an earlier one of the same
+    // set.
+    void conjunto_data()
+    {
+        QTest::addColumn<Existentes>("existentes");
+        QTest::addColumn<QList<int>>("resultados");
+        QTest::addColumn<QStringList>("guardados");
+        using enum FilaConjunto::Resultado;
+        QTest::newRow("stop") << Existentes::Detenerse << QList<int>{Nuevo, Incorrecto}
+                              << QStringList{u"UNO"_s, u"VIEJA"_s};
+        QTest::newRow("replace") << Existentes::Sustituir
+                                 << QList<int>{Nuevo, Incorrecto, Sustituido, Sustituido, Nuevo}
+                                 << QStringList{u"DOS"_s, u"NUEVA"_s, u"TRES"_s};
+        QTest::newRow("keep") << Existentes::Conservar
+                              << QList<int>{Nuevo, Incorrecto, Conservado, Conservado, Nuevo}
+                              << QStringList{u"TRES"_s, u"UNO"_s, u"VIEJA"_s};
+        QTest::newRow("look") << Existentes::Examinar
+                              << QList<int>{Nuevo, Incorrecto, Conservado, Nuevo, Nuevo}
+                              << QStringList{u"VIEJA"_s};
+    }
+    void conjunto()
+    {
+        QFETCH(Existentes, existentes);
+        QFETCH(QList<int>, resultados);
+        QFETCH(QStringList, guardados);
+        const qint32 vieja = m_servidor->alta(u"12345678Z"_s, u"VIEJA"_s);
+        m_servidor->declaraciones()->Guardar480(ServidorPrueba::datos480(vieja, 2025));
+        const auto objeto = m_servidor->declarantes();
+        const auto registro = [](const QString &dni, const QString &nombre) {
+            return QVariant(ServidorPrueba::registro(dni, nombre));
+        };
+        const Filas filas = objeto->GuardarConjunto(
+            {registro(u"00000001R"_s, u"uno"_s), registro(u"00000002A"_s, u"MAL"_s),
+             registro(u"12345678z"_s, u"NUEVA"_s), registro(u"00000001R"_s, u"DOS"_s),
+             registro(u"00000003A"_s, u"TRES"_s)},
+            existentes, 10000);
+        QList<int> obtenidos;
+        for (const QVariant &fila : filas)
+            obtenidos += fila.toList().value(FilaConjunto::RESULTADO).toInt();
+        QCOMPARE(obtenidos, resultados);
+        QCOMPARE(filas[1].toList().mid(FilaConjunto::Hallazgos),
+                 QVariantList{u"NA-IFK eremua okerra da edo ez du kontrol digiturik"_s});
+        Filas lista;
+        objeto->dameResultado(lista, 2, 0);
+        QCOMPARE(QVariant(columna(lista, FilaDeclarante::NOMBRE)).toStringList(), guardados);
+        // what is replaced keeps its key and its returns; nothing of a set becomes recent
+        qint32 clave = objeto->ObtenerCodigoDeclarante(u"12345678Z"_s);
+        QCOMPARE(clave, vieja);
+        Registro cargado;
+        objeto->CargarDeclarante(clave, cargado);
+        QCOMPARE(cargado[RegDeclarante::NUM480].toDouble(), 1.0);
+        objeto->ObtenerUltimosDeclarantes(lista);
+        QCOMPARE(columna(lista, FilaReciente::CSCO), QVariantList{vieja});
+    }
+
+    void conjuntoTodoONada()
+    {
+        const auto bueno = QVariant(ServidorPrueba::registro(u"12345678Z"_s, u"ANA"_s));
+        QVERIFY_EXCEPTION_THROWN(m_servidor->declarantes()->GuardarConjunto(
+                                     {bueno, QVariantList{1, 2}}, Existentes::Sustituir, 0),
+                                 std::invalid_argument);
+        QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), 0);
+    }
+
 private:
     std::optional<ServidorPrueba> m_servidor;
 };

@@ -37,6 +37,22 @@ namespace RegValidacion {
 enum Campo { DNI, NOMBRE, DOMICILIO, CODPROV, CODPOS, CODMUN, NOMMUN, TELEFONO, Total };
 }
 
+/// What a set of declarants does with one whose DNI is stored already, be it from before or from
+/// the same set.
+enum class Existentes {
+    Detenerse, ///< the set ends before it, so that the user can be asked
+    Sustituir,
+    Conservar,
+    Examinar, ///< nothing at all is stored
+};
+
+/// What became of one declarant of a set: RESULTADO, followed by the findings (texts) when it is
+/// Incorrecto.
+namespace FilaConjunto {
+enum Columna { RESULTADO, Hallazgos };
+enum Resultado { Nuevo, Sustituido, Conservado, Incorrecto };
+} // namespace FilaConjunto
+
 /// Row of the declarant list. NUM430 and NUM480 count the returns really stored.
 namespace FilaDeclarante {
 enum Columna { CSCO, DNI, NOMBRE, NOMMUN, NOMPROV, NUM430, NUM480, Total };

@@ -3,6 +3,8 @@
 #include "dataservice/Fabrica.h"
 #include "dataservice/Registros.h"
 
+#include <functional>
+
 /// The data service of the program: declarants, returns, settings and lookups in two databases.
 ///
 /// Use: servicio::crear<...>(), set the database path(s), call one method, release. A call that
@@ -67,10 +69,19 @@ public:
     /// Findings on a RegDeclarante read from a file: no row when it can be accepted, else one row
     /// (text) a finding, in the given language. The lookup database is needed.
     virtual Filas ValidarDatosImportar(const Registro &registro, qint16 idioma) = 0;
+    /// Checks RegDeclarantes read from a file as ValidarDatosImportar does and stores the valid
+    /// ones, in their order and in one transaction, without counting them as recent. One
+    /// FilaConjunto a record; fewer than were given only with Existentes::Detenerse. Needs both
+    /// databases.
+    virtual Filas GuardarConjunto(const Filas &registros, Existentes existentes, qint16 idioma) = 0;
     /// FilaDeclarante rows and their number; `orden` 1 by DNI, 2 by name. Needs both databases.
     virtual qint32 dameResultado(Filas &filas, quint8 orden, qint16 idioma) = 0;
     /// RegDeclarante rows of every declarant, in the same orders.
     virtual qint32 dameResultadoExportar(Filas &filas, quint8 orden) = 0;
+    /// The same rows one after the other, none of them kept, until `visitar` returns false.
+    virtual void RecorrerExportar(quint8 orden,
+                                  const std::function<bool(const Registro &)> &visitar)
+        = 0;
     /// FilaReciente rows: up to four, the last saved first.
     virtual void ObtenerUltimosDeclarantes(Filas &filas) = 0;
     /// Fila430 rows of a declarant's 430 returns of a year, by month; false when there is none.

@@ -90,4 +90,18 @@ void Transaccion::confirmar()
     Sentencia(m_conexion, "COMMIT").ejecutar();
 }
 
+LecturaUnica::LecturaUnica(PConexion conexion)
+    : m_conexion(std::move(conexion))
+    , m_abierta(!m_conexion->enTransaccion())
+{
+    if (m_abierta)
+        Sentencia(m_conexion, "BEGIN").ejecutar();
+}
+
+LecturaUnica::~LecturaUnica()
+{
+    if (m_abierta)
+        m_conexion->base().tryExec("COMMIT");
+}
+
 } // namespace servidor

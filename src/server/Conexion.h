@@ -66,4 +66,19 @@ private:
     PConexion m_conexion;
 };
 
+/// While it lives, what is read is one state of the database, and a look-up takes no lock of its
+/// own.
+class LecturaUnica
+{
+public:
+    explicit LecturaUnica(PConexion conexion);
+    ~LecturaUnica();
+    LecturaUnica(const LecturaUnica &) = delete;
+    LecturaUnica &operator=(const LecturaUnica &) = delete;
+
+private:
+    PConexion m_conexion;
+    bool m_abierta;
+};
+
 } // namespace servidor

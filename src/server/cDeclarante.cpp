@@ -1,6 +1,7 @@
 #include "server/cDeclarante.h"
 
 #include "server/AlmacenDeclarantes.h"
+#include "server/ConjuntoDeclarantes.h"
 #include "server/LectorRegistro.h"
 #include "server/ValidacionDeclarante.h"
 #include "server/ValidacionImportar.h"
@@ -74,6 +75,12 @@ Filas cDeclarante::ValidarDatosImportar(const Registro &registro, qint16 idioma)
     return hallazgosImportar(Conexion::consulta(m_consulta), registro, idioma);
 }
 
+Filas cDeclarante::GuardarConjunto(const Filas &registros, Existentes existentes, qint16 idioma)
+{
+    return guardarConjunto(Conexion::modelo(m_modelo), Conexion::consulta(m_consulta), registros,
+                           existentes, idioma);
+}
+
 qint32 cDeclarante::dameResultado(Filas &filas, quint8 orden, qint16 idioma)
 {
     const auto provincias = nombresProvincias(Conexion::consulta(m_consulta), idioma);
@@ -93,12 +100,20 @@ qint32 cDeclarante::dameResultado(Filas &filas, quint8 orden, qint16 idioma)
 
 qint32 cDeclarante::dameResultadoExportar(Filas &filas, quint8 orden)
 {
-    Sentencia sentencia(Conexion::modelo(m_modelo), seleccionDeclarante(orderBy(orden)));
     Filas leidas;
-    while (sentencia.fila())
-        leidas.append(QVariant(registroDeclarante(sentencia)));
+    RecorrerExportar(orden, [&](const Registro &registro) {
+        leidas.append(QVariant(registro));
+        return true;
+    });
     filas = std::move(leidas);
     return static_cast<qint32>(filas.size());
+}
+
+void cDeclarante::RecorrerExportar(quint8 orden,
+                                   const std::function<bool(const Registro &)> &visitar)
+{
+    Sentencia sentencia(Conexion::modelo(m_modelo), seleccionDeclarante(orderBy(orden)));
+    while (sentencia.fila() && visitar(registroDeclarante(sentencia))) {}
 }
 
 void cDeclarante::ObtenerUltimosDeclarantes(Filas &filas)

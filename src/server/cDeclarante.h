@@ -16,8 +16,11 @@ public:
     qint16 ValidarDatosDeclarante(const Registro &datos) override;
     qint32 ObtenerCodigoDeclarante(const QString &DNI) override;
     Filas ValidarDatosImportar(const Registro &registro, qint16 idioma) override;
+    Filas GuardarConjunto(const Filas &registros, Existentes existentes, qint16 idioma) override;
     qint32 dameResultado(Filas &filas, quint8 orden, qint16 idioma) override;
     qint32 dameResultadoExportar(Filas &filas, quint8 orden) override;
+    void RecorrerExportar(quint8 orden,
+                          const std::function<bool(const Registro &)> &visitar) override;
     void ObtenerUltimosDeclarantes(Filas &filas) override;
     bool ObtListDecl430(Filas &filas, qint16 ejercicio, qint32 CSCO) override;
 

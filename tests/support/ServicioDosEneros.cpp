@@ -23,6 +23,11 @@ public:
     qint16 ValidarDatosDeclarante(const Registro &) override { inesperado(); }
     qint32 ObtenerCodigoDeclarante(const QString &) override { inesperado(); }
     Filas ValidarDatosImportar(const Registro &, qint16) override { inesperado(); }
+    Filas GuardarConjunto(const Filas &, Existentes, qint16) override { inesperado(); }
+    void RecorrerExportar(quint8, const std::function<bool(const Registro &)> &) override
+    {
+        inesperado();
+    }
     qint32 dameResultado(Filas &, quint8, qint16) override { inesperado(); }
     qint32 dameResultadoExportar(Filas &, quint8) override { inesperado(); }
     void ObtenerUltimosDeclarantes(Filas &) override { inesperado(); }
