@@ -16,7 +16,7 @@ static void leer(const QString &ruta, QList<Mensaje> &tabla)
     for (QString linea; texto.readLineInto(&linea);) {
         if (linea.startsWith(u'#'))
             continue;
-        auto campos = linea.replace(u"\\n"_s, u"\n"_s).split(u'|');
+        auto campos = linea.replace(u"\\n"_s, u"\n"_s).replace(u"\\r"_s, u"\r"_s).split(u'|');
         if (campos.size() == 4)
             tabla.append({campos[0].toInt(), campos[1], campos[2], campos[3]});
     }
