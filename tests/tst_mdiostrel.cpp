@@ -222,8 +222,8 @@ private Q_SLOTS:
     void entradasVenideras()
     {
         for (const char *nombre :
-             {"mnuExport", "mnuImport", "mnuBackup", "mnuRestore", "mnuPreferencias", "mnucontind",
-              "mnuAsistenciaOnline", "mnuDescripAsisOnline", "ayu"}) {
+             {"mnuExport", "mnuImport", "mnuBackup", "mnuRestore", "mnuPreferencias",
+              "mnuAsistenciaOnline", "mnuDescripAsisOnline"}) {
             QVERIFY2(!accion(nombre)->isEnabled(), nombre);
             QVERIFY2(accion(nombre)->statusTip().contains(u"próxima entrega"), nombre);
             QVERIFY2(accion(nombre)->toolTip().contains(u"próxima entrega"), nombre);

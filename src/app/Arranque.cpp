@@ -7,6 +7,7 @@
 #include "app/frmInicio.h"
 #include "core/Servicios.h"
 #include "core/Sesion.h"
+#include "help/TeclaAyuda.h"
 #include "maintenance/FrmIdioma.h"
 #include "widgets/Mensajes.h"
 #include "widgets/Procedimiento.h"
@@ -86,6 +87,7 @@ int abrirVentana(int &argc, char **argv)
     QApplication aplicacion(argc, argv);
     TextosQt textos;
     QApplication::installTranslator(&textos);
+    const TeclaAyuda f1;
     aplicarApariencia();
     const auto ventana = Arranque().iniciar();
     return ventana ? QApplication::exec() : 0;

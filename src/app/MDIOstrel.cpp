@@ -10,6 +10,8 @@
 #include "declarants/cDecDatos.h"
 #include "declarants/cDecLista.h"
 #include "declarants/cDecResumen.h"
+#include "help/TeclaAyuda.h"
+#include "help/TemasAyuda.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -115,6 +117,8 @@ void MDIOstrel::cumplir(Mando mando)
         return listaDeclarantes(u"C"_s);
     case Mando::Eliminar:
         return listaDeclarantes(u"E"_s);
+    case Mando::Contenido:
+        return abrirAyuda(ayuda::portada());
     case Mando::Salir:
         close();
         return;

@@ -29,8 +29,8 @@ static constexpr EntradaMenu Entradas[] = {
     {1, "mnuPreferencias", Msj::MenuPreferencias, Msj::PistaMenuPreferencias, Icono::Preferencias,
      Venidera, Siempre, "", true},
 
-    {2, "mnucontind", Msj::MenuContenido, Msj::PistaMenuContenido, Icono::Ayuda, Venidera, Siempre,
-     "F1"},
+    {2, "mnucontind", Msj::MenuContenido, Msj::PistaMenuContenido, Icono::Ayuda, Mando::Contenido,
+     Siempre, "F1"},
     {2, "mnuAsistenciaOnline", Msj::MenuAsistenciaOnline, Msj::PistaMenuAsistencia,
      Icono::Asistencia, Venidera, Siempre, "", true},
     {2, "mnuDescripAsisOnline", Msj::MenuDescripcionServicio, Msj::PistaMenuDescripcion,

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dataservice/SvrKtComunLib.h"
-#include "server/Dialogos.h"
+#include "dataservice/Dialogos.h"
 
 namespace servidor {
 
