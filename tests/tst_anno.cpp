@@ -103,14 +103,11 @@ private Q_SLOTS:
 
         const auto filas = unico::la<cDecResumen>().CargarDeclaraciones();
         QCOMPARE(filas.size(), 14);
-        const auto celda = [&](int fila, FilaDeclaracion::Columna columna) {
-            return filas.at(fila).toList().at(columna).toInt();
-        };
-        QCOMPARE(celda(11, FilaDeclaracion::IMPORTE), 9604); // 8 % of 1,200.50
-        QCOMPARE(celda(12, FilaDeclaracion::MODELO), 480);
-        QCOMPARE(celda(12, FilaDeclaracion::IMPORTE), 62448);
-        QCOMPARE(celda(13, FilaDeclaracion::EJERCICIO), 2027);
-        QCOMPARE(celda(13, FilaDeclaracion::PERIODO), 1);
+        QCOMPARE(filas[11].importe, 9604.0); // 8 % of 1,200.50
+        QCOMPARE(filas[12].modelo, u"480"_s);
+        QCOMPARE(filas[12].importe, 62448.0);
+        QCOMPARE(int(filas[13].ejercicio), 2027);
+        QCOMPARE(int(filas[13].periodo), 1);
         m_ventana.reset();
     }
 };

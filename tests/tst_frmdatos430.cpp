@@ -34,7 +34,10 @@ private:
         QVERIFY(QTest::qWaitForWindowActive(m_pantalla.get()));
     }
     Manos manos() const { return Manos(*m_pantalla); }
-    static Filas declaraciones() { return unico::la<cDecResumen>().CargarDeclaraciones(); }
+    static QList<DeclaracionListada> declaraciones()
+    {
+        return unico::la<cDecResumen>().CargarDeclaraciones();
+    }
 
 private Q_SLOTS:
     void init()
@@ -164,11 +167,11 @@ private Q_SLOTS:
             QTRY_COMPARE(siguiente.count(), 1);
             QCOMPARE(siguiente.front().front().value<Pantalla>(), Pantalla::Resumen);
             QCOMPARE(cambios.count(), 1);
-            const auto fila = declaraciones().constLast().toList();
+            const auto fila = declaraciones().constLast();
             QCOMPARE(declaraciones().size(), mes);
-            QCOMPARE(fila.value(FilaDeclaracion::IMPORTE).toDouble(), 4000.0);
+            QCOMPARE(fila.importe, 4000.0);
             QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_s);
-            QCOMPARE(unico::la<cDecResumen>().CSDE(), fila.value(FilaDeclaracion::CSDE));
+            QCOMPARE(unico::la<cDecResumen>().CSDE(), fila.csde);
         }
     }
 
@@ -221,8 +224,7 @@ private Q_SLOTS:
         manos().escribir("txtbliq", u"600"_s);
         manos().pulsar("PicAce");
         QCOMPARE(declaraciones().size(), 1);
-        QCOMPARE(declaraciones().front().toList().value(FilaDeclaracion::IMPORTE).toDouble(),
-                 4800.0);
+        QCOMPARE(declaraciones().front().importe, 4800.0);
         QCOMPARE(unico::la<cDecResumen>().CSDE(), csde);
     }
 

@@ -64,7 +64,7 @@ private:
     static double importeGuardado()
     {
         const auto filas = unico::la<cDecResumen>().CargarDeclaraciones();
-        return filas.value(0).toList().value(FilaDeclaracion::IMPORTE, -1).toDouble();
+        return filas.isEmpty() ? -1 : filas.first().importe;
     }
     /// Fills a whole return of 1,000.00 in box 01 by the keyboard.
     void rellenar()

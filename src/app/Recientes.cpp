@@ -1,7 +1,6 @@
 #include "app/Recientes.h"
 
 #include "app/Mandos.h"
-#include "core/Servicios.h"
 
 #include <QAction>
 #include <QMenu>
@@ -10,16 +9,14 @@ using namespace Qt::StringLiterals;
 
 static constexpr int Cuantos = 4;
 
-static Filas ultimosDeclarantes()
+static QList<DeclaranteReciente> ultimosDeclarantes()
 {
-    Filas filas;
     try {
-        servicioDeclarante()->ObtenerUltimosDeclarantes(filas);
+        return cDecLista::UltimosDeclarantes();
     } catch (const std::exception &) {
         // a database that cannot be read has been told at start-up or by the action that met it
-        filas.clear();
+        return {};
     }
-    return filas;
 }
 
 Recientes::Recientes(QMenu *menu)
@@ -31,10 +28,8 @@ Recientes::Recientes(QMenu *menu)
         entrada->setObjectName(u"d%1"_s.arg(i));
         entrada->setVisible(false);
         connect(entrada, &QAction::triggered, this, [this, entrada] {
-            const auto fila = entrada->data().toList();
-            Q_EMIT elegido(fila.value(FilaReciente::CSCO).toInt(),
-                           fila.value(FilaReciente::DNI).toString(),
-                           fila.value(FilaReciente::NOMBRE).toString());
+            const auto &declarante = m_declarantes.at(m_entradas.indexOf(entrada));
+            Q_EMIT elegido(declarante.csco, declarante.dni, declarante.nombre);
         });
         m_entradas.append(entrada);
     }
@@ -42,15 +37,15 @@ Recientes::Recientes(QMenu *menu)
 
 void Recientes::cargar()
 {
-    const Filas filas = ultimosDeclarantes();
+    m_declarantes = ultimosDeclarantes();
     for (qsizetype i = 0; i < m_entradas.size(); ++i) {
-        const auto fila = filas.value(i).toList();
         auto *entrada = m_entradas.at(i);
-        QString texto = fila.value(FilaReciente::DNI).toString() + u" - "_s
-            + fila.value(FilaReciente::NOMBRE).toString();
-        entrada->setVisible(!fila.isEmpty());
-        entrada->setText(fila.isEmpty() ? QString() : texto.replace(u'&', u"&&"_s));
-        entrada->setData(fila);
+        const bool hay = i < m_declarantes.size();
+        entrada->setVisible(hay);
+        QString texto;
+        if (hay)
+            texto = m_declarantes.at(i).dni + u" - "_s + m_declarantes.at(i).nombre;
+        entrada->setText(texto.replace(u'&', u"&&"_s));
     }
 }
 

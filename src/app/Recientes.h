@@ -1,5 +1,7 @@
 #pragma once
 
+#include "declarants/cDecLista.h"
+
 #include <QObject>
 
 class QAction;
@@ -23,4 +25,5 @@ Q_SIGNALS:
 
 private:
     QList<QAction *> m_entradas;
+    QList<DeclaranteReciente> m_declarantes;
 };

@@ -45,25 +45,18 @@ static Rechazo tomarDeclaracion(const Argumentos &argumentos)
         = modelo == Modelo480 ? int(PeriodoAnual) : argumentos.valor(u"periodo").toInt();
 
     auto &cabecera = unico::la<cDecResumen>();
-    const Filas filas = cabecera.CargarDeclaraciones();
-    using enum FilaDeclaracion::Columna;
-    const auto hallada = std::ranges::find_if(filas, [&](const QVariant &fila) {
-        const auto celdas = fila.toList();
-        return celdas.value(MODELO).toString() == modelo
-            && celdas.value(EJERCICIO).toInt() == ejercicio
-            && celdas.value(PERIODO).toInt() == periodo;
+    const auto declaraciones = cabecera.CargarDeclaraciones();
+    const auto hallada = std::ranges::find_if(declaraciones, [&](const DeclaracionListada &d) {
+        return d.modelo == modelo && d.ejercicio == ejercicio && d.periodo == periodo;
     });
-    if (hallada == filas.end())
+    if (hallada == declaraciones.end())
         return rechazado(msj(Msj::CliDeclaracionNoExiste, modelo, argumentos.valor(u"ejercicio"),
                              modelo == Modelo480 ? palabraPeriodicidad(PeriodicidadAnual)
                                                  : argumentos.valor(u"periodo")));
-    const qint32 csde = hallada->toList().value(CSDE).toInt();
-    cabecera.EJERCICIO(static_cast<qint16>(ejercicio));
-    cabecera.CambiarModelo(modelo);
-    cabecera.PERIODO(static_cast<quint8>(periodo));
+    cabecera.TomarDeclaracion(*hallada);
     auto &peticion = unico::la<cImOf>();
     peticion.CSCO(cabecera.CSCO());
-    peticion.CSDE(csde);
+    peticion.CSDE(cabecera.CSDE());
     peticion.MODELO(modelo);
     return {};
 }

@@ -8,60 +8,57 @@
 #include "declarants/cDecLista.h"
 #include "declarants/cDecResumen.h"
 
-static Columna columna(const QString &titulo, int campo, bool numerica = false)
-{
-    return {titulo, [campo](const QVariantList &fila) { return fila.value(campo).toString(); },
-            numerica};
-}
-
-static Resultado listado(const Argumentos &argumentos, std::span<const QStringView> nombres,
-                         std::span<const Columna> columnas, const Filas &filas, Msj ninguno)
+template <class Fila>
+static Resultado listado(const Argumentos &argumentos, std::span<const Columna<Fila>> columnas,
+                         const QList<Fila> &filas, Msj ninguno)
 {
     if (argumentos.tiene(u"json"))
-        return hecho(textoJson(nombres, filas));
+        return hecho(textoJson(columnas, filas));
     return hecho(filas.isEmpty() ? msj(ninguno) : textoTabla(columnas, filas));
+}
+
+/// The column of a member.
+template <class Fila, auto Dato> static QJsonValue de(const Fila &fila)
+{
+    return fila.*Dato;
 }
 
 static Resultado listarDeclarantes(const Argumentos &argumentos)
 {
-    using enum FilaDeclarante::Columna;
-    static constexpr QStringView nombres[Total]
-        = {u"CSCO", u"DNI", u"NOMBRE", u"NOMMUN", u"NOMPROV", u"NUM430", u"NUM480"};
-    const Columna columnas[] = {
-        columna(msj(Msj::ColumnaDni), DNI),          columna(msj(Msj::ColumnaRazonSocial), NOMBRE),
-        columna(msj(Msj::ColumnaMunicipio), NOMMUN), columna(msj(Msj::ColumnaProvincia), NOMPROV),
-        columna(Modelo430.toString(), NUM430, true), columna(Modelo480.toString(), NUM480, true),
+    using Fila = DeclaranteListado;
+    const Columna<Fila> columnas[] = {
+        {u"CSCO", de<Fila, &Fila::csco>},
+        {u"DNI", de<Fila, &Fila::dni>, msj(Msj::ColumnaDni)},
+        {u"NOMBRE", de<Fila, &Fila::nombre>, msj(Msj::ColumnaRazonSocial)},
+        {u"NOMMUN", de<Fila, &Fila::nommun>, msj(Msj::ColumnaMunicipio)},
+        {u"NOMPROV", de<Fila, &Fila::nomprov>, msj(Msj::ColumnaProvincia)},
+        {u"NUM430", de<Fila, &Fila::num430>, Modelo430.toString(), true},
+        {u"NUM480", de<Fila, &Fila::num480>, Modelo480.toString(), true},
     };
-    return listado(argumentos, nombres, columnas, unico::la<cDecLista>().CargarDeclarantes(),
-                   Msj::CliListaVaciaDeclarantes);
-}
-
-static QString periodoDe(const QVariantList &fila)
-{
-    using enum FilaDeclaracion::Columna;
-    return textoPeriodo(fila.value(PERIODICIDAD).toInt(), fila.value(PERIODO).toInt());
-}
-
-static QString importeDe(const QVariantList &fila)
-{
-    return textoImporte(fila.value(FilaDeclaracion::IMPORTE).toDouble());
+    return listado<Fila>(argumentos, columnas, unico::la<cDecLista>().CargarDeclarantes(),
+                         Msj::CliListaVaciaDeclarantes);
 }
 
 static Resultado listarDeclaraciones(const Argumentos &argumentos)
 {
-    using enum FilaDeclaracion::Columna;
-    static constexpr QStringView nombres[Total]
-        = {u"CSDE", u"EJERCICIO", u"PERIODICIDAD", u"PERIODO", u"MODELO", u"TIPOLOGIA", u"IMPORTE"};
-    const Columna columnas[] = {
-        columna(msj(Msj::Ejercicio), EJERCICIO),
-        {msj(Msj::Periodo), periodoDe},
-        columna(msj(Msj::Modelo), MODELO),
-        {msj(Msj::ColumnaImporte), importeDe, true},
+    using Fila = DeclaracionListada;
+    const auto periodo = [](const Fila &f) { return textoPeriodo(f.periodicidad, f.periodo); };
+    const auto importe = [](const Fila &f) { return textoImporte(f.importe); };
+    // every amount of up to 13 integer digits and two decimals is exact as a number of euros
+    const auto euros = [](const Fila &f) { return QJsonValue(f.importe / 100); };
+    const Columna<Fila> columnas[] = {
+        {u"CSDE", de<Fila, &Fila::csde>},
+        {u"EJERCICIO", de<Fila, &Fila::ejercicio>, msj(Msj::Ejercicio)},
+        {u"PERIODICIDAD", de<Fila, &Fila::periodicidad>},
+        {u"PERIODO", de<Fila, &Fila::periodo>, msj(Msj::Periodo), false, periodo},
+        {u"MODELO", de<Fila, &Fila::modelo>, msj(Msj::Modelo)},
+        {u"TIPOLOGIA", de<Fila, &Fila::tipologia>},
+        {u"IMPORTE", euros, msj(Msj::ColumnaImporte), true, importe},
     };
     if (const QString motivo = tomarDeclarante(argumentos.valor(u"dni")); !motivo.isEmpty())
         return rechazado(motivo);
-    return listado(argumentos, nombres, columnas, unico::la<cDecResumen>().CargarDeclaraciones(),
-                   Msj::CliListaVaciaDeclaraciones);
+    return listado<Fila>(argumentos, columnas, unico::la<cDecResumen>().CargarDeclaraciones(),
+                         Msj::CliListaVaciaDeclaraciones);
 }
 
 static constexpr Opcion OpcionesDeclarantes[] = {

@@ -1,24 +1,62 @@
 #pragma once
 
-#include "dataservice/Registros.h"
-
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QStringList>
 
-#include <functional>
 #include <span>
 
-/// One column of a list: how it is called and what it shows of a row.
-struct Columna
+/// A list for the terminal: its rows under their titles, in aligned columns.
+struct Tabla
 {
-    QString titulo;
-    std::function<QString(const QVariantList &fila)> texto;
-    bool numerica = false; ///< aligned to the right
+    struct Titulo
+    {
+        QString texto;
+        bool numerica = false; ///< aligned to the right
+    };
+    QList<Titulo> titulos;
+    QList<QStringList> filas;
+
+    QString texto() const;
 };
 
-/// The rows under their titles, in aligned columns.
-QString textoTabla(std::span<const Columna> columnas, const Filas &filas);
+/// One column of a list.
+template <class Fila> struct Columna
+{
+    QStringView nombre; ///< in JSON
+    QJsonValue (*valor)(const Fila &);
+    QString titulo{}; ///< in the table; empty: not shown there
+    bool numerica = false;
+    QString (*texto)(const Fila &) = nullptr; ///< in the table, where it is not the value
+};
 
-/// The rows as a JSON array of objects: the first names.size() elements under these names. An
-/// element named IMPORTE, in cents, becomes a number of euros: every amount of up to 13 integer
-/// digits and two decimals is exact in it.
-QString textoJson(std::span<const QStringView> nombres, const Filas &filas);
+template <class Fila>
+QString textoTabla(std::span<const Columna<Fila>> columnas, const QList<Fila> &filas)
+{
+    Tabla tabla;
+    tabla.filas.resize(filas.size());
+    for (const auto &columna : columnas) {
+        if (columna.titulo.isEmpty())
+            continue;
+        tabla.titulos.append({columna.titulo, columna.numerica});
+        for (qsizetype i = 0; i < filas.size(); ++i)
+            tabla.filas[i] += columna.texto ? columna.texto(filas[i])
+                                            : columna.valor(filas[i]).toVariant().toString();
+    }
+    return tabla.texto();
+}
+
+QString textoJson(const QJsonArray &lista);
+
+template <class Fila>
+QString textoJson(std::span<const Columna<Fila>> columnas, const QList<Fila> &filas)
+{
+    QJsonArray lista;
+    for (const Fila &fila : filas) {
+        QJsonObject objeto;
+        for (const auto &columna : columnas)
+            objeto.insert(columna.nombre, columna.valor(fila));
+        lista.append(objeto);
+    }
+    return textoJson(lista);
+}

@@ -23,7 +23,11 @@
 
 using namespace Qt::StringLiterals;
 
-using namespace FilaDeclarante;
+using Fila = DeclaranteListado;
+
+namespace {
+enum Columna { CSCO, DNI, NOMBRE, NOMMUN, NOMPROV, NUM430, NUM480 };
+}
 
 static cDecLista &estado()
 {
@@ -40,7 +44,7 @@ FrmDecLista::FrmDecLista(QWidget *padre)
     : PantallaBase(u"FrmDecLista"_s, padre)
     , m_lblOrdenar(nuevaEtiqueta(u"lblOrdenar"_s, this))
     , m_flxDeclarantes(new QTableView(this))
-    , m_modelo(new ModeloFilas(this))
+    , m_modelo(new ModeloFilas<Fila>(this))
     , m_busqueda(new cUtilidadesGrid(m_flxDeclarantes))
     , m_lblVacio(nuevaEtiqueta(u"lblVacio"_s, m_flxDeclarantes->viewport()))
     , m_lblBusqueda(nuevaEtiqueta(u"lblBusqueda"_s, this))
@@ -135,13 +139,15 @@ void FrmDecLista::Anadir_captions()
     m_flxDeclarantes->setAccessibleName(msj(Msj::AccesibleListaDeclarantes));
     m_flxDeclarantes->setAccessibleDescription(msj(Msj::PistaBusquedaLista));
     m_modelo->columnas({
-        {CSCO, msj(Msj::ColumnaCodigo)},
-        {DNI, msj(Msj::ColumnaDni), Qt::AlignLeft, {}, msj(Msj::PistaOrdenDni)},
-        {NOMBRE, msj(Msj::ColumnaRazonSocial), Qt::AlignLeft, {}, msj(Msj::PistaOrdenNombre)},
-        {NOMMUN, msj(Msj::ColumnaMunicipio)},
-        {NOMPROV, msj(Msj::ColumnaProvincia)},
-        {NUM430, QString()},
-        {NUM480, QString()},
+        {msj(Msj::ColumnaCodigo), [](const Fila &f) { return QString::number(f.csco); }},
+        {msj(Msj::ColumnaDni), [](const Fila &f) { return f.dni; }, Qt::AlignLeft,
+         msj(Msj::PistaOrdenDni)},
+        {msj(Msj::ColumnaRazonSocial), [](const Fila &f) { return f.nombre; }, Qt::AlignLeft,
+         msj(Msj::PistaOrdenNombre)},
+        {msj(Msj::ColumnaMunicipio), [](const Fila &f) { return f.nommun; }},
+        {msj(Msj::ColumnaProvincia), [](const Fila &f) { return f.nomprov; }},
+        {QString(), [](const Fila &f) { return QString::number(f.num430); }},
+        {QString(), [](const Fila &f) { return QString::number(f.num480); }},
     });
     captionsAceptarCancelar(m_cmdAceptar, m_cmdCancelar);
     if (borra)
@@ -173,7 +179,7 @@ void FrmDecLista::CargarflxDeclarantes()
     const qint32 csco = estado().CSCO();
     const int lugar = std::max(0, m_flxDeclarantes->currentIndex().row());
     m_modelo->filas(estado().CargarDeclarantes());
-    const int fila = csco == 0 ? -1 : m_modelo->buscar(CSCO, csco);
+    const int fila = csco == 0 ? -1 : m_modelo->buscar(&Fila::csco, csco);
     seleccionar(fila >= 0 ? fila : std::min(lugar, m_modelo->rowCount() - 1));
 }
 
@@ -206,47 +212,44 @@ void FrmDecLista::seleccionar(int fila)
 
 void FrmDecLista::alSeleccionar()
 {
-    const auto fila = filaActual();
-    estado().CSCO(fila.value(CSCO).toInt());
-    m_cmdAceptar->setEnabled(!fila.isEmpty());
+    const auto *fila = filaActual();
+    estado().CSCO(fila ? fila->csco : 0);
+    m_cmdAceptar->setEnabled(fila);
 }
 
-QVariantList FrmDecLista::filaActual() const
+const DeclaranteListado *FrmDecLista::filaActual() const
 {
     const auto filas = m_flxDeclarantes->selectionModel()->selectedRows();
-    return filas.isEmpty() ? QVariantList() : m_modelo->fila(filas.first().row());
+    return filas.isEmpty() ? nullptr : &m_modelo->fila(filas.first().row());
 }
 
 void FrmDecLista::aceptar()
 {
-    const auto fila = filaActual();
-    if (fila.isEmpty())
+    const auto *fila = filaActual();
+    if (!fila)
         return;
     if (eliminando()) {
-        eliminar();
+        eliminar(Fila(*fila));
         return;
     }
     auto &resumen = unico::la<cDecResumen>();
     resumen.ENTRADA(u"A"_s);
-    resumen.TomarDeclarante(fila.value(CSCO).toInt(), fila.value(DNI).toString(),
-                            fila.value(NOMBRE).toString());
+    resumen.TomarDeclarante(fila->csco, fila->dni, fila->nombre);
     cerrarA(Pantalla::Resumen);
 }
 
-void FrmDecLista::eliminar()
+void FrmDecLista::eliminar(const Fila &fila)
 {
-    const auto fila = filaActual();
     const QString titulo = msj(Msj::TituloBorradoDeclarante);
-    if (fila.value(NUM430).toDouble() != 0 || fila.value(NUM480).toDouble() != 0) {
+    if (fila.num430 != 0 || fila.num480 != 0) {
         mensajes::aviso(this, titulo, msj(Msj::AvisoTieneDeclaraciones));
         return;
     }
-    const QString texto = msj(Msj::PreguntaBorrarDeclarante, fila.value(DNI).toString(),
-                              fila.value(NOMBRE).toString());
-    if (!mensajes::pregunta(this, titulo, texto))
+    if (!mensajes::pregunta(this, titulo,
+                            msj(Msj::PreguntaBorrarDeclarante, fila.dni, fila.nombre)))
         return;
     auto &datos = unico::la<cDecDatos>();
-    datos.CSCO(fila.value(CSCO).toInt());
+    datos.CSCO(fila.csco);
     datos.BorrarDeclarante();
     PresentaDatos();
     unico::la<CEntrada>().InicializarContadores();

@@ -2,8 +2,9 @@
 
 #include "widgets/PantallaBase.h"
 
+struct DeclaranteListado;
+template <class Fila> class ModeloFilas;
 class BarraBotones;
-class ModeloFilas;
 class QLabel;
 class QTableView;
 class cUtilidadesGrid;
@@ -35,14 +36,14 @@ private:
     void ordenar(int columna);
     void seleccionar(int fila);
     void alSeleccionar();
-    QVariantList filaActual() const;
+    const DeclaranteListado *filaActual() const; ///< null when no row is selected
     bool eliminando() const;
     void aceptar();
-    void eliminar();
+    void eliminar(const DeclaranteListado &fila);
 
     QLabel *m_lblOrdenar;
     QTableView *m_flxDeclarantes;
-    ModeloFilas *m_modelo;
+    ModeloFilas<DeclaranteListado> *m_modelo;
     cUtilidadesGrid *m_busqueda;
     QLabel *m_lblVacio;
     QLabel *m_lblBusqueda;

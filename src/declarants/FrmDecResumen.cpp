@@ -19,9 +19,16 @@
 
 using namespace Qt::StringLiterals;
 
-using namespace FilaDeclaracion;
+using Fila = DeclaracionListada;
 
-static constexpr int ColumnaPeriodoNumero = 7;
+namespace {
+enum Columna { CSDE, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, TIPOLOGIA, IMPORTE, NUMERO_PERIODO };
+}
+
+static QString periodoDe(const Fila &fila)
+{
+    return textoPeriodo(fila.periodicidad, fila.periodo);
+}
 
 FrmDecResumen::FrmDecResumen(QWidget *padre)
     : PantallaBase(u"FrmDecResumen"_s, padre)
@@ -31,7 +38,7 @@ FrmDecResumen::FrmDecResumen(QWidget *padre)
     , m_imgNueva(crearBoton(u"ImgNueva"_s))
     , m_cmdAbandonar(crearBoton(u"cmdAbandonar"_s))
     , m_flxDeclaraciones(new QTableView(this))
-    , m_modelo(new ModeloFilas(this))
+    , m_modelo(new ModeloFilas<Fila>(this))
     , m_cmdDatos(crearBoton(u"cmdDatos"_s))
     , m_cmdImprimir(crearBoton(u"cmdImprimir"_s))
     , m_cmdEliminar(crearBoton(u"cmdEliminar"_s))
@@ -75,7 +82,7 @@ void FrmDecResumen::prepararGrid()
     m_flxDeclaraciones->setObjectName(u"flxDeclaraciones"_s);
     m_flxDeclaraciones->setModel(m_modelo);
     prepararTabla(m_flxDeclaraciones);
-    for (const int oculta : {+CSDE, +PERIODICIDAD, +TIPOLOGIA, ColumnaPeriodoNumero})
+    for (const int oculta : {CSDE, PERIODICIDAD, TIPOLOGIA, NUMERO_PERIODO})
         m_flxDeclaraciones->setColumnHidden(oculta, true);
     const int letra = fontMetrics().averageCharWidth();
     m_flxDeclaraciones->setColumnWidth(EJERCICIO, 14 * letra);
@@ -165,20 +172,18 @@ void FrmDecResumen::Anadir_captions()
     rotular(m_cmdCerrar, Msj::BotonCerrar, Msj::PistaVolverMenu);
     m_flxDeclaraciones->setAccessibleName(msj(Msj::AccesibleListaDeclaraciones));
 
-    const auto periodo = [](const QVariantList &fila) {
-        return textoPeriodo(fila.value(PERIODICIDAD).toInt(), fila.value(PERIODO).toInt());
-    };
-    const auto importe
-        = [](const QVariantList &fila) { return textoImporte(fila.value(IMPORTE).toDouble()); };
+    const auto numero
+        = [](auto dato) { return [dato](const Fila &f) { return QString::number(f.*dato); }; };
     m_modelo->columnas({
-        {CSDE, msj(Msj::ColumnaCodigo)},
-        {EJERCICIO, msj(Msj::Ejercicio)},
-        {PERIODICIDAD, msj(Msj::ColumnaPeriodicidad)},
-        {PERIODO, msj(Msj::Periodo), Qt::AlignLeft, periodo},
-        {MODELO, msj(Msj::Modelo)},
-        {TIPOLOGIA, msj(Msj::ColumnaTipologia)},
-        {IMPORTE, msj(Msj::ColumnaImporte), Qt::AlignRight, importe},
-        {PERIODO, msj(Msj::Periodo)},
+        {msj(Msj::ColumnaCodigo), numero(&Fila::csde)},
+        {msj(Msj::Ejercicio), numero(&Fila::ejercicio)},
+        {msj(Msj::ColumnaPeriodicidad), numero(&Fila::periodicidad)},
+        {msj(Msj::Periodo), periodoDe},
+        {msj(Msj::Modelo), [](const Fila &f) { return f.modelo; }},
+        {msj(Msj::ColumnaTipologia), numero(&Fila::tipologia)},
+        {msj(Msj::ColumnaImporte), [](const Fila &f) { return textoImporte(f.importe); },
+         Qt::AlignRight},
+        {msj(Msj::Periodo), numero(&Fila::periodo)},
     });
 }
 
@@ -211,7 +216,7 @@ void FrmDecResumen::PresentaDatos()
 
 void FrmDecResumen::PresentaBotones()
 {
-    const bool hay = filaActual().has_value();
+    const bool hay = filaActual() != nullptr;
     for (auto *boton : {m_cmdDatos, m_cmdImprimir, m_cmdEliminar})
         boton->setEnabled(hay);
 }

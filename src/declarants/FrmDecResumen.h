@@ -2,9 +2,8 @@
 
 #include "widgets/PantallaBase.h"
 
-#include <optional>
-
-class ModeloFilas;
+struct DeclaracionListada;
+template <class Fila> class ModeloFilas;
 class NuevaDeclaracion;
 class QLabel;
 class QPushButton;
@@ -44,7 +43,7 @@ private:
     void ponerIconos();
     void enfocarLista();
 
-    std::optional<QVariantList> filaActual() const;
+    const DeclaracionListada *filaActual() const; ///< null when no row is selected
     void alSeleccionar();
     void seleccionar(qint32 csde);
     bool tomarFila();
@@ -64,7 +63,7 @@ private:
     QPushButton *m_imgNueva;
     QPushButton *m_cmdAbandonar;
     QTableView *m_flxDeclaraciones;
-    ModeloFilas *m_modelo;
+    ModeloFilas<DeclaracionListada> *m_modelo;
     QPushButton *m_cmdDatos;
     QPushButton *m_cmdImprimir;
     QPushButton *m_cmdEliminar;

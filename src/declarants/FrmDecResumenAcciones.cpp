@@ -21,31 +21,29 @@
 
 using namespace Qt::StringLiterals;
 
-using namespace FilaDeclaracion;
+using Fila = DeclaracionListada;
 
 static cDecResumen &cabecera()
 {
     return unico::la<cDecResumen>();
 }
 
-std::optional<QVariantList> FrmDecResumen::filaActual() const
+const DeclaracionListada *FrmDecResumen::filaActual() const
 {
-    const auto filas = m_flxDeclaraciones->selectionModel()->selectedRows(EJERCICIO);
-    if (filas.isEmpty())
-        return {};
-    return m_modelo->fila(filas.first().row());
+    const auto filas = m_flxDeclaraciones->selectionModel()->selectedRows();
+    return filas.isEmpty() ? nullptr : &m_modelo->fila(filas.first().row());
 }
 
 void FrmDecResumen::alSeleccionar()
 {
-    const auto fila = filaActual();
-    cabecera().CSDE(fila ? fila->value(CSDE).toInt() : 0);
+    const auto *fila = filaActual();
+    cabecera().CSDE(fila ? fila->csde : 0);
     PresentaBotones();
 }
 
 void FrmDecResumen::seleccionar(qint32 csde)
 {
-    const int fila = csde == 0 ? -1 : m_modelo->buscar(CSDE, csde);
+    const int fila = csde == 0 ? -1 : m_modelo->buscar(&Fila::csde, csde);
     if (fila >= 0)
         m_flxDeclaraciones->selectRow(fila);
     else
@@ -137,17 +135,11 @@ void FrmDecResumen::abandonarNueva()
 /// its header is the same one.
 bool FrmDecResumen::tomarFila()
 {
-    const auto fila = filaActual();
+    const auto *fila = filaActual();
     if (!fila)
         return false;
     abandonarNueva();
-    auto &c = cabecera();
-    c.CSDE(fila->value(CSDE).toInt());
-    c.EJERCICIO(fila->value(EJERCICIO).value<qint16>());
-    c.PERIODICIDAD(fila->value(PERIODICIDAD).value<quint8>());
-    c.PERIODO(fila->value(PERIODO).value<quint8>());
-    c.MODELO(fila->value(MODELO).toString());
-    c.TIPOLOGIA(fila->value(TIPOLOGIA).value<quint8>());
+    cabecera().TomarDeclaracion(*fila);
     return true;
 }
 
@@ -182,17 +174,15 @@ void FrmDecResumen::imprimir()
 
 void FrmDecResumen::eliminar()
 {
-    const auto fila = filaActual();
-    if (!fila)
+    if (!filaActual())
         return;
-    const QString periodo
-        = textoPeriodo(fila->value(PERIODICIDAD).toInt(), fila->value(PERIODO).toInt());
-    const QString texto
-        = msj(Msj::PreguntaBorrarDeclaracion, fila->value(EJERCICIO).toString(), periodo);
+    const Fila fila = *filaActual();
+    const QString texto = msj(Msj::PreguntaBorrarDeclaracion, QString::number(fila.ejercicio),
+                              textoPeriodo(fila.periodicidad, fila.periodo));
     if (!mensajes::pregunta(this, msj(Msj::TituloBorradoDeclaracion), texto))
         return;
     abandonarNueva();
-    cabecera().BorrarDeclaracion(fila->value(CSDE).toInt(), fila->value(MODELO).toString());
+    cabecera().BorrarDeclaracion(fila);
     cabecera().CSDE(0);
     PresentaDatos();
     enfocarLista();

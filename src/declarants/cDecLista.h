@@ -1,8 +1,29 @@
 #pragma once
 
-#include "dataservice/Registros.h"
+#include <QList>
+#include <QString>
 
 using namespace Qt::StringLiterals;
+
+/// A declarant in a list. The counters are the returns really stored.
+struct DeclaranteListado
+{
+    qint32 csco = 0;
+    QString dni;
+    QString nombre;
+    QString nommun;
+    QString nomprov; ///< in the session's language
+    qint32 num430 = 0;
+    qint32 num480 = 0;
+};
+
+/// One of the declarants last worked on.
+struct DeclaranteReciente
+{
+    qint32 csco = 0;
+    QString dni;
+    QString nombre;
+};
 
 /// State of the declarant list.
 class cDecLista
@@ -20,8 +41,10 @@ public:
     quint8 ORDEN() const { return m_orden; }
     void ORDEN(quint8 orden) { m_orden = orden; }
 
-    /// FilaDeclarante rows in the order ORDEN; sets NUMDECLASEL.
-    Filas CargarDeclarantes();
+    /// Every declarant, in the order ORDEN; sets NUMDECLASEL.
+    QList<DeclaranteListado> CargarDeclarantes();
+    /// Up to four, the last saved first.
+    static QList<DeclaranteReciente> UltimosDeclarantes();
 
 private:
     qint32 m_csco = 0;

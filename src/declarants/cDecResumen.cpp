@@ -5,6 +5,14 @@
 #include "core/Servicios.h"
 #include "core/Unico.h"
 
+/// The header's five elements of a service's row, from `primero` on.
+static CabeceraListada cabeceraDe(const Registro &fila, qsizetype primero)
+{
+    return {fila.value(primero).value<qint16>(), fila.value(primero + 1).value<quint8>(),
+            fila.value(primero + 2).value<quint8>(), fila.value(primero + 3).toString(),
+            fila.value(primero + 4).value<quint8>()};
+}
+
 void cDecResumen::MODO(const QString &modo)
 {
     m_modo = modo;
@@ -18,11 +26,7 @@ void cDecResumen::proponer()
     Registro ultima;
     if (!ObtenerUltimaDeclaracion(ultima))
         return;
-    m.ejercicio = ultima.value(RegUltima::EJERCICIO).value<qint16>();
-    m.periodicidad = ultima.value(RegUltima::PERIODICIDAD).value<quint8>();
-    m.periodo = ultima.value(RegUltima::PERIODO).value<quint8>();
-    m.modelo = ultima.value(RegUltima::MODELO).toString();
-    m.tipologia = ultima.value(RegUltima::TIPOLOGIA).value<quint8>();
+    m = cabeceraDe(ultima, RegUltima::EJERCICIO);
     avanzar();
     if (!servicioDeclaracion()->EjerPerValidos(Cabecera().first(RegCabecera::TotalPeriodo)))
         m = {};
@@ -85,16 +89,29 @@ void cDecResumen::TomarDeclarante(qint32 csco, const QString &dni, const QString
     m_nombre = nombre;
 }
 
-Filas cDecResumen::CargarDeclaraciones()
+void cDecResumen::TomarDeclaracion(const DeclaracionListada &declaracion)
 {
-    Filas filas;
-    m_numdeclasel = servicioDeclaracion()->dameResultado(filas, m_csco);
-    return filas;
+    m_csde = declaracion.csde;
+    m = declaracion;
 }
 
-void cDecResumen::BorrarDeclaracion(qint32 csde, const QString &modelo) const
+QList<DeclaracionListada> cDecResumen::CargarDeclaraciones()
+{
+    using enum FilaDeclaracion::Columna;
+    Filas filas;
+    m_numdeclasel = servicioDeclaracion()->dameResultado(filas, m_csco);
+    QList<DeclaracionListada> lista;
+    for (const QVariant &fila : std::as_const(filas)) {
+        const auto celdas = fila.toList();
+        lista.append({cabeceraDe(celdas, EJERCICIO), celdas.value(CSDE).toInt(),
+                      celdas.value(IMPORTE).toDouble()});
+    }
+    return lista;
+}
+
+void cDecResumen::BorrarDeclaracion(const DeclaracionListada &declaracion) const
 {
     auto servicio = servicioDeclaracion();
-    servicio->BorrarDatosNoComunes(csde, modelo);
-    servicio->BorrarDeclaracion(csde);
+    servicio->BorrarDatosNoComunes(declaracion.csde, declaracion.modelo);
+    servicio->BorrarDeclaracion(declaracion.csde);
 }

@@ -2,6 +2,25 @@
 
 #include "dataservice/Registros.h"
 
+#include <QList>
+
+/// What tells one return of a declarant from another.
+struct CabeceraListada
+{
+    qint16 ejercicio = 0;
+    quint8 periodicidad = 0; ///< 1 monthly, 2 annual
+    quint8 periodo = 0; ///< month; 12 for an annual return
+    QString modelo; ///< "430", "480" or empty
+    quint8 tipologia = 0; ///< 1 model 430, 2 model 480, 0 none
+};
+
+/// A stored return in a declarant's list.
+struct DeclaracionListada : CabeceraListada
+{
+    qint32 csde = 0;
+    double importe = 0; ///< cents: the total quota of a 430, the annual result of a 480
+};
+
 /// Header of the return in hand and identity of its declarant, shared by the summary, the entry
 /// screens and printing.
 class cDecResumen
@@ -47,21 +66,15 @@ public:
     /// The session's declarant, for a screen that starts with it.
     void TomarDeclarante(qint32 csco, const QString &dni, const QString &nombre);
 
-    /// FilaDeclaracion rows of the declarant; sets NUMDECLASEL.
-    Filas CargarDeclaraciones();
-    /// Deletes the return CSDE of `modelo`, figures and header.
-    void BorrarDeclaracion(qint32 csde, const QString &modelo) const;
+    /// A stored return becomes the one in hand.
+    void TomarDeclaracion(const DeclaracionListada &declaracion);
+
+    /// The declarant's returns, oldest first; sets NUMDECLASEL.
+    QList<DeclaracionListada> CargarDeclaraciones();
+    /// Deletes a stored return, figures and header.
+    void BorrarDeclaracion(const DeclaracionListada &declaracion) const;
 
 private:
-    struct Declaracion
-    {
-        qint16 ejercicio = 0;
-        quint8 periodicidad = 0;
-        quint8 periodo = 0;
-        QString modelo;
-        quint8 tipologia = 0;
-    };
-
     void proponer();
     void avanzar();
 
@@ -72,5 +85,5 @@ private:
     QString m_entrada;
     QString m_dni;
     QString m_nombre;
-    Declaracion m;
+    CabeceraListada m;
 };
