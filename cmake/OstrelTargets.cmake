@@ -16,8 +16,8 @@ if(OSTREL_SANITIZE)
     target_link_options(ostrel_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# Qt's headers take most of the time of a build, so they are compiled once a kind of target. A build without
-# them (the one with the sanitizers) shows that every file includes what it uses.
+# Qt's headers take most of the time of a build, so they are compiled once a kind of target. The release is
+# built without: that shows that every file includes what it uses.
 option(OSTREL_PRECOMPILE "Compile Qt's headers once" ON)
 if(OSTREL_PRECOMPILE)
     file(WRITE ${PROJECT_BINARY_DIR}/vacio.cpp "")

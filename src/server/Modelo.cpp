@@ -23,7 +23,7 @@ std::vector<Modelo::Columna> columnas430()
 
 std::string nombreCasilla(int casilla)
 {
-    return (casilla < 10 ? "C0" : "C") + std::to_string(casilla);
+    return {'C', static_cast<char>('0' + casilla / 10), static_cast<char>('0' + casilla % 10)};
 }
 
 std::vector<Modelo::Columna> columnas480()
