@@ -8,11 +8,20 @@ extern const Orden OrdenDeclarar480;
 extern const Orden OrdenListarDeclarantes;
 extern const Orden OrdenListarDeclaraciones;
 extern const Orden OrdenImprimir;
+extern const Orden OrdenImportar;
+extern const Orden OrdenExportar;
 extern const Orden OrdenIdioma;
 
 static constexpr const Orden *Tabla[] = {
-    &OrdenDeclaranteAlta,      &OrdenDeclarar430, &OrdenDeclarar480, &OrdenListarDeclarantes,
-    &OrdenListarDeclaraciones, &OrdenImprimir,    &OrdenIdioma,
+    &OrdenDeclaranteAlta,
+    &OrdenDeclarar430,
+    &OrdenDeclarar480,
+    &OrdenListarDeclarantes,
+    &OrdenListarDeclaraciones,
+    &OrdenImprimir,
+    &OrdenImportar,
+    &OrdenExportar,
+    &OrdenIdioma,
 };
 
 static constexpr Opcion Comunes[] = {

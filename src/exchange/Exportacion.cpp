@@ -1,0 +1,77 @@
+#include "exchange/Exportacion.h"
+
+#include "core/Rutas.h"
+#include "core/TextoFallo.h"
+#include "core/Textos.h"
+#include "dataservice/ErrorDatos.h"
+#include "exchange/FicheroErrores.h"
+#include "exchange/FicheroSalida.h"
+#include "exchange/LineaIntercambio.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <optional>
+
+static constexpr qint64 CadaCuanto = 500; // lines between two looks at the user
+
+static bool esSalidaEstandar(const QString &destino)
+{
+    return destino == u"-";
+}
+
+static void abrir(std::optional<FicheroSalida> &salida, const QString &destino)
+{
+    if (esSalidaEstandar(destino))
+        salida.emplace();
+    else
+        salida.emplace(destino, FicheroSalida::Sobre);
+}
+
+Exportado exportar(const QString &destino, const std::function<void(const Visitante &)> &recorrer,
+                   const std::function<bool(qint64)> &seguir)
+{
+    Exportado hecho;
+    std::optional<FicheroSalida> salida;
+    try {
+        abrir(salida, destino);
+        QByteArray linea;
+        qint64 numero = 0;
+        recorrer([&](const Registro &declarante) {
+            linea.truncate(0);
+            ++numero;
+            if (const auto malo = intercambio::escribirLinea(linea, declarante)) {
+                hecho.motivo = msj(Msj::CaracterSinByte, QString::number(numero), *malo);
+                return false;
+            }
+            salida->escribir(linea);
+            hecho.detenida = numero % CadaCuanto == 0 && !seguir(numero);
+            return !hecho.detenida;
+        });
+        salida->terminar();
+    } catch (const std::exception &error) {
+        hecho.motivo = textoFallo(error);
+    }
+    hecho.lineas = salida ? salida->lineas() : 0;
+    return hecho;
+}
+
+bool esDelPrograma(const QString &ruta)
+{
+    const QString cual = QFileInfo(ruta).canonicalFilePath();
+    return std::ranges::any_of(QStringList{rutas().modelo, rutas().lectura, FicheroErrores::ruta()},
+                               [&](const QString &nuestra) {
+                                   return !cual.isEmpty()
+                                       && cual == QFileInfo(nuestra).canonicalFilePath();
+                               });
+}
+
+QString motivoNoExportable(const QString &destino)
+{
+    const QFileInfo fichero(destino);
+    const QString nombre = QDir::toNativeSeparators(destino);
+    if (!esSalidaEstandar(destino) && fichero.exists() && !fichero.isFile())
+        return msj(Msj::FicheroNoRegular, nombre);
+    return esDelPrograma(destino) ? msj(Msj::FicheroDelPrograma, nombre) : QString();
+}

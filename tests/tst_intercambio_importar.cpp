@@ -1,0 +1,338 @@
+#include "core/CEntrada.h"
+#include "core/Servicios.h"
+#include "exchange/Exportacion.h"
+#include "exchange/Importacion.h"
+#include "exchange/cExportar.h"
+#include "support/Entorno.h"
+#include "support/LineasPrueba.h"
+
+#include <QFileInfo>
+#include <QTest>
+
+#include <sys/stat.h>
+
+using Cuenta = Importacion::Cuenta;
+
+/// The counters in the order of Cuenta.
+static QList<qint64> cuentas(const Cuenta &c)
+{
+    return {c.lineas, c.importados, c.sustituidos, c.ignorados, c.incorrectos};
+}
+
+class TestIntercambioImportar : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_entorno.emplace(); }
+
+    /// What a file of which line 2 is `mala` leaves in the error file; lines 1 and 3 are stored.
+    void lineaMala_data()
+    {
+        QTest::addColumn<QByteArray>("mala");
+        QTest::addColumn<QByteArray>("errores");
+        const auto caso = [](const char *nombre, const QByteArray &mala, const char *errores) {
+            QTest::newRow(nombre) << mala << QByteArray(errores);
+        };
+        const auto con = [](qsizetype columna, const QByteArray &texto) {
+            return lineas::linea(2).replace(columna - 1, texto.size(), texto);
+        };
+        const char *corta = "Linea 2: No se han importado todos los datos\r\n";
+        caso("152 characters", lineas::linea(2).chopped(1), corta);
+        caso("empty line", "", corta);
+        caso("control character", con(60, "\t"),
+             "Linea 2: El c\xF3"
+             "digo 09 de la columna 60 no es un car\xE1"
+             "cter v\xE1lido.\r\n");
+        caso("undefined byte", con(1, "\x81"),
+             "Linea 2: El c\xF3"
+             "digo 81 de la columna 1 no es un car\xE1"
+             "cter v\xE1lido.\r\n");
+        caso("UTF-8",
+             con(10,
+                 "\xC3\x91"
+                 "ANDU"),
+             "Linea 2: No se admite el car\xE1"
+             "cter \xAB\xC3\xBB de la columna 10.\r\n");
+        caso("byte-order mark", "\xEF\xBB\xBF" + lineas::linea(2),
+             "Linea 2: No se admite el car\xE1"
+             "cter \xAB\xBB\xBB de la columna 2.\r\n");
+        caso("two findings", con(1, "99999999A").replace(95, 2, "99"),
+             "Linea 2: El campo DNI-CIF es err\xF3neo o carece de d\xEDgito de control.\r\n"
+             "Linea 2: La casilla C\xF3"
+             "digo de Provincia debe tener alg\xFAn valor.\r\n");
+        caso("number", con(82, "1 2 3"),
+             "Linea 2: El n\xFAmero de la calle debe ser un n\xFAmero.\r\n");
+    }
+    void lineaMala()
+    {
+        QFETCH(QByteArray, mala);
+        QFETCH(QByteArray, errores);
+        const auto cuenta
+            = importar(lineas::linea(1) + "\r\n" + mala + "\n" + lineas::linea(3) + "past the end");
+        QCOMPARE(cuentas(cuenta), (QList<qint64>{3, 2, 0, 0, 1}));
+        QCOMPARE(lineas::leer(FicheroErrores::ruta()), errores + lineas::formato());
+        QCOMPARE(exportado(), lineas::fichero(1, 1) + lineas::fichero(3, 3));
+        QCOMPARE(mensajeFinal(cuenta), u"Hay 1 declarante erroneo"_s);
+    }
+
+    void mensajes_data()
+    {
+        QTest::addColumn<QByteArray>("contenido");
+        QTest::addColumn<QString>("castellano");
+        QTest::addColumn<QString>("euskera");
+        QTest::newRow("all right")
+            << lineas::fichero(1, 2) << u"Sus datos han sido importados correctamente"_s
+            << u"Zure datuak behar bezala inportatu dira"_s;
+        QTest::newRow("all wrong")
+            << QByteArray("a\r\n") << u"Todos los declarantes que desea importar son erróneos"_s
+            << u"Inportatu nahi dituzun zergadun guztiak okerrak dira"_s;
+        QTest::newRow("one wrong") << "a\r\n" + lineas::linea(1) << u"Hay 1 declarante erroneo"_s
+                                   << u"Aitortzaile bat okerra da"_s;
+        QTest::newRow("two wrong")
+            << "a\r\nb\r\n" + lineas::linea(1) << u"Hay 2 declarantes erroneos"_s
+            << u"2 aitortzaile okerrak dira"_s;
+    }
+    void mensajes()
+    {
+        QFETCH(QByteArray, contenido);
+        QFETCH(QString, castellano);
+        QFETCH(QString, euskera);
+        QCOMPARE(mensajeFinal(importar(contenido)), castellano);
+        unico::la<CEntrada>().IDI(u"E"_s);
+        QCOMPARE(mensajeFinal(importar(contenido)), euskera);
+        if (contenido.startsWith('a'))
+            QVERIFY(lineas::leer(FicheroErrores::ruta())
+                        .startsWith("1. lerroa: ez dira inportatu datu guztiak\r\n"));
+        else
+            QCOMPARE(lineas::leer(FicheroErrores::ruta()), QByteArray());
+    }
+
+    /// Lines 1 to 4, of which 2 and 4 are stored already and 1 stands again at the end.
+    void existentes_data()
+    {
+        QTest::addColumn<Existentes>("existentes");
+        QTest::addColumn<QByteArray>("respuestas"); // s, n, S (yes to all), N
+        QTest::addColumn<QList<qint64>>("esperadas");
+        QTest::addColumn<QByteArray>("nombres"); // of 1 to 4: old, new, last
+        const auto caso = [](const char *nombre, Existentes existentes, const char *respuestas,
+                             const QList<qint64> &esperadas, const char *nombres) {
+            QTest::newRow(nombre) << existentes << QByteArray(respuestas) << esperadas
+                                  << QByteArray(nombres);
+        };
+        using enum Existentes;
+        caso("replace", Sustituir, "", {5, 2, 3, 0, 0}, "lnnn");
+        caso("keep", Conservar, "", {5, 2, 0, 3, 0}, "nono");
+        caso("yes and no", Detenerse, "snn", {5, 2, 1, 2, 0}, "nnno");
+        caso("no and yes", Detenerse, "nss", {5, 2, 2, 1, 0}, "lonn");
+        caso("yes to all", Detenerse, "nS", {5, 2, 2, 1, 0}, "lonn");
+        caso("no to all", Detenerse, "sN", {5, 2, 1, 2, 0}, "nnno");
+        caso("look", Examinar, "", {5, 2, 0, 3, 0}, " o o");
+    }
+    void existentes()
+    {
+        QFETCH(Existentes, existentes);
+        QFETCH(QByteArray, respuestas);
+        QFETCH(QList<qint64>, esperadas);
+        QFETCH(QByteArray, nombres);
+        importar(lineas::linea(2, "o") + '\n' + lineas::linea(4, "o"));
+        QByteArray contenido;
+        for (int numero = 1; numero <= 4; ++numero)
+            contenido += lineas::linea(numero, "n") + '\n';
+        lineas::escribir(ruta(), contenido + lineas::linea(1, "l"));
+        Importacion importacion(ruta(), existentes);
+        QStringList preguntados;
+        importacion.preguntar = [&](const QString &dni) {
+            preguntados += dni;
+            const char respuesta = respuestas.at(preguntados.size() - 1);
+            return respuesta == 's' ? Importacion::Respuesta::Si
+                : respuesta == 'n'  ? Importacion::Respuesta::No
+                : respuesta == 'S'  ? Importacion::Respuesta::SiATodos
+                                    : Importacion::Respuesta::NoATodos;
+        };
+        importacion.ejecutar();
+        QCOMPARE(cuentas(importacion.cuenta()), esperadas);
+        QCOMPARE(
+            preguntados,
+            (QStringList{lineas::dni(2), lineas::dni(4), lineas::dni(1)}).first(respuestas.size()));
+        QByteArray todas;
+        for (int numero = 1; numero <= 4; ++numero)
+            if (nombres.at(numero - 1) != ' ')
+                todas += lineas::linea(numero, nombres.mid(numero - 1, 1).toUpper()) + "\r\n";
+        QCOMPARE(exportado(), todas);
+    }
+
+    void detener()
+    {
+        lineas::escribir(ruta(), lineas::fichero(1, 12000));
+        Importacion importacion(ruta(), Existentes::Conservar);
+        QList<qint64> vistas;
+        importacion.seguir = [&](qint64 linea) {
+            vistas += linea;
+            return linea < 5500;
+        };
+        importacion.ejecutar();
+        QVERIFY(importacion.detenida());
+        QCOMPARE(cuentas(importacion.cuenta()), (QList<qint64>{5500, 5500, 0, 0, 0}));
+        QCOMPARE(vistas.size(), 11);
+        QCOMPARE(exportado(), lineas::fichero(1, 5500));
+    }
+
+    /// What was counted before a failure is stored, the rest is not.
+    void falloAMitad()
+    {
+        lineas::escribir(ruta(), lineas::fichero(1, 11000));
+        Importacion importacion(ruta(), Existentes::Conservar);
+        std::optional<ModeloPerdido> perdido;
+        importacion.seguir = [&](qint64 linea) {
+            if (linea == 5500)
+                perdido.emplace();
+            return true;
+        };
+        QVERIFY_EXCEPTION_THROWN(importacion.ejecutar(), std::exception);
+        perdido.reset();
+        QCOMPARE(cuentas(importacion.cuenta()), (QList<qint64>{5000, 5000, 0, 0, 0}));
+        QCOMPARE(exportado(), lineas::fichero(1, 5000));
+    }
+
+    void noImportables()
+    {
+        QCOMPARE(motivoNoImportable(ruta()), u"No existe el fichero que se desea importar"_s);
+        lineas::escribir(ruta(), "");
+        QCOMPARE(motivoNoImportable(ruta()), u"El fichero «%1» está vacío."_s.arg(ruta()));
+        lineas::escribir(ruta(), "a");
+        QCOMPARE(motivoNoImportable(ruta()), QString());
+        const QString carpeta = m_entorno->ruta(u"."_s);
+        QCOMPARE(motivoNoImportable(carpeta),
+                 u"«%1» es una carpeta o un dispositivo, no un fichero."_s.arg(carpeta));
+        const QString tuberia = m_entorno->ruta(u"tuberia"_s);
+        QCOMPARE(mkfifo(QFile::encodeName(tuberia).constData(), 0600), 0);
+        for (const QString &nada : {tuberia, carpeta})
+            QVERIFY(motivoNoImportable(nada).contains(u"no un fichero"));
+        QVERIFY(!motivoNoExportable(tuberia).isEmpty());
+        QVERIFY(!motivoNoExportable(carpeta).isEmpty());
+        for (const QString &propio : {rutas().modelo, rutas().lectura, FicheroErrores::ruta()}) {
+            lineas::escribir(FicheroErrores::ruta(), "a");
+            const QString enlace = m_entorno->ruta(u"enlace"_s);
+            QFile::remove(enlace);
+            QVERIFY(QFile::link(propio, enlace));
+            for (const QString &ruta : {propio, enlace}) {
+                QCOMPARE(motivoNoImportable(ruta),
+                         u"«%1» es un fichero del propio programa. Elija otro."_s.arg(ruta));
+                QCOMPARE(motivoNoExportable(ruta), motivoNoImportable(ruta));
+            }
+        }
+    }
+
+    /// The error file never writes through to another file.
+    void enlaceEnErrores()
+    {
+        const QByteArray antes = lineas::leer(rutas().lectura);
+        QVERIFY(QFile::link(rutas().lectura, FicheroErrores::ruta()));
+        importar("a\r\n");
+        QCOMPARE(lineas::leer(rutas().lectura), antes);
+        QVERIFY(!QFileInfo(FicheroErrores::ruta()).isSymLink());
+        QFile::remove(FicheroErrores::ruta());
+        QVERIFY(QDir().mkdir(FicheroErrores::ruta()));
+        QVERIFY_EXCEPTION_THROWN(importar(lineas::linea(1)), std::exception);
+        QCOMPARE(exportado(), QByteArray());
+    }
+
+    void tablasExportar()
+    {
+        cExportar e;
+        for (const int numero : {3, 1, 2})
+            importar(lineas::linea(numero, "N" + QByteArray::number(9 - numero)));
+        e.CargarDeclarantes();
+        QCOMPARE(dnis(e), u"123|"_s);
+        QCOMPARE(e.NUMCONTRISEL(), 3);
+        e.COPIARELEMENTOENTRETABLAS(cExportar::Contri, 2);
+        e.TablaContriBORRAR(2);
+        e.MoverElementos(cExportar::Contri, {1});
+        QCOMPARE(dnis(e), u"3|21"_s);
+        const qint32 dos = e.TablaContriExpELEMENTO(1).value(RegDeclarante::CSCO).toInt();
+        QVERIFY(e.TablaContriExpPERTENECE(dos) && !e.TablaContriPERTENECE(dos));
+        e.TablaContriExpAÑADIR(e.TablaContriExpELEMENTO(1));
+        QCOMPARE(e.TablaContriExpCOUNT(), 2);
+        e.COPIARELEMENTOENTRETABLAS(cExportar::ContriExp, 1);
+        QCOMPARE(dnis(e), u"23|21"_s);
+        e.TablaContriExpBORRAR(1);
+        e.ORDEN(cExportar::PorNombre);
+        e.CargarDeclarantes();
+        QCOMPARE(dnis(e), u"32|1"_s);
+        QCOMPARE(e.lblResultado1(), u"2 declarantes seleccionados"_s);
+        QCOMPARE(e.lblresultado2(), u"1 declarantes seleccionados para exportar "_s);
+        e.MoverElementos(cExportar::ContriExp, {1});
+        QCOMPARE(dnis(e), u"321|"_s);
+        e.MoverElementos(cExportar::Contri, {1, 3});
+        QCOMPARE(dnis(e), u"2|31"_s);
+        e.TablaContriINSERTAR(1, e.TablaContriExpELEMENTO(1));
+        QCOMPARE(dnis(e), u"32|31"_s);
+        e.TablaContriCLEAR();
+        e.TablaContriExpCLEAR();
+        QCOMPARE(dnis(e), u"|"_s);
+    }
+
+    void exportarFallos()
+    {
+        importar(lineas::linea(1) + '\n' + lineas::linea(2));
+        cExportar e;
+        e.CargarDeclarantes();
+        e.MoverElementos(cExportar::Contri, {1, 2});
+        Registro raro = e.TablaContriExpELEMENTO(2);
+        raro[RegDeclarante::CSCO] = 99;
+        raro[RegDeclarante::NOMBRE] = u"Ω"_s;
+        e.TablaContriExpINSERTAR(2, raro);
+        e.FICHEROAEXPORTAR(ruta());
+        const auto hecho = e.EscribirFichero([](qint64) { return true; });
+        QCOMPARE(hecho.motivo,
+                 u"Línea 2: el carácter «Ω» no se puede escribir en el fichero "
+                 "(Windows-1252)."_s);
+        QCOMPARE(hecho.lineas, 1);
+        QCOMPARE(lineas::leer(ruta()), lineas::fichero(1, 1));
+        e.FICHEROAEXPORTAR(m_entorno->ruta(u"no/hay"_s));
+        QVERIFY(e.EscribirFichero([](qint64) { return true; }).motivo.contains(u"no/hay"));
+    }
+
+private:
+    QString ruta() const { return m_entorno->ruta(u"Contri.txt"_s); }
+
+    Cuenta importar(const QByteArray &contenido) const
+    {
+        lineas::escribir(ruta(), contenido);
+        Importacion importacion(ruta(), Existentes::Conservar);
+        importacion.ejecutar();
+        return importacion.cuenta();
+    }
+
+    /// Every stored declarant as its line, by identifier.
+    QByteArray exportado() const
+    {
+        const QString destino = m_entorno->ruta(u"todo.txt"_s);
+        exportar(
+            destino,
+            [](const Visitante &visitar) {
+                servicioDeclarante()->RecorrerExportar(cExportar::PorDni, visitar);
+            },
+            [](qint64) { return true; });
+        return lineas::leer(destino);
+    }
+
+    /// The numbers of the available and of the chosen ones.
+    static QString dnis(const cExportar &e)
+    {
+        QString texto;
+        for (const auto cual : {cExportar::Contri, cExportar::ContriExp}) {
+            for (int i = 1; i <= e.tabla(cual).COUNT(); ++i)
+                texto += e.tabla(cual).ELEMENTO(i).value(RegDeclarante::DNI).toString().at(7);
+            if (cual == cExportar::Contri)
+                texto += u'|';
+        }
+        return texto;
+    }
+
+    std::optional<Entorno> m_entorno;
+};
+
+QTEST_GUILESS_MAIN(TestIntercambioImportar)
+#include "tst_intercambio_importar.moc"
