@@ -88,7 +88,7 @@ private Q_SLOTS:
     {
         delete ventanaAyuda();
         m_entorno.reset();
-        fijarDesplazamientoIdioma(0);
+        fijarIdioma(Idioma::Castellano);
     }
 
     void losMismosTemasEnLosDosIdiomas()

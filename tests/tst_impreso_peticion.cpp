@@ -14,7 +14,7 @@ class tst_impreso_peticion : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { fijarDesplazamientoIdioma(0); }
+    void cleanup() { fijarIdioma(Idioma::Castellano); }
 
     /// Reading is the date's; here, the earliest day and what is said of a refused one.
     void fechas_data()
@@ -41,7 +41,7 @@ private Q_SLOTS:
         QFETCH(QString, mensaje);
         cFecha formato;
         formato.fecidioma(QString::fromLatin1(QTest::currentDataTag()).first(1));
-        fijarDesplazamientoIdioma(formato.fecidioma() == u"E" ? 10000 : 0);
+        fijarIdioma(formato.fecidioma() == u"E" ? Idioma::Euskera : Idioma::Castellano);
         const auto leida = comprobarFechaPresentacion(texto, formato);
         QCOMPARE(leida.fecha, fecha);
         QCOMPARE(leida.mensaje, mensaje);

@@ -74,7 +74,7 @@ private Q_SLOTS:
     void cleanup()
     {
         m_entorno.reset();
-        fijarDesplazamientoIdioma(0);
+        fijarIdioma(Idioma::Castellano);
     }
 
     void esperasDelPrograma()

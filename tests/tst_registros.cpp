@@ -183,7 +183,8 @@ private Q_SLOTS:
                                 CODPOS, CODPOS, CODMUN,    NOMMUN,  TELEFONO, TELEFONO};
         for (qint16 codigo = 1; codigo <= 12; ++codigo) {
             QCOMPARE(int(campoValidacionDeclarante(codigo)), campos[codigo - 1]);
-            QCOMPARE(textoValidacionDeclarante(codigo), mensajeNumero(240 + codigo));
+            QCOMPARE(textoValidacionDeclarante(codigo),
+                     textoMensaje(240 + codigo, Idioma::Castellano));
         }
     }
 
@@ -198,7 +199,8 @@ private Q_SLOTS:
             d.CSCO(csco);
             const qint16 obtenido = d.GuardarDeclarante(d.RegistroCompleto());
             QCOMPARE(int(obtenido), codigo);
-            QCOMPARE(textoGuardarDeclarante(obtenido), mensajeNumero(252 + codigo));
+            QCOMPARE(textoGuardarDeclarante(obtenido),
+                     textoMensaje(252 + codigo, Idioma::Castellano));
             QCOMPARE(d.CSCO(), csco);
         }
         cDecLista lista;
@@ -257,7 +259,7 @@ private Q_SLOTS:
         QCOMPARE(int(resumen.PERIODICIDAD() + resumen.TIPOLOGIA()), 2);
         QCOMPARE(textoCabecera(0), QString());
         for (const qint16 codigo : QList<qint16>{1, 2, 3, 5})
-            QCOMPARE(textoCabecera(codigo), mensajeNumero(254 + codigo));
+            QCOMPARE(textoCabecera(codigo), textoMensaje(254 + codigo, Idioma::Castellano));
         QCOMPARE(textoCabecera(4),
                  msj(Msj::ErrorEjercicioPeriodoFuera, u"2002-01"_s, u"2030-12"_s));
     }

@@ -25,8 +25,8 @@ class TestTextos : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { fijarDesplazamientoIdioma(0); }
-    void cleanupTestCase() { fijarDesplazamientoIdioma(0); }
+    void init() { fijarIdioma(Idioma::Castellano); }
+    void cleanupTestCase() { fijarIdioma(Idioma::Castellano); }
 
     void numeros()
     {
@@ -52,11 +52,11 @@ private Q_SLOTS:
         for (const Mensaje &mensaje : mensajes()) {
             QVERIFY2(!mensaje.castellano.trimmed().isEmpty(), qPrintable(mensaje.nombre));
             QVERIFY2(!mensaje.euskera.trimmed().isEmpty(), qPrintable(mensaje.nombre));
-            QCOMPARE(mensajeNumero(mensaje.numero), mensaje.castellano);
-            QCOMPARE(mensajeNumero(mensaje.numero + 10000), mensaje.euskera);
+            QCOMPARE(textoMensaje(mensaje.numero, Idioma::Castellano), mensaje.castellano);
+            QCOMPARE(textoMensaje(mensaje.numero, Idioma::Euskera), mensaje.euskera);
         }
-        QCOMPARE(mensajeNumero(240), QString());
-        QCOMPARE(mensajeNumero(10240), QString());
+        QCOMPARE(textoMensaje(240, Idioma::Castellano), QString());
+        QCOMPARE(textoMensaje(240, Idioma::Euskera), QString());
     }
 
     void huecosIguales()
@@ -96,8 +96,8 @@ private Q_SLOTS:
         QCOMPARE(msj(Msj::ErrorDni),
                  u"El campo DNI-CIF es erróneo o carece de dígito de control."_s);
         QCOMPARE(msjDesde(Msj::ErrorDni, 1), u"La casilla Razón Social debe tener algún valor"_s);
-        QCOMPARE(msj(Msj::ErrorTotal480), mensajeNumero(272));
-        fijarDesplazamientoIdioma(10000);
+        QCOMPARE(msj(Msj::ErrorTotal480), textoMensaje(272, Idioma::Castellano));
+        fijarIdioma(Idioma::Euskera);
         QCOMPARE(elegir(u"sí"_s, u"bai"_s), u"bai"_s);
         QCOMPARE(msj(Msj::ErrorDni), u"NA-IFK eremua okerra da edo ez du kontrol digiturik"_s);
         QCOMPARE(msj(Msj::RamoVida), u"Bizi aseguruak"_s);
@@ -110,9 +110,9 @@ private Q_SLOTS:
         QStringList castellano;
         QStringList euskera;
         for (int mes = 1; mes <= 12; ++mes) {
-            fijarDesplazamientoIdioma(0);
+            fijarIdioma(Idioma::Castellano);
             castellano += nombreMes(mes);
-            fijarDesplazamientoIdioma(10000);
+            fijarIdioma(Idioma::Euskera);
             euskera += nombreMes(mes);
         }
         QCOMPARE(castellano.join(u' '),

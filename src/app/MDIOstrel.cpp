@@ -114,9 +114,9 @@ void MDIOstrel::cumplir(Mando mando)
     case Mando::Nuevo:
         return nuevoDeclarante();
     case Mando::Abrir:
-        return listaDeclarantes(u"C"_s);
+        return listaDeclarantes(Modo::Consulta);
     case Mando::Eliminar:
-        return listaDeclarantes(u"E"_s);
+        return listaDeclarantes(Modo::Eliminar);
     case Mando::Contenido:
         return abrirAyuda(ayuda::portada());
     case Mando::Salir:
@@ -129,7 +129,7 @@ void MDIOstrel::cumplir(Mando mando)
 
 void MDIOstrel::nuevoDeclarante()
 {
-    unico::la<cDecDatos>().MODO(u"A"_s);
+    unico::la<cDecDatos>().MODO(Modo::Alta);
     m_pantallas->abrir(Pantalla::DatosDeclarante);
 }
 
@@ -139,7 +139,7 @@ void MDIOstrel::listaDeclarantes(const QString &modo)
     if (lista.MODO() != modo)
         m_pantallas->cerrar(Pantalla::ListaDeclarantes);
     // the declarant whose summary is open might be the one deleted
-    if (modo == u"E")
+    if (modo == Modo::Eliminar)
         m_pantallas->cerrar(Pantalla::Resumen);
     lista.MODO(modo);
     m_pantallas->abrir(Pantalla::ListaDeclarantes);
@@ -148,7 +148,7 @@ void MDIOstrel::listaDeclarantes(const QString &modo)
 void MDIOstrel::verReciente(qint32 csco, const QString &dni, const QString &nombre)
 {
     auto &resumen = unico::la<cDecResumen>();
-    resumen.ENTRADA(u"A"_s);
+    resumen.ENTRADA(Entrada::Abrir);
     resumen.TomarDeclarante(csco, dni, nombre);
     m_pantallas->abrir(Pantalla::Resumen);
 }

@@ -22,7 +22,7 @@ template <class T> static PantallaBase *crear(QWidget *padre)
 /// The summary begun anew, maybe with another declarant.
 static bool resumenNuevo()
 {
-    return unico::la<cDecResumen>().ENTRADA() == u"A";
+    return unico::la<cDecResumen>().ENTRADA() == Entrada::Abrir;
 }
 
 static constexpr DatosPantalla Tabla[] = {

@@ -99,7 +99,7 @@ static Rechazo tomarMunicipio(const QString &codigo, const QString &nombre)
 
 Rechazo tomarDatosAlta(const Argumentos &argumentos)
 {
-    unico::la<cDecDatos>().MODO(u"A"_s);
+    unico::la<cDecDatos>().MODO(Modo::Alta);
     for (const auto &campo : campos::tabla) {
         if (campo.clase == campos::Clase::Contador)
             continue;

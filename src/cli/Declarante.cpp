@@ -13,7 +13,7 @@ QString tomarDeclarante(const QString &dni)
     const qint32 csco = declarante.ObtenerCodigoDeclarante(dni.trimmed().toUpper());
     if (csco == 0)
         return msj(Msj::CliDeclaranteNoExiste, dni);
-    declarante.MODO(u"C"_s);
+    declarante.MODO(Modo::Consulta);
     declarante.CSCO(csco);
     declarante.CargarDeclarante(csco);
     unico::la<cDecResumen>().TomarDeclarante(csco, declarante.DNI(), declarante.NOMBRE());

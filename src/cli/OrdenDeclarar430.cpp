@@ -37,12 +37,11 @@ static QString tomar(const Casilla430 &casilla, const QString &texto)
 
 static Resultado declarar430(const Argumentos &argumentos)
 {
-    if (auto fallo
-        = prepararCabecera(argumentos, Modelo430.toString(), argumentos.valor(u"periodo")))
+    if (auto fallo = prepararCabecera(argumentos, Modelo430, argumentos.valor(u"periodo")))
         return *fallo;
 
     auto &registro = unico::la<cDatos430>();
-    registro.MODO(u"A"_s);
+    registro.MODO(Modo::Alta);
     registro.MarcarRectificacion(argumentos.tiene(BaseRectificacion)
                                  || argumentos.tiene(CuotaRectificacion));
     for (const Casilla430 &casilla : Casillas) {

@@ -44,12 +44,11 @@ static std::optional<Resultado> tomar(const QString &texto, QSet<int> &dadas)
 
 static Resultado declarar480(const Argumentos &argumentos)
 {
-    if (auto fallo
-        = prepararCabecera(argumentos, Modelo480.toString(), QString::number(PeriodoAnual)))
+    if (auto fallo = prepararCabecera(argumentos, Modelo480, QString::number(PeriodoAnual)))
         return *fallo;
 
     auto &registro = unico::la<cDatos480>();
-    registro.MODO(u"A"_s);
+    registro.MODO(Modo::Alta);
     QSet<int> dadas;
     for (const QString &texto : argumentos.valores(u"casilla"))
         if (auto fallo = tomar(texto, dadas))

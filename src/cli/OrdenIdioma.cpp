@@ -1,5 +1,6 @@
 #include "cli/Orden.h"
 #include "core/CEntrada.h"
+#include "core/Modos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 
@@ -9,14 +10,15 @@ static Resultado idioma(const Argumentos &argumentos)
 {
     auto &entrada = unico::la<CEntrada>();
     const QString codigo = argumentos.argumento.toUpper();
-    if (codigo == u"C" || codigo == u"E")
+    if (codigo == CodigoIdioma::Castellano || codigo == CodigoIdioma::Euskera)
         entrada.IDI(codigo);
     else if (!codigo.isEmpty())
         return malUso(msj(Msj::CliIdiomaNoValido, argumentos.argumento));
-    const bool euskera = entrada.IDI() == u"E";
+    const bool euskera = entrada.IDI() == CodigoIdioma::Euskera;
+    const QString actual = euskera ? CodigoIdioma::Euskera : CodigoIdioma::Castellano;
     const QString nombre
         = msj(euskera ? Msj::EleccionIdiomaEuskera : Msj::EleccionIdiomaCastellano);
-    return hecho(msj(Msj::CliIdioma, u"%1 (%2)"_s.arg(euskera ? u"E"_s : u"C"_s, nombre)));
+    return hecho(msj(Msj::CliIdioma, u"%1 (%2)"_s.arg(actual, nombre)));
 }
 
 extern constinit const Orden OrdenIdioma = {

@@ -32,8 +32,8 @@ static Resultado listarDeclarantes(const Argumentos &argumentos)
         {u"NOMBRE", de<Fila, &Fila::nombre>, msj(Msj::ColumnaRazonSocial)},
         {u"NOMMUN", de<Fila, &Fila::nommun>, msj(Msj::ColumnaMunicipio)},
         {u"NOMPROV", de<Fila, &Fila::nomprov>, msj(Msj::ColumnaProvincia)},
-        {u"NUM430", de<Fila, &Fila::num430>, Modelo430.toString(), true},
-        {u"NUM480", de<Fila, &Fila::num480>, Modelo480.toString(), true},
+        {u"NUM430", de<Fila, &Fila::num430>, Modelo430, true},
+        {u"NUM480", de<Fila, &Fila::num480>, Modelo480, true},
     };
     return listado<Fila>(argumentos, columnas, unico::la<cDecLista>().CargarDeclarantes(),
                          Msj::CliListaVaciaDeclarantes);

@@ -1,11 +1,10 @@
 #include "core/CEntrada.h"
 
+#include "core/Modos.h"
 #include "core/Servicios.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "core/cFecha.h"
-
-using namespace Qt::StringLiterals;
 
 void CEntrada::IDI(const QString &codigo)
 {
@@ -16,8 +15,8 @@ void CEntrada::IDI(const QString &codigo)
 
 void CEntrada::AplicarIdioma() const
 {
-    fijarDesplazamientoIdioma(m_idi == u"E" ? 10000 : 0);
-    unico::la<cFecha>().fecidioma(m_idi.isEmpty() ? u"C"_s : m_idi);
+    fijarIdioma(m_idi == CodigoIdioma::Euskera ? Idioma::Euskera : Idioma::Castellano);
+    unico::la<cFecha>().fecidioma(m_idi.isEmpty() ? QString(CodigoIdioma::Castellano) : m_idi);
 }
 
 void CEntrada::InicializarContadores()

@@ -1,22 +1,12 @@
 #pragma once
 
-#include <QString>
+#include "core/Textos.h"
 
-/// Codes of a return's header.
-inline constexpr quint8 PeriodicidadMensual = 1;
-inline constexpr quint8 PeriodicidadAnual = 2;
-inline constexpr quint8 Tipologia430 = 1;
-inline constexpr quint8 Tipologia480 = 2;
-inline constexpr quint8 PeriodoAnual = 12; ///< period under which an annual return is stored
-
-inline constexpr QStringView Modelo430 = u"430";
-inline constexpr QStringView Modelo480 = u"480";
-
-/// Month name in capitals in the session's language; empty outside 1 to 12.
-QString nombreMes(int mes);
+/// Month name in capitals; empty outside 1 to 12.
+QString nombreMes(int mes, Idioma idioma = idiomaSesion());
 
 /// "ANUAL" or "URTEKOA" for periodicity 2, else empty.
-QString palabraPeriodicidad(int periodicidad);
+QString palabraPeriodicidad(int periodicidad, Idioma idioma = idiomaSesion());
 
 /// Text of a return's period: the annual word or the month's name.
-QString textoPeriodo(int periodicidad, int periodo);
+QString textoPeriodo(int periodicidad, int periodo, Idioma idioma = idiomaSesion());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include "dataservice/Codigos.h"
 
 /// Rounding rules shared by every record.
 
@@ -16,9 +16,6 @@ float redondearTipo(float tipo);
 /// Quota in whole cents of a base in whole cents at `tipo` percent, half away from zero. The rate
 /// counts at its two decimals (the single-precision 7.15 is 7.15 exactly), in integer arithmetic.
 double calcularCuota(float tipo, double base);
-
-/// The largest amount that a box shows: 13 integer digits and 2 decimals, in cents.
-inline constexpr double ImporteMaximo = 999'999'999'999'999.0;
 
 /// Whether an amount in cents fits a box of 13 integer digits.
 bool cabeEnCasilla(double centimos);

@@ -2,33 +2,43 @@
 
 #include "resources/Mensajes.h"
 
-static qint16 &actual()
+static Idioma &actual()
 {
-    static qint16 desplazamiento = 0;
-    return desplazamiento;
+    static auto idioma = Idioma::Castellano;
+    return idioma;
 }
 
-qint16 desplazamientoIdioma()
+Idioma idiomaSesion()
 {
     return actual();
 }
 
-void fijarDesplazamientoIdioma(qint16 desplazamiento)
+void fijarIdioma(Idioma idioma)
 {
-    actual() = desplazamiento;
+    actual() = idioma;
+}
+
+qint16 desplazamientoIdioma()
+{
+    return desplazamiento(actual());
+}
+
+QString msj(Msj cual, Idioma idioma)
+{
+    return textoMensaje(static_cast<int>(cual), idioma);
 }
 
 QString msj(Msj cual)
 {
-    return msjDesde(cual, 0);
+    return msj(cual, actual());
 }
 
 QString msjDesde(Msj primera, int k)
 {
-    return mensajeNumero(static_cast<int>(primera) + k + actual());
+    return textoMensaje(static_cast<int>(primera) + k, actual());
 }
 
-QString elegir(const QString &castellano, const QString &euskera)
+QString elegir(const QString &castellano, const QString &euskera, Idioma idioma)
 {
-    return actual() == 0 ? castellano : euskera;
+    return idioma == Idioma::Castellano ? castellano : euskera;
 }

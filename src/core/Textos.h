@@ -1,16 +1,21 @@
 #pragma once
 
+#include "dataservice/Codigos.h"
+
 #include <QString>
 
 #include <Msj.h>
 
-/// The texts that users see, in the session's language.
+/// The texts that users see.
 
-/// 0 for Castilian, 10000 for Basque.
+/// The session's language.
+Idioma idiomaSesion();
+void fijarIdioma(Idioma idioma);
+/// The same as the number that the data service takes: 0 for Castilian, 10000 for Basque.
 qint16 desplazamientoIdioma();
-void fijarDesplazamientoIdioma(qint16 desplazamiento);
 
 /// The text of the table, its placeholders %1, %2… not yet filled.
+QString msj(Msj cual, Idioma idioma);
 QString msj(Msj cual);
 
 /// The same, filled in. Arguments are replaced in one pass, so that a "%2" inside a value stays.
@@ -23,4 +28,4 @@ template <class... Textos> QString msj(Msj cual, const QString &primero, const T
 QString msjDesde(Msj primera, int k);
 
 /// Two-language chooser for texts that are not in the table.
-QString elegir(const QString &castellano, const QString &euskera);
+QString elegir(const QString &castellano, const QString &euskera, Idioma idioma = idiomaSesion());

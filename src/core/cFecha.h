@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "core/Modos.h"
 
-using namespace Qt::StringLiterals;
+#include <QString>
 
 /// Dates as text and as whole numbers yyyymmdd. The order is dd/mm/yyyy when `fecidioma` is "C" and
 /// yyyy/mm/dd for any other code.
@@ -26,7 +26,7 @@ public:
     QString LongToString(qint32 fecha) const;
 
 private:
-    bool castellano() const { return m_idioma == u"C"; }
+    bool castellano() const { return m_idioma == CodigoIdioma::Castellano; }
 
-    QString m_idioma = u"C"_s;
+    QString m_idioma = CodigoIdioma::Castellano;
 };

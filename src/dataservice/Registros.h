@@ -1,6 +1,10 @@
 #pragma once
 
+#include "dataservice/Codigos.h"
+
 #include <QVariantList>
+
+#include <array>
 
 /// Element order of the records and list rows that travel between the client and the data service.
 /// Amounts are whole cents (double), rates percent (float), codes and texts as their names say.
@@ -142,6 +146,10 @@ enum Campo {
     C81_RES,
     Total
 };
+
+/// Numbers on the official form of the boxes after the class boxes, in the record's order.
+inline constexpr std::array Liquidacion{70, 73, 76, 79, 74, 77, 75, 78, 80, 81};
+static_assert(C70_TOT + Liquidacion.size() == Total);
 
 /// Position of a class box in the record: `clase` 0 to 22, `columna` 0 (not exempt) or 1 (exempt).
 constexpr int posicion(int clase, int columna)

@@ -126,7 +126,7 @@ QSize FrmDecLista::sizeHint() const
 
 bool FrmDecLista::eliminando() const
 {
-    return estado().MODO() == u"E";
+    return estado().MODO() == Modo::Eliminar;
 }
 
 void FrmDecLista::Anadir_captions()
@@ -233,7 +233,7 @@ void FrmDecLista::aceptar()
         return;
     }
     auto &resumen = unico::la<cDecResumen>();
-    resumen.ENTRADA(u"A"_s);
+    resumen.ENTRADA(Entrada::Abrir);
     resumen.TomarDeclarante(fila->csco, fila->dni, fila->nombre);
     cerrarA(Pantalla::Resumen);
 }

@@ -47,8 +47,8 @@ FrmDecResumen::FrmDecResumen(QWidget *padre)
     , m_lblNumDecla(nuevaEtiqueta(u"lblNumDecla"_s, this))
 {
     auto &cabecera = unico::la<cDecResumen>();
-    cabecera.MODO(u"L"_s);
-    if (cabecera.ENTRADA() == u"A")
+    cabecera.MODO(ModoCabecera::Lista);
+    if (cabecera.ENTRADA() == Entrada::Abrir)
         cabecera.CSDE(0);
     Anadir_captions();
     prepararGrid();

@@ -80,11 +80,11 @@ void FrmDecResumen::Actualizar()
 /// The first press proposes a return, the second creates it.
 void FrmDecResumen::nueva()
 {
-    if (cabecera().MODO() == u"N") {
+    if (cabecera().MODO() == ModoCabecera::Nueva) {
         crear();
         return;
     }
-    cabecera().MODO(u"N"_s);
+    cabecera().MODO(ModoCabecera::Nueva);
     m_nueva->PresentaDatos();
     mostrarNueva(true);
     m_nueva->enfocarPrimero();
@@ -106,12 +106,12 @@ void FrmDecResumen::crear()
     if (!ValidarCampos())
         return;
     if (cabecera().TIPOLOGIA() == Tipologia430) {
-        unico::la<cDatos430>().MODO(u"A"_s);
+        unico::la<cDatos430>().MODO(Modo::Alta);
         cerrarA(Pantalla::Datos430);
     } else {
         auto &registro = unico::la<cDatos480>();
-        registro.MODO(u"A"_s);
-        registro.ENTRADA(u"A"_s);
+        registro.MODO(Modo::Alta);
+        registro.ENTRADA(Entrada::Abrir);
         cerrarA(Pantalla::Datos480a);
     }
 }
@@ -124,9 +124,9 @@ void FrmDecResumen::mostrarNueva(bool visible)
 
 void FrmDecResumen::abandonarNueva()
 {
-    if (cabecera().MODO() != u"N")
+    if (cabecera().MODO() != ModoCabecera::Nueva)
         return;
-    cabecera().MODO(u"L"_s);
+    cabecera().MODO(ModoCabecera::Lista);
     enfocarLista();
     mostrarNueva(false);
 }
@@ -149,13 +149,13 @@ void FrmDecResumen::abrir()
         return;
     if (cabecera().TIPOLOGIA() == Tipologia430) {
         auto &registro = unico::la<cDatos430>();
-        registro.MODO(u"C"_s);
+        registro.MODO(Modo::Consulta);
         registro.CSDE(cabecera().CSDE());
         cerrarA(Pantalla::Datos430);
     } else {
         auto &registro = unico::la<cDatos480>();
-        registro.MODO(u"C"_s);
-        registro.ENTRADA(u"A"_s);
+        registro.MODO(Modo::Consulta);
+        registro.ENTRADA(Entrada::Abrir);
         registro.CSDE(cabecera().CSDE());
         cerrarA(Pantalla::Datos480a);
     }
@@ -193,7 +193,7 @@ void FrmDecResumen::eliminar()
 void FrmDecResumen::verDeclarante()
 {
     auto &datos = unico::la<cDecDatos>();
-    datos.MODO(u"C"_s);
+    datos.MODO(Modo::Consulta);
     datos.CSCO(cabecera().CSCO());
     datos.CargarDeclarante(cabecera().CSCO());
     cerrarA(Pantalla::DatosDeclarante);
@@ -202,7 +202,7 @@ void FrmDecResumen::verDeclarante()
 /// Escape gives the new return up.
 void FrmDecResumen::keyPressEvent(QKeyEvent *evento)
 {
-    if (evento->key() == Qt::Key_Escape && cabecera().MODO() == u"N")
+    if (evento->key() == Qt::Key_Escape && cabecera().MODO() == ModoCabecera::Nueva)
         procedimiento(this, [this] { abandonarNueva(); });
     else
         PantallaBase::keyPressEvent(evento);

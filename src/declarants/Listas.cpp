@@ -10,7 +10,7 @@ static ListaCodigos cargar(Cargador metodo, const QStringView (&sql)[2])
 {
     Filas filas;
     auto servicio = servicioLectura();
-    (servicio.get()->*metodo)(sql[desplazamientoIdioma() == 0 ? 0 : 1].toString(), filas);
+    (servicio.get()->*metodo)(sql[idiomaSesion() == Idioma::Castellano ? 0 : 1].toString(), filas);
     ListaCodigos lista;
     lista.reserve(filas.size());
     for (const QVariant &fila : std::as_const(filas)) {

@@ -6,9 +6,14 @@
 
 using namespace Qt::StringLiterals;
 
+static bool deDeclarante(qint16 codigo)
+{
+    return codigo >= qint16(Regla::Dni) && codigo <= qint16(Regla::Telefono);
+}
+
 QString textoValidacionDeclarante(qint16 codigo)
 {
-    return codigo >= 1 && codigo <= 12 ? msjDesde(Msj::ErrorDni, codigo - 1) : QString();
+    return deDeclarante(codigo) ? msjDesde(Msj::ErrorDni, codigo - 1) : QString();
 }
 
 RegValidacion::Campo campoValidacionDeclarante(qint16 codigo)
@@ -18,12 +23,14 @@ RegValidacion::Campo campoValidacionDeclarante(qint16 codigo)
         DNI,    NOMBRE, DOMICILIO, CODPROV, CODPOS,   CODPOS,
         CODPOS, CODPOS, CODMUN,    NOMMUN,  TELEFONO, TELEFONO,
     };
-    return codigo >= 1 && codigo <= 12 ? campos[codigo - 1] : Total;
+    return deDeclarante(codigo) ? campos[codigo - 1] : Total;
 }
 
 QString textoGuardarDeclarante(qint16 codigo)
 {
-    return codigo == 1 || codigo == 2 ? msjDesde(Msj::ErrorAltaDniExiste, codigo - 1) : QString();
+    return codigo == qint16(Guardado::AltaDniExiste) || codigo == qint16(Guardado::CambioDniExiste)
+        ? msjDesde(Msj::ErrorAltaDniExiste, codigo - 1)
+        : QString();
 }
 
 static QString limite(int ejercicio, int periodo)
@@ -33,10 +40,10 @@ static QString limite(int ejercicio, int periodo)
 
 QString textoCabecera(qint16 codigo)
 {
-    if (codigo < 1 || codigo > 5)
+    if (codigo < qint16(ReglaCabecera::Ejercicio) || codigo > qint16(ReglaCabecera::Existe))
         return {};
     const QString texto = msjDesde(Msj::ErrorEjercicioVacio, codigo - 1);
-    if (codigo != 4)
+    if (codigo != qint16(ReglaCabecera::Fuera))
         return texto;
     const auto &entrada = unico::la<CEntrada>();
     return texto.arg(limite(entrada.EJERMIN(), entrada.PERMIN()),

@@ -31,7 +31,7 @@ NuevaDeclaracion::NuevaDeclaracion(QWidget *padre)
 {
     setObjectName(u"fraNueva"_s);
     setFrameShape(QFrame::StyledPanel);
-    m_cmbmodelo->entradas({Modelo430.toString(), Modelo480.toString()});
+    m_cmbmodelo->entradas({Modelo430, Modelo480});
     m_cmbmodelo->desplegarAlEntrar();
     m_txtejer->alConfirmar = [this] { return tomarEjercicio(); };
     m_cmbmodelo->alElegir = [this](int posicion) { tomarModelo(posicion); };

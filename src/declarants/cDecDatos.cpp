@@ -18,7 +18,7 @@ Filas cDecDatos::ValidarDatosImportar(const Registro &datos) const
 void cDecDatos::MODO(const QString &modo)
 {
     m_modo = modo;
-    if (modo == u"A") {
+    if (modo == Modo::Alta) {
         m_csco = 0;
         m = {};
     }

@@ -1,12 +1,9 @@
 #pragma once
 
+#include "core/Modos.h"
 #include "dataservice/Registros.h"
 
 using namespace Qt::StringLiterals;
-
-/// The home province of the treasury: its municipalities are chosen by code.
-inline constexpr QStringView ProvinciaPropia = u"20";
-inline constexpr QStringView NombreProvinciaPropia = u"VARLENDA";
 
 /// One declarant in memory. Texts are held without padding and never cut; all storage is the data
 /// service's, whose failures (ErrorDatos) pass through.
@@ -75,7 +72,7 @@ public:
     Registro RegistroCompleto() const;
     Registro RegistroValidacion() const;
 
-    bool enProvinciaPropia() const { return m.codprov.toInt() == ProvinciaPropia.toInt(); }
+    bool enProvinciaPropia() const { return m.codprov.toInt() == ProvinciaPropia; }
     /// Takes a province of the table: sets code and name, empties the municipality's name, and its
     /// code too outside the home province.
     void CambiarProvincia(const QString &codigo, const QString &nombre);
@@ -88,7 +85,7 @@ private:
         QString dni, nombre, via = u"CL"_s, domicilio;
         qint32 numero = 0;
         QString letra, escalera, piso, mano;
-        QString codprov = ProvinciaPropia.toString(), nomprov = NombreProvinciaPropia.toString();
+        QString codprov = CodigoProvinciaPropia, nomprov = NombreProvinciaPropia;
         QString codpos, codmun, nommun, telefono;
         double num430 = 0, num480 = 0;
     };

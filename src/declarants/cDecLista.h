@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Modos.h"
+
 #include <QList>
 #include <QString>
 
@@ -49,6 +51,6 @@ public:
 private:
     qint32 m_csco = 0;
     qint32 m_numdeclasel = 0;
-    QString m_modo = u"C"_s;
+    QString m_modo = Modo::Consulta;
     quint8 m_orden = PorDni;
 };

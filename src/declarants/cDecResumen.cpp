@@ -17,7 +17,7 @@ void cDecResumen::MODO(const QString &modo)
 {
     m_modo = modo;
     m = {};
-    if (modo != u"L")
+    if (modo != ModoCabecera::Lista)
         proponer();
 }
 
@@ -36,13 +36,13 @@ void cDecResumen::avanzar()
 {
     if (m.tipologia != Tipologia430) {
         m.tipologia = Tipologia430;
-        m.modelo = Modelo430.toString();
+        m.modelo = Modelo430;
         m.periodicidad = PeriodicidadMensual;
         m.periodo = 1;
         ++m.ejercicio;
-    } else if (m.periodo == 12) {
+    } else if (m.periodo == UltimoMes) {
         m.tipologia = Tipologia480;
-        m.modelo = Modelo480.toString();
+        m.modelo = Modelo480;
         m.periodicidad = PeriodicidadAnual;
     } else {
         ++m.periodo;

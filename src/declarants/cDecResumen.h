@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Modos.h"
 #include "dataservice/Registros.h"
 
 #include <QList>

@@ -229,11 +229,11 @@ void frmDecDatos::entregar()
 {
     auto &datos = registro();
     auto &resumen = unico::la<cDecResumen>();
-    if (datos.MODO() == u"A") {
+    if (datos.MODO() == Modo::Alta) {
         datos.CSCO(datos.ObtenerCodigoDeclarante(datos.DNI()));
-        resumen.ENTRADA(u"A"_s);
+        resumen.ENTRADA(Entrada::Abrir);
     } else {
-        resumen.ENTRADA(u"P"_s);
+        resumen.ENTRADA(Entrada::Vuelta);
         resumen.CSDE(0);
     }
     resumen.TomarDeclarante(datos.CSCO(), datos.DNI(), datos.NOMBRE());
@@ -248,10 +248,10 @@ void frmDecDatos::cancelar()
 
 Pantalla frmDecDatos::alCerrarMarco()
 {
-    if (registro().MODO() != u"C")
+    if (registro().MODO() != Modo::Consulta)
         return Pantalla::Ninguna;
     auto &resumen = unico::la<cDecResumen>();
-    resumen.ENTRADA(u"P"_s);
+    resumen.ENTRADA(Entrada::Vuelta);
     resumen.CSDE(0);
     return Pantalla::Resumen;
 }

@@ -36,7 +36,7 @@ FrmDatos430::FrmDatos430(QWidget *padre)
         PresentaDatos();
     });
 
-    if (registro().MODO() == u"C")
+    if (registro().MODO() == Modo::Consulta)
         registro().CargarDeclaracion(registro().CSDE());
     else
         registro().CalcularValores();

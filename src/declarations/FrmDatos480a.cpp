@@ -9,7 +9,7 @@ FrmDatos480a::FrmDatos480a(QWidget *padre)
                    padre)
 {
     auto &r = registro();
-    if (r.ENTRADA() == u"A" && r.MODO() == u"C") {
+    if (r.ENTRADA() == Entrada::Abrir && r.MODO() == Modo::Consulta) {
         r.CargarDeclaracion(r.CSDE());
         r.MODIFICADO(false);
     }

@@ -62,9 +62,9 @@ void PantallaDeclaracion::cerrarComoCancelar()
 void PantallaDeclaracion::entregar(const QString &modo, qint32 csde)
 {
     auto &cabecera = unico::la<cDecResumen>();
-    if (modo == u"A")
+    if (modo == Modo::Alta)
         cabecera.CSDE(csde);
-    cabecera.ENTRADA(u"P"_s);
+    cabecera.ENTRADA(Entrada::Vuelta);
     Q_EMIT datosCambiados();
     cerrarA(Pantalla::Resumen);
 }
@@ -72,7 +72,7 @@ void PantallaDeclaracion::entregar(const QString &modo, qint32 csde)
 Pantalla PantallaDeclaracion::alCerrarMarco()
 {
     auto &cabecera = unico::la<cDecResumen>();
-    cabecera.ENTRADA(u"P"_s);
+    cabecera.ENTRADA(Entrada::Vuelta);
     cabecera.CSDE(csdeRegistro());
     return Pantalla::Resumen;
 }

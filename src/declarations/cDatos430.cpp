@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 void cDatos430::MODO(const QString &modo)
 {
-    if (modo == u"A") {
+    if (modo == Modo::Alta) {
         Figuras nuevas;
         nuevas.tipoliq = nuevas.tipotot = redondearTipo(CalcularTipo());
         m = nuevas;

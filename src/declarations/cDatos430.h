@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Modos.h"
 #include "dataservice/Registros.h"
 
 /// Figures of one model 430 return. Amounts are whole cents, rates percent with two decimals; the

@@ -16,7 +16,7 @@ static constexpr int CasillasFinales[]
 
 void cDatos480::MODO(const QString &modo)
 {
-    if (modo == u"A") {
+    if (modo == Modo::Alta) {
         Registro tipos;
         CalcularTipoAnual(tipos);
         Figuras nuevas;

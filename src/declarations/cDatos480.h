@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Modos.h"
 #include "declarations/Clases480.h"
 
 /// Figures of one model 480 return. A box is named by its number on the form (Clases480.h); amounts

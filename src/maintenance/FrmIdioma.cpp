@@ -1,6 +1,7 @@
 #include "maintenance/FrmIdioma.h"
 
 #include "core/CEntrada.h"
+#include "core/Modos.h"
 #include "core/Servicios.h"
 #include "core/Unico.h"
 #include "widgets/Disposicion.h"
@@ -32,8 +33,9 @@ static QString enLineas(const QString &texto, const QFontMetrics &medida)
 
 FrmIdioma::FrmIdioma(QWidget *padre)
     : PantallaBase(u"FrmIdioma"_s, padre)
-    , m_cmdcastellano(boton("cmdcastellano", Msj::EleccionIdiomaCastellano, u"C"_s))
-    , m_cmdeuskera(boton("cmdeuskera", Msj::EleccionIdiomaEuskera, u"E"_s))
+    , m_cmdcastellano(
+          boton("cmdcastellano", Msj::EleccionIdiomaCastellano, CodigoIdioma::Castellano))
+    , m_cmdeuskera(boton("cmdeuskera", Msj::EleccionIdiomaEuskera, CodigoIdioma::Euskera))
     , m_chkActOnline(new QCheckBox(this))
     , m_lblAct(nuevaEtiqueta(u"lblAct"_s, this))
 {
@@ -98,7 +100,7 @@ void FrmIdioma::disponer()
 
 void FrmIdioma::cargar()
 {
-    const bool castellano = unico::la<CEntrada>().IDI() == u"C";
+    const bool castellano = unico::la<CEntrada>().IDI() == CodigoIdioma::Castellano;
     (castellano ? m_cmdcastellano : m_cmdeuskera)->setFocus();
     procedimiento(
         this, [this] { m_chkActOnline->setChecked(servicioModelo()->ObtenerActOnline() == 1); });

@@ -1,7 +1,7 @@
 #include "printing/Clases480Impreso.h"
 
+#include "core/Textos.h"
 #include "printing/Tablas480.h"
-#include "resources/Mensajes.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,8 +21,8 @@ struct ParTexto
     QString castellano;
 
     explicit ParTexto(Msj cual)
-        : euskera(mensajeNumero(static_cast<int>(cual) + 10000) + u" /"_s)
-        , castellano(mensajeNumero(static_cast<int>(cual)))
+        : euskera(msj(cual, Idioma::Euskera) + u" /"_s)
+        , castellano(msj(cual, Idioma::Castellano))
     {
     }
     operator Par() const { return {euskera, castellano}; }

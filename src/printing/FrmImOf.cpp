@@ -244,6 +244,6 @@ void FrmImOf::guardarPdf()
 
 Pantalla FrmImOf::alCerrarMarco()
 {
-    unico::la<cDecResumen>().ENTRADA(u"P"_s);
+    unico::la<cDecResumen>().ENTRADA(Entrada::Vuelta);
     return Pantalla::Resumen;
 }

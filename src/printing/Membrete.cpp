@@ -22,20 +22,20 @@ constexpr Caja CajaModelo{174, Arriba, 26, 16.5};
 
 constexpr Estilo EstiloTitular{Letra::Times, 12, true, Tinta::Oscura};
 
-void numeroModelo(Lienzo &lienzo, QStringView modelo)
+void numeroModelo(Lienzo &lienzo, const QString &modelo)
 {
     lienzo.fondo(CajaModelo, Tinta::Oscura);
     const Caja dentro = CajaModelo.dentro(1.5, 1);
     parEnLinea(lienzo, {dentro.x, dentro.y, dentro.ancho, 3.2}, Modelo,
                EstiloEtiqueta.en(Tinta::Blanco), Qt::AlignHCenter);
     lienzo.letra({Letra::Arial, 28, true, Tinta::Blanco});
-    lienzo.texto({dentro.x, dentro.y + 3.2, dentro.ancho, dentro.alto - 3.2}, modelo.toString(),
+    lienzo.texto({dentro.x, dentro.y + 3.2, dentro.ancho, dentro.alto - 3.2}, modelo,
                  Qt::AlignHCenter);
 }
 
 } // namespace
 
-void dibujarMembrete(Lienzo &lienzo, const ValoresImpreso &impreso, QStringView modelo)
+void dibujarMembrete(Lienzo &lienzo, const ValoresImpreso &impreso, const QString &modelo)
 {
     dibujarEscudo(lienzo.pintor(), CajaEscudo.rect());
     parApilado(lienzo, CajaHacienda, Hacienda, EstiloTitular);

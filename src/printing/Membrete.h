@@ -10,6 +10,6 @@ class Lienzo;
 inline constexpr double AltoMembrete = 18;
 
 /// Letterhead of both forms: arms, treasury, department, tax and the model's number.
-void dibujarMembrete(Lienzo &lienzo, const ValoresImpreso &impreso, QStringView modelo);
+void dibujarMembrete(Lienzo &lienzo, const ValoresImpreso &impreso, const QString &modelo);
 
 } // namespace impreso

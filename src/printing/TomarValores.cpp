@@ -13,22 +13,16 @@
 #include "declarations/cDatos480.h"
 #include "printing/cImOf.h"
 
-#include <QScopeGuard>
-
 using namespace Qt::StringLiterals;
 
 namespace impreso {
 namespace {
 
-/// What `texto` gives in Basque and in Castilian, whatever the session's language.
+/// What `texto` gives in Basque and in Castilian.
 template <class Texto> QString enDosIdiomas(Texto texto)
 {
-    const auto restaurar
-        = qScopeGuard([antes = desplazamientoIdioma()] { fijarDesplazamientoIdioma(antes); });
-    fijarDesplazamientoIdioma(10000);
-    const QString euskera = texto();
-    fijarDesplazamientoIdioma(0);
-    const QString castellano = texto();
+    const QString euskera = texto(Idioma::Euskera);
+    const QString castellano = texto(Idioma::Castellano);
     return euskera == castellano ? castellano : euskera + u" / "_s + castellano;
 }
 
@@ -87,7 +81,8 @@ ValoresImpreso tomarValores430(const cDatos430 &figuras)
 {
     ValoresImpreso v = comunes();
     const int mes = unico::la<cDecResumen>().PERIODO();
-    v.textos[Valor::Periodo] = enDosIdiomas([mes] { return nombreMes(mes); });
+    v.textos[Valor::Periodo]
+        = enDosIdiomas([mes](Idioma idioma) { return nombreMes(mes, idioma); });
     v.textos[Valor::Importe] = textoImporte(figuras.CUOTATOT());
     v.casilla(1) = textoImporte(figuras.BASETOT());
     v.casilla(2) = textoTipo(figuras.TIPOTOT());
@@ -98,7 +93,8 @@ ValoresImpreso tomarValores430(const cDatos430 &figuras)
 ValoresImpreso tomarValores480(const cDatos480 &figuras)
 {
     ValoresImpreso v = comunes();
-    v.textos[Valor::Periodo] = enDosIdiomas([] { return palabraPeriodicidad(PeriodicidadAnual); });
+    v.textos[Valor::Periodo] = enDosIdiomas(
+        [](Idioma idioma) { return palabraPeriodicidad(PeriodicidadAnual, idioma); });
     // the third box of a row, held nowhere, is the sum of the other two
     for (int numero = 1; numero < Casilla480::C73_BA1; numero += 3) {
         const double sujeta = figuras.casilla(numero);

@@ -34,12 +34,10 @@ const QList<Mensaje> &mensajes()
     return tabla;
 }
 
-QString mensajeNumero(int numero)
+QString textoMensaje(int numero, Idioma idioma)
 {
-    const bool basque = numero >= 10000;
-    const int base = basque ? numero - 10000 : numero;
-    const auto hallado = std::ranges::lower_bound(mensajes(), base, {}, &Mensaje::numero);
-    if (hallado == mensajes().end() || hallado->numero != base)
+    const auto hallado = std::ranges::lower_bound(mensajes(), numero, {}, &Mensaje::numero);
+    if (hallado == mensajes().end() || hallado->numero != numero)
         return {};
-    return basque ? hallado->euskera : hallado->castellano;
+    return idioma == Idioma::Castellano ? hallado->castellano : hallado->euskera;
 }

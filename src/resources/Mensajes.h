@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dataservice/Codigos.h"
+
 #include <QList>
 #include <QString>
 
@@ -8,7 +10,7 @@
 /// One text of the table in both languages.
 struct Mensaje
 {
-    int numero = 0; ///< Castilian number; the Basque one is this plus 10000
+    int numero = 0;
     QString nombre; ///< name of the enumerator
     QString castellano;
     QString euskera;
@@ -17,5 +19,5 @@ struct Mensaje
 /// Every text of both files, by ascending number.
 const QList<Mensaje> &mensajes();
 
-/// The text stored under `numero`, or `numero` + 10000 for Basque; empty when there is none.
-QString mensajeNumero(int numero);
+/// The text number `numero`; empty when there is none.
+QString textoMensaje(int numero, Idioma idioma);

@@ -12,7 +12,6 @@ namespace {
 using namespace RegGuardar;
 
 constexpr qint32 ClaveMaxima = std::numeric_limits<qint32>::max();
-constexpr qint32 Diciembre = 12;
 
 struct Cabecera
 {
@@ -25,17 +24,18 @@ Cabecera leerCabecera(LectorRegistro &lector)
     return {.csde = lector.entero(CSDE, 0, ClaveMaxima),
             .csco = lector.entero(CSCO, 1, ClaveMaxima),
             .ejercicio = lector.entero(EJERCICIO, 1, 9999),
-            .periodicidad = lector.entero(PERIODICIDAD, 1, 2),
-            .periodo = lector.entero(PERIODO, 1, Diciembre),
-            .tipologia = lector.entero(TIPOLOGIA, 1, 2),
+            .periodicidad = lector.entero(PERIODICIDAD, PeriodicidadMensual, PeriodicidadAnual),
+            .periodo = lector.entero(PERIODO, 1, UltimoMes),
+            .tipologia = lector.entero(TIPOLOGIA, Tipologia430, Tipologia480),
             .modelo = lector.texto(MODELO)};
 }
 
 bool esDelModelo(const Cabecera &cabecera, const Modelo &modelo)
 {
-    const bool anual = modelo.periodicidad == 2;
+    const bool anual = modelo.periodicidad == PeriodicidadAnual;
     return cabecera.modelo == modelo.codigo && cabecera.periodicidad == modelo.periodicidad
-        && cabecera.tipologia == modelo.periodicidad && (!anual || cabecera.periodo == Diciembre);
+        && cabecera.tipologia == modelo.periodicidad
+        && (!anual || cabecera.periodo == PeriodoAnual);
 }
 
 QVariantList leerFiguras(LectorRegistro &lector, const Modelo &modelo)

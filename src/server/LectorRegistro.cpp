@@ -7,7 +7,6 @@ namespace servidor {
 
 namespace {
 
-constexpr double Maximo = 999'999'999'999'999.0; // beyond it a double is no exact figure any more
 constexpr double TipoMaximo = 99'999.0;
 constexpr double RuidoSimple = 0.01; // what single precision may add to a rate's hundredths
 
@@ -57,7 +56,7 @@ double LectorRegistro::numero(qsizetype campo)
     if (!esNumero(valor))
         return rechazar();
     const double leido = valor.toDouble();
-    return std::abs(leido) <= Maximo ? leido : rechazar(); // false for a NaN too
+    return std::abs(leido) <= ImporteMaximo ? leido : rechazar(); // false for a NaN too
 }
 
 qint64 LectorRegistro::importe(qsizetype campo)

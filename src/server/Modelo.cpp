@@ -2,10 +2,7 @@
 
 #include "dataservice/Registros.h"
 
-#include <array>
 #include <utility>
-
-using namespace Qt::StringLiterals;
 
 namespace servidor {
 
@@ -28,16 +25,12 @@ std::string nombreCasilla(int casilla)
 
 std::vector<Modelo::Columna> columnas480()
 {
-    // The liquidation's boxes, in the record's order.
-    constexpr std::array liquidacion{70, 73, 76, 79, 74, 77, 75, 78, 80, 81};
-    static_assert(Reg480::C70_TOT + liquidacion.size() == Reg480::Total);
-
     std::vector<Modelo::Columna> columnas(Reg480::C70_TOT);
     for (int clase = 0; clase < Reg480::Clases; ++clase)
         for (const int columna : {0, 1})
             columnas[static_cast<std::size_t>(Reg480::posicion(clase, columna))]
                 = {nombreCasilla(Reg480::casilla(clase, columna)), Clase::Importe};
-    for (const int casilla : liquidacion)
+    for (const int casilla : Reg480::Liquidacion)
         columnas.push_back({nombreCasilla(casilla),
                             casilla == 74 || casilla == 77 ? Clase::Tipo : Clase::Importe});
     return columnas;
@@ -70,13 +63,13 @@ Modelo::Modelo(const QString &codigoModelo, qint32 periodicidadModelo, qsizetype
 
 const Modelo &modelo430()
 {
-    static const Modelo modelo(u"430"_s, 1, Reg430::CUOTATOT, columnas430());
+    static const Modelo modelo(Modelo430, PeriodicidadMensual, Reg430::CUOTATOT, columnas430());
     return modelo;
 }
 
 const Modelo &modelo480()
 {
-    static const Modelo modelo(u"480"_s, 2, Reg480::C81_RES, columnas480());
+    static const Modelo modelo(Modelo480, PeriodicidadAnual, Reg480::C81_RES, columnas480());
     return modelo;
 }
 

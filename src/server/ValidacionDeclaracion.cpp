@@ -28,7 +28,7 @@ bool dentroDeLimites(const Registro &cabecera)
     const Par minimo = par(EJERMIN, PERMIN);
     const Par maximo = par(EJERMAX, PERMAX);
     lector.exigirValido();
-    return pedido.second >= 1 && pedido.second <= 12 && minimo <= pedido && pedido <= maximo;
+    return pedido.second >= 1 && pedido.second <= UltimoMes && minimo <= pedido && pedido <= maximo;
 }
 
 qint16 reglaCabecera(const Registro &cabecera)

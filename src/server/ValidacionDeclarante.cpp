@@ -18,24 +18,24 @@ bool sonCifras(const QString &texto, qsizetype cuantas)
 Regla reglaPostal(const QString &postal, qint32 provincia)
 {
     if (!sonCifras(postal, 5))
-        return ReglaPostalCincoCifras;
+        return Regla::PostalCincoCifras;
     if (postal.toInt() == 0)
-        return ReglaPostalCero;
+        return Regla::PostalCero;
     if (postal.first(2).toInt() != provincia)
-        return ReglaPostalDeOtraProvincia;
-    return postal.toInt() % 1000 == 0 ? ReglaPostalTresUltimas : Ninguna;
+        return Regla::PostalDeOtraProvincia;
+    return postal.toInt() % 1000 == 0 ? Regla::PostalTresUltimas : Regla::Ninguna;
 }
 
 Regla reglaTelefono(const QString &telefono, Telefono exigencia)
 {
     if (telefono.isEmpty())
-        return exigencia == Telefono::Obligatorio ? ReglaTelefono : Ninguna;
-    return sonCifras(telefono, 9) ? Ninguna : ReglaTelefonoNueveCifras;
+        return exigencia == Telefono::Obligatorio ? Regla::Telefono : Regla::Ninguna;
+    return sonCifras(telefono, 9) ? Regla::Ninguna : Regla::TelefonoNueveCifras;
 }
 
 } // namespace
 
-QList<qint16> reglasRotas(const Registro &datos, Telefono telefono)
+QList<Regla> reglasRotas(const Registro &datos, Telefono telefono)
 {
     using namespace RegValidacion;
     LectorRegistro lector(datos, Total);
@@ -48,22 +48,23 @@ QList<qint16> reglasRotas(const Registro &datos, Telefono telefono)
     const bool hayProvincia = provincia >= 1 && provincia <= Provincias;
     const bool faltaCodigo = provincia == ProvinciaPropia && textos[CODMUN].toInt() <= 0;
 
-    QList<qint16> rotas;
-    const auto anotar = [&](bool rota, qint16 regla) {
+    QList<Regla> rotas;
+    const auto anotar = [&](bool rota, Regla regla) {
         if (rota)
             rotas += regla;
     };
-    anotar(!nifValido(textos[DNI]), ReglaDni);
-    anotar(textos[NOMBRE].isEmpty(), ReglaNombre);
-    anotar(textos[DOMICILIO].isEmpty(), ReglaDomicilio);
-    anotar(!hayProvincia, ReglaProvincia);
+    anotar(!nifValido(textos[DNI]), Regla::Dni);
+    anotar(textos[NOMBRE].isEmpty(), Regla::Nombre);
+    anotar(textos[DOMICILIO].isEmpty(), Regla::Domicilio);
+    anotar(!hayProvincia, Regla::Provincia);
     const Regla postal = reglaPostal(textos[CODPOS], provincia);
     // Without a province there is nothing for the postal code to disagree with.
-    anotar(postal != Ninguna && (hayProvincia || postal != ReglaPostalDeOtraProvincia), postal);
-    anotar(faltaCodigo, ReglaCodigoMunicipio);
-    anotar(textos[NOMMUN].isEmpty(), ReglaMunicipio);
+    anotar(postal != Regla::Ninguna && (hayProvincia || postal != Regla::PostalDeOtraProvincia),
+           postal);
+    anotar(faltaCodigo, Regla::CodigoMunicipio);
+    anotar(textos[NOMMUN].isEmpty(), Regla::Municipio);
     const Regla numero = reglaTelefono(textos[TELEFONO], telefono);
-    anotar(numero != Ninguna, numero);
+    anotar(numero != Regla::Ninguna, numero);
     return rotas;
 }
 

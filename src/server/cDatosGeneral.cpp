@@ -88,11 +88,11 @@ void cDatosGeneral::DameEjerPerMinMax(Registro &limites)
 void cDatosGeneral::ObtenerNombreProvincia(const QString &codigo, QString &nombreProvincia,
                                            qint16 idioma)
 {
-    nombreProvincia
-        = nombre(m_ruta,
-                 idioma == 0 ? "SELECT T05_PRO_CAS FROM T05_PROVINCIAS WHERE T05_PRO_ID = ?"
-                             : "SELECT T05_PRO_EUS FROM T05_PROVINCIAS WHERE T05_PRO_ID = ?",
-                 codigo);
+    nombreProvincia = nombre(m_ruta,
+                             idiomaDe(idioma) == Idioma::Castellano
+                                 ? "SELECT T05_PRO_CAS FROM T05_PROVINCIAS WHERE T05_PRO_ID = ?"
+                                 : "SELECT T05_PRO_EUS FROM T05_PROVINCIAS WHERE T05_PRO_ID = ?",
+                             codigo);
 }
 
 void cDatosGeneral::ObtenerNombreMunicipio(const QString &codigo, QString &nombreMunicipio)

@@ -27,7 +27,8 @@ QHash<qint64, QString> nombresProvincias(const PConexion &consulta, qint16 idiom
                         "SELECT T05_PRO_ID, T05_PRO_CAS, T05_PRO_EUS FROM T05_PROVINCIAS");
     QHash<qint64, QString> nombres;
     while (sentencia.fila())
-        nombres.insert(sentencia.entero(0), sentencia.texto(idioma == 0 ? 1 : 2));
+        nombres.insert(sentencia.entero(0),
+                       sentencia.texto(idiomaDe(idioma) == Idioma::Castellano ? 1 : 2));
     return nombres;
 }
 
@@ -61,7 +62,7 @@ void cDeclarante::BorrarDeclarante(qint32 CSCO)
 
 qint16 cDeclarante::ValidarDatosDeclarante(const Registro &datos)
 {
-    return reglasRotas(datos, Telefono::Obligatorio).value(0, 0);
+    return static_cast<qint16>(reglasRotas(datos, Telefono::Obligatorio).value(0));
 }
 
 qint32 cDeclarante::ObtenerCodigoDeclarante(const QString &DNI)

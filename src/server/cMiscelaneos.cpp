@@ -1,5 +1,7 @@
 #include "server/cMiscelaneos.h"
 
+#include "dataservice/Codigos.h"
+
 using namespace Qt::StringLiterals;
 
 namespace servidor {
@@ -21,7 +23,7 @@ QString cMiscelaneos::HaciendaFiscalidad()
     const QString euskara = u"Ogasun eta Finantza Saila"_s;
     if (m_idioma == DosIdiomas)
         return euskara + u'\n' + castellano;
-    return m_idioma == 0 ? castellano : euskara;
+    return idiomaDe(m_idioma) == Idioma::Castellano ? castellano : euskara;
 }
 
 void cMiscelaneos::AccesoAyuOnline()
@@ -34,7 +36,7 @@ void cMiscelaneos::MostrarOnlineInfo()
 {
     if (!m_dialogos)
         return;
-    const QString texto = m_idioma == 0
+    const QString texto = idiomaDe(m_idioma) == Idioma::Castellano
         ? u"La asistencia en línea está en la dirección %1 y se abre con el "
           "navegador. El programa no envía ningún dato suyo."_s
         : u"Lineako laguntza %1 helbidean dago, eta nabigatzailearekin irekitzen da. "
