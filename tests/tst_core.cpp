@@ -2,14 +2,21 @@
 #include "core/Importe.h"
 #include "core/Redondeo.h"
 #include "core/Rutas.h"
+#include "core/RutasPropias.h"
 #include "core/Textos.h"
 #include "core/cFecha.h"
 
 #include <QDir>
 #include <QRandomGenerator>
+#include <QScopeGuard>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <cmath>
+#include <filesystem>
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -207,6 +214,63 @@ private Q_SLOTS:
         }
     }
 
+    /// One of our own files by any name, or what is no regular file, is refused; the rest is not.
+    void rutasPropias()
+    {
+        namespace fs = std::filesystem;
+        const QTemporaryDir raiz;
+        const auto anterior = rutas();
+        const auto restaurar = qScopeGuard([&] { fijarRutas(anterior); });
+        fijarRutas(Rutas::desde(raiz.filePath(u"p"_s)));
+        const QDir casa(raiz.path());
+        QVERIFY(casa.mkpath(u"p/Tablas"_s) && casa.mkpath(u"p/backups"_s)
+                && casa.mkpath(u"otra"_s));
+        const auto crear = [&](const QString &nombre) {
+            QFile fichero(casa.filePath(nombre));
+            QVERIFY(fichero.open(QIODevice::WriteOnly));
+        };
+        for (const QString &nombre :
+             {u"p/Tablas/OstrMod.mdb"_s, u"p/Tablas/OstrMod.mdb.v1"_s, u"p/Tablas/Errores.txt"_s,
+              u"p/backups/OstrMod_bak.2.mdb"_s, u"otra/OstrMod.mdb"_s})
+            crear(nombre);
+        const auto disco = [&](const QString &nombre) {
+            return fs::path(casa.filePath(nombre).toStdU16String());
+        };
+        fs::create_symlink(disco(u"p/Tablas/OstrMod.mdb"_s), disco(u"otra/enlace.pdf"_s));
+        fs::create_hard_link(disco(u"p/Tablas/OstrMod.mdb"_s), disco(u"otra/duro.pdf"_s));
+        fs::create_symlink(disco(u"p/Tablas/OstrMod.mdb-journal"_s), disco(u"otra/futuro.pdf"_s));
+        fs::create_directory_symlink(disco(u"p/Tablas"_s), disco(u"otra/tablas"_s));
+        fs::create_symlink(disco(u"otra/vuelta"_s), disco(u"otra/vuelta"_s));
+
+        const auto motivo = [&](const QString &ruta) {
+            return motivoRutaRechazada(casa.filePath(ruta)).section(u'»', 1);
+        };
+        const QString propia = u" es un fichero del propio programa. Elija otro."_s;
+        const QString otraCosa = u" es una carpeta o un dispositivo, no un fichero."_s;
+        for (const QString &ruta :
+             {u"p/Tablas/OstrMod.mdb"_s, u"p/Tablas/OstrMod.mdb-journal"_s,
+              u"p/Tablas/ostrmod.MDB"_s, u"p/Tablas/OstrMod.mdb.v1"_s, u"p/Tablas/OstrLec.mdb"_s,
+              u"p/backups/OstrMod_bak.2.mdb"_s, u"p/backups/OstrMod_bak.mdb"_s,
+              u"otra/../p/./Tablas//OstrMod.mdb"_s, u"otra/enlace.pdf"_s, u"otra/duro.pdf"_s,
+              u"otra/futuro.pdf"_s, u"otra/tablas/OstrMod.mdb"_s, u"otra/tablas/OstrLec.mdb"_s})
+            QVERIFY2(motivo(ruta) == propia, qPrintable(ruta));
+        QCOMPARE(motivoRutaRechazada(QCoreApplication::applicationFilePath()).section(u'»', 1),
+                 propia);
+        QCOMPARE(motivo(u"otra"_s), otraCosa);
+#ifdef Q_OS_UNIX
+        QCOMPARE(mkfifo(disco(u"otra/tubo"_s).c_str(), 0600), 0);
+        QCOMPARE(motivo(u"otra/tubo"_s), otraCosa);
+#endif
+        for (const QString &ruta :
+             {u"otra/OstrMod.mdb"_s, u"p/Tablas/Errores.txt"_s, u"p/Tablas/430.pdf"_s,
+              u"otra/nuevo.pdf"_s, u"otra/vuelta"_s, u"no hay/nuevo.pdf"_s})
+            QVERIFY2(motivo(ruta).isEmpty(), qPrintable(ruta));
+        const QDir antes = QDir::current();
+        QVERIFY(QDir::setCurrent(casa.filePath(u"p/Tablas"_s)));
+        const QString relativa = motivoRutaRechazada(u"OstrMod.mdb"_s);
+        QVERIFY(QDir::setCurrent(antes.path()) && !relativa.isEmpty());
+    }
+
     void teclas()
     {
         QCOMPARE(filtrarTexto(QChar(u'ñ')), QChar(u'Ñ'));
@@ -230,5 +294,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestCore)
+QTEST_GUILESS_MAIN(TestCore)
 #include "tst_core.moc"

@@ -10,6 +10,7 @@ struct Rutas
     QString tablas; ///< folder of the databases, with final separator
     QString lectura; ///< lookup database
     QString modelo; ///< model database
+    QString copias; ///< folder of the backups, with final separator
 
     /// The tables folder is "Tablas" under the program folder; but a program folder whose path
     /// contains "cliente" (any letter case, also inside a longer name) has it beside: the path
