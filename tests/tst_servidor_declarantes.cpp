@@ -1,5 +1,7 @@
 #include "support/ServidorPrueba.h"
 
+#include <QSet>
+
 using namespace Qt::StringLiterals;
 
 class TstServidorDeclarantes : public QObject
@@ -50,6 +52,26 @@ private Q_SLOTS:
         Filas filas;
         QCOMPARE(objeto->dameResultado(filas, 2, 0), 2);
         QCOMPARE(columna(filas, FilaDeclarante::NOMBRE), (QVariantList{u"EVA"_s, u"OTRA"_s}));
+    }
+
+    /// Another mark after each change of a field, the same while nothing changed.
+    void huella()
+    {
+        const qint32 clave = m_servidor->alta(u"12345678Z"_s, u"ANA"_s);
+        const auto objeto = m_servidor->declarantes();
+        QVERIFY(objeto->Huella(clave + 1).isEmpty());
+        QSet<QByteArray> vistas{objeto->Huella(clave)};
+        Registro registro = ServidorPrueba::registro(u"12345678Z"_s, u"ANA"_s);
+        registro[RegDeclarante::CSCO] = clave;
+        for (int campo = RegDeclarante::DNI; campo < RegDeclarante::NUM430; ++campo) {
+            registro[campo] = campo == RegDeclarante::NUMERO ? QVariant(77) : QVariant(u"7"_s);
+            QCOMPARE(objeto->GuardarDeclarante(registro), 0);
+            vistas += objeto->Huella(clave);
+            QCOMPARE(vistas.size(), campo + 1);
+        }
+        m_servidor->declaraciones()->Guardar480(ServidorPrueba::datos480(clave, 2025));
+        QCOMPARE(objeto->GuardarDeclarante(registro), 0);
+        QVERIFY(vistas.contains(objeto->Huella(clave)));
     }
 
     void malFormado()

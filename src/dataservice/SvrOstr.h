@@ -3,6 +3,8 @@
 #include "dataservice/Fabrica.h"
 #include "dataservice/Registros.h"
 
+#include <QByteArray>
+
 #include <functional>
 
 /// The data service of the program: declarants, returns, settings and lookups in two databases.
@@ -56,6 +58,9 @@ public:
     virtual void mdbnameL(const QString &ruta) = 0; ///< lookup database
 
     virtual void CargarDeclarante(qint32 &CSCO, Registro &registro) = 0; ///< RegDeclarante
+    /// Mark of what is stored of a declarant, its returns apart: another one once any of it has
+    /// changed, empty when it is not there. To be asked for right after loading and before saving.
+    virtual QByteArray Huella(qint32 CSCO) = 0;
     /// Inserts (CSCO 0) or updates a RegDeclarante: 0 saved, 1 a new one's DNI exists already,
     /// 2 another declarant has that DNI. Texts are stored trimmed and in upper case; the counters
     /// of the record are ignored.
@@ -108,6 +113,9 @@ public:
     virtual qint16 ValidarDatosComunes(const Registro &cabecera) = 0;
     virtual void Cargar430(qint32 &CSDE, Registro &figuras) = 0; ///< Reg430
     virtual void Cargar480(qint32 &CSDE, Registro &figuras) = 0; ///< Reg480
+    /// Mark of what is stored of a return, header and figures, as cDeclarante::Huella is of a
+    /// declarant.
+    virtual QByteArray Huella(qint32 CSDE) = 0;
     /// A RegValidar430: 1 rectification marked and its base 0, 2 its quota 0, else 0. No database.
     virtual qint16 ValidarDatos430(const Registro &datos) = 0;
     /// A RegValidar480: 2 when box 70 is not 73 + 76, else 0. No database.

@@ -4,6 +4,8 @@
 #include "server/LectorRegistro.h"
 #include "server/Orden.h"
 
+#include <QCryptographicHash>
+
 using namespace Qt::StringLiterals;
 
 namespace servidor {
@@ -143,6 +145,14 @@ Registro registroDeclarante(const Sentencia &fila)
         }
     }
     return registro;
+}
+
+QByteArray huella(const Registro &registro)
+{
+    QCryptographicHash resumen(QCryptographicHash::Sha256);
+    for (const QVariant &campo : registro)
+        resumen.addData(campo.toString().toUtf8() + '\0');
+    return resumen.result();
 }
 
 void noEncontrado(const QString &que, qint64 clave)

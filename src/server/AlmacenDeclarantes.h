@@ -21,6 +21,9 @@ void marcarReciente(const PConexion &conexion, qint32 CSCO);
 std::string seleccionDeclarante(std::string_view resto);
 Registro registroDeclarante(const Sentencia &fila);
 
+/// Mark of a stored record: another one when any field differs.
+QByteArray huella(const Registro &registro);
+
 [[noreturn]] void noEncontrado(const QString &que, qint64 clave);
 
 } // namespace servidor

@@ -85,6 +85,20 @@ void cDeclaracion::Cargar480(qint32 &CSDE, Registro &figuras)
     figuras = cargarFiguras(Conexion::modelo(m_ruta), modelo480(), CSDE);
 }
 
+QByteArray cDeclaracion::Huella(qint32 CSDE)
+{
+    const PConexion conexion = Conexion::modelo(m_ruta);
+    const LecturaUnica lectura(conexion);
+    Sentencia sentencia(conexion,
+                        "SELECT CSCO, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, "
+                        "TIPOLOGIA FROM DECLARACIONES WHERE CSDE = ?");
+    if (!sentencia.con(CSDE).fila())
+        return {};
+    const Registro cabecera = Registro{sentencia.clave(0)} + camposComunes(sentencia);
+    const Modelo *modelo = modeloDe(sentencia.texto(4));
+    return huella(modelo ? cabecera + cargarFiguras(conexion, *modelo, CSDE) : cabecera);
+}
+
 qint16 cDeclaracion::ValidarDatos430(const Registro &datos)
 {
     return reglaDatos430(datos);

@@ -18,6 +18,7 @@ public:
     qint16 ValidarDatosComunes(const Registro &cabecera) override;
     void Cargar430(qint32 &CSDE, Registro &figuras) override;
     void Cargar480(qint32 &CSDE, Registro &figuras) override;
+    QByteArray Huella(qint32 CSDE) override;
     qint16 ValidarDatos430(const Registro &datos) override;
     qint16 ValidarDatos480(const Registro &datos) override;
     qint32 Guardar430(const Registro &datos) override;

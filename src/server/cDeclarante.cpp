@@ -42,6 +42,14 @@ void cDeclarante::CargarDeclarante(qint32 &CSCO, Registro &registro)
     registro = registroDeclarante(sentencia);
 }
 
+QByteArray cDeclarante::Huella(qint32 CSCO)
+{
+    Sentencia sentencia(Conexion::modelo(m_modelo), seleccionDeclarante("WHERE CSCO = ?"));
+    if (!sentencia.con(CSCO).fila())
+        return {};
+    return huella(registroDeclarante(sentencia).first(RegDeclarante::NUM430));
+}
+
 qint16 cDeclarante::GuardarDeclarante(const Registro &registro)
 {
     Transaccion transaccion(Conexion::modelo(m_modelo));

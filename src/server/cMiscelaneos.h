@@ -1,7 +1,7 @@
 #pragma once
 
-#include "dataservice/SvrKtComunLib.h"
 #include "dataservice/Dialogos.h"
+#include "dataservice/SvrKtComunLib.h"
 
 namespace servidor {
 

@@ -18,6 +18,7 @@ public:
     void mdbnameM(const QString &) override {}
     void mdbnameL(const QString &) override {}
     void CargarDeclarante(qint32 &, Registro &) override { inesperado(); }
+    QByteArray Huella(qint32) override { inesperado(); }
     qint16 GuardarDeclarante(const Registro &) override { inesperado(); }
     void BorrarDeclarante(qint32) override { inesperado(); }
     qint16 ValidarDatosDeclarante(const Registro &) override { inesperado(); }
@@ -51,6 +52,7 @@ public:
         const double base = 10000.0 * CSDE;
         figuras = {QString(), base, 10.0F, base / 10, 0.0, 0.0, base, 10.0F, base / 10};
     }
+    QByteArray Huella(qint32) override { inesperado(); }
     void Cargar480(qint32 &, Registro &) override { inesperado(); }
     qint16 ValidarDatos430(const Registro &) override { inesperado(); }
     qint16 ValidarDatos480(const Registro &) override { inesperado(); }
