@@ -1,11 +1,13 @@
 #include "core/CEntrada.h"
-#include "core/Textos.h"
+#include "core/Servicios.h"
 #include "declarants/cDecResumen.h"
 #include "declarations/FrmDatos430.h"
 #include "declarations/cDatos430.h"
 #include "support/ConductorMensajes.h"
+#include "support/DeclaracionesPrueba.h"
 #include "support/Entorno.h"
 #include "support/Manos.h"
+#include "support/Retrato.h"
 
 #include <QSignalSpy>
 
@@ -14,12 +16,13 @@
 using namespace Qt::StringLiterals;
 
 /// The 430 entry screen for a new return of January 2026 (rate 8 %), as the summary opens it.
-class PruebaDatos430 : public QObject
+class TstFrmDatos430 : public QObject
 {
     Q_OBJECT
 
 private:
     std::optional<Entorno> m_entorno;
+    std::optional<ConductorMensajes> m_mensajes;
     std::unique_ptr<FrmDatos430> m_pantalla;
     qint32 m_csco = 0;
 
@@ -29,20 +32,42 @@ private:
         registro.MODO(modo);
         registro.CSDE(csde);
         m_pantalla = std::make_unique<FrmDatos430>();
+        m_pantalla->resize(m_pantalla->sizeHint());
         m_pantalla->show();
         m_pantalla->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_pantalla.get()));
     }
     Manos manos() const { return Manos(*m_pantalla); }
-    static QList<DeclaracionListada> declaraciones()
+    /// Presses a button and answers Ok to the one message that it brings; the message's text.
+    QString avisoAlPulsar(const char *boton)
     {
-        return unico::la<cDecResumen>().CargarDeclaraciones();
+        m_mensajes->responder(QMessageBox::Ok);
+        manos().pulsar(boton);
+        return m_mensajes->texto();
+    }
+    /// What is stored: the figures of the only return, or nothing.
+    static Registro guardado()
+    {
+        const Filas filas = servicioFilas();
+        Registro figuras;
+        if (filas.size() != 1)
+            return figuras;
+        qint32 csde = filas[0].toList().value(FilaDeclaracion::CSDE).toInt();
+        servicioDeclaracion()->Cargar430(csde, figuras);
+        return figuras;
+    }
+    static Filas servicioFilas()
+    {
+        Filas filas;
+        servicioDeclaracion()->dameResultado(filas, unico::la<cDecResumen>().CSCO());
+        return filas;
     }
 
 private Q_SLOTS:
     void init()
     {
         m_entorno.emplace();
+        m_mensajes.emplace();
         m_csco = Entorno::altaDeclarante();
         auto &cabecera = unico::la<cDecResumen>();
         cabecera.TomarDeclarante(m_csco, u"12345678Z"_s, u"SEGUROS UNO"_s);
@@ -54,40 +79,86 @@ private Q_SLOTS:
     void cleanup()
     {
         m_pantalla.reset();
+        m_mensajes.reset();
         m_entorno.reset();
     }
 
-    void muestraCabeceraYCasillasVacias()
+    void nuevaEnLosDosIdiomas()
     {
-        const auto m = manos();
-        QCOMPARE(m.texto("lbldni"), u"12345678Z"_s);
-        QCOMPARE(m.texto("txtper"), u"01"_s);
-        QCOMPARE(m.texto("lblperiodo"), u"ENERO"_s);
-        QCOMPARE(m.texto("txttliq"), u"8,00"_s);
-        for (const char *vacia :
-             {"txtbliq", "txtcliq", "txtbrect", "txtcrect", "txtbtot", "txtctot"})
-            QCOMPARE(m.texto(vacia), QString());
-        QCOMPARE(m.foco(), u"txtbliq"_s);
-        QVERIFY(!m.control("txtbrect")->isEnabled());
+        QCOMPARE(m_pantalla->windowTitle(), u"Declaración - Liquidación 430"_s);
+        compararRetrato(
+            *m_pantalla,
+            u"12345678Z SEGUROS UNO Ejercicio (txtejer=2026) Período (txtper=01) ENERO\n"
+            "Base imponible Tipo Cuota\n"
+            "Liquidación [txtbliq=] (txttliq=8,00) (txtcliq=)\n"
+            "<Rectificación de períodos anteriores>\n"
+            "Rectificación -[txtbrect=] -[txtcrect=]\n"
+            "Total (txtbtot=) (txtttot=8,00) (txtctot=)\n"
+            "<Aceptar> <Cancelar>"_s);
+        QCOMPARE(vueltaConTab(*m_pantalla), u"txtbliq chkrect cmdAceptar cmdCancelar"_s);
+        manos().escribir("txtbliq", u"500"_s);
+        manos().pulsar("chkrect");
+        QCOMPARE(vueltaConTab(*m_pantalla),
+                 u"chkrect txtbrect txtcrect cmdAceptar cmdCancelar txtbliq"_s);
+        Entorno::pasarAEuskera(*m_pantalla);
+        QCOMPARE(m_pantalla->windowTitle(), u"Aitorpen - Likidazioa 430"_s);
+        compararRetrato(
+            *m_pantalla,
+            u"12345678Z SEGUROS UNO Ekitaldia (txtejer=2026) Zergaldia (txtper=01) URTARRILA\n"
+            "Oinarri ezargarria Tasa Kuota\n"
+            "Likidazioa [txtbliq=500,00] (txttliq=8,00) (txtcliq=40,00)\n"
+            "<Aurreko zergaldien zuzenketa>\n"
+            "Zuzenketa [txtbrect=] [txtcrect=]\n"
+            "Guztira (txtbtot=500,00) (txtttot=8,00) (txtctot=40,00)\n"
+            "<Ados> <Utzi>"_s);
+        QCOMPARE(manos().control("txtcrect")->accessibleName(), u"Zuzenketa: Kuota"_s);
+    }
+
+    void existenteSeMuestraYSeGuardaEntera()
+    {
+        const qint32 csde = guardarDistinta(m_csco, u"430"_s);
+        unico::la<cDecResumen>().CSDE(csde);
+        abrir(u"C"_s, csde);
+        compararRetrato(
+            *m_pantalla,
+            u"12345678Z SEGUROS UNO Ejercicio (txtejer=2026) Período (txtper=01) ENERO\n"
+            "Base imponible Tipo Cuota\n"
+            "Liquidación [txtbliq=1.111,11] (txttliq=7,15) (txtcliq=2.222,22)\n"
+            "<Rectificación de períodos anteriores>\n"
+            "Rectificación [txtbrect=-3.333,33] [txtcrect=-44,44]\n"
+            "Total (txtbtot=5.555,55) (txtttot=6,00) (txtctot=6.666,66)\n"
+            "<Aceptar> <Cancelar>"_s);
+        manos().escribir("txtbliq", u"1111,11"_s); // the same amount: nothing is computed again
+        manos().tecla(Qt::Key_Tab);
+        QCOMPARE(manos().texto("txtctot"), u"6.666,66"_s);
+        manos().escribir("txtcrect", u"-44,45"_s);
+        manos().pulsar("PicAce");
+        QCOMPARE(guardado(),
+                 (Registro{u"X"_s, 111111.0, 7.15F, 7944.0, -333333.0, -4445.0, -222222.0, 6.0F,
+                           3499.0}));
+        QCOMPARE(unico::la<cDecResumen>().CSDE(), csde);
     }
 
     void recalculaEnCadaCambio()
     {
         const auto m = manos();
         m.escribir("txtbliq", u"1234,56"_s);
-        m.tecla(Qt::Key_Return);
+        m.tecla(Qt::Key_Enter);
         QCOMPARE(m.foco(), u"chkrect"_s);
         QCOMPARE(m.texto("txtbliq"), u"1.234,56"_s);
         QCOMPARE(m.texto("txtcliq"), u"98,76"_s); // 98.7648
         m.tecla(Qt::Key_Space);
         m.escribir("txtbrect", u"-100"_s);
-        m.escribir("txtcrect", u"-8,76"_s);
         m.tecla(Qt::Key_Tab);
+        QTest::keyClicks(m.control("txtcrect"), u"-8,76"_s);
+        m.tecla(Qt::Key_Backtab);
+        QCOMPARE(m.control<QLineEdit>("txtbrect")->selectedText(), u"-100,00"_s);
         QCOMPARE(m.texto("txtbtot"), u"1.134,56"_s);
         QCOMPARE(m.texto("txtctot"), u"90,00"_s);
         m.pulsar("chkrect");
         QCOMPARE(m.texto("txtbrect"), QString());
         QCOMPARE(m.texto("txtctot"), u"98,76"_s);
+        QVERIFY(!m.control("txtbrect")->isEnabled() && !m.control("txtcrect")->isEnabled());
     }
 
     void formasDeTeclear()
@@ -124,12 +195,11 @@ private Q_SLOTS:
 
     void importeQueNoSeEntiendeSeQueda()
     {
-        ConductorMensajes conductor;
         const auto m = manos();
         m.escribir("txtbliq", u"1.23.4"_s);
-        conductor.responder(QMessageBox::Ok);
+        m_mensajes->responder(QMessageBox::Ok);
         m.tecla(Qt::Key_Tab);
-        QCOMPARE(conductor.texto(), msj(Msj::ImporteIlegible, u"1.23.4"_s));
+        QCOMPARE(m_mensajes->texto(), u"«1.23.4» no es un importe."_s);
         QTRY_COMPARE(m.foco(), u"txtbliq"_s);
         QCOMPARE(m.texto("txtbliq"), u"1.23.4"_s);
         QCOMPARE(unico::la<cDatos430>().BASELIQ(), 0.0);
@@ -137,95 +207,85 @@ private Q_SLOTS:
 
     void totalQueNoCabeSeRechazaEnLaCasilla()
     {
-        ConductorMensajes conductor;
         const auto m = manos();
         m.escribir("txtbliq", u"9999999999999,99"_s);
         m.pulsar("chkrect");
         m.escribir("txtbrect", u"1"_s);
-        conductor.responder(QMessageBox::Ok);
+        m_mensajes->responder(QMessageBox::Ok);
         m.tecla(Qt::Key_Tab);
-        QCOMPARE(conductor.texto(), msj(Msj::ImporteTotalExcedido, msj(Msj::Total)));
+        QCOMPARE(m_mensajes->texto(),
+                 u"No se admite el cambio: el total «Total» tendría más de 13 "
+                 "cifras enteras."_s);
         QCOMPARE(unico::la<cDatos430>().BASETOT(), 999999999999999.0);
         QCOMPARE(unico::la<cDatos430>().BASEREC(), 0.0);
     }
 
+    void aceptarTomaLaCasillaConElFoco_data()
+    {
+        QTest::addColumn<QString>("boton"); // none: by its access key
+        QTest::newRow("button") << u"cmdAceptar"_s;
+        QTest::newRow("picture") << u"PicAce"_s;
+        QTest::newRow("access key") << QString();
+    }
     void aceptarTomaLaCasillaConElFoco()
     {
-        int mes = 0;
-        for (const char *como : {"cmdAceptar", "PicAce", "access key"}) {
-            abrir(u"A"_s);
-            unico::la<cDecResumen>().PERIODO(quint8(++mes));
-            const auto m = manos();
-            QSignalSpy siguiente(m_pantalla.get(), &PantallaBase::mostrar);
-            QSignalSpy cambios(m_pantalla.get(), &PantallaBase::datosCambiados);
-            m.escribir("txtbliq", u"500"_s);
-            if (qstrcmp(como, "access key") == 0)
-                m.tecla(Qt::Key_A, Qt::AltModifier);
-            else
-                m.pulsar(como);
-            // a button answers to its access key a moment later
-            QTRY_COMPARE(siguiente.count(), 1);
-            QCOMPARE(siguiente.front().front().value<Pantalla>(), Pantalla::Resumen);
-            QCOMPARE(cambios.count(), 1);
-            const auto fila = declaraciones().constLast();
-            QCOMPARE(declaraciones().size(), mes);
-            QCOMPARE(fila.importe, 4000.0);
-            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_s);
-            QCOMPARE(unico::la<cDecResumen>().CSDE(), fila.csde);
-        }
+        QFETCH(QString, boton);
+        const auto m = manos();
+        QSignalSpy siguiente(m_pantalla.get(), &PantallaBase::mostrar);
+        QSignalSpy cambios(m_pantalla.get(), &PantallaBase::datosCambiados);
+        m.escribir("txtbliq", u"500"_s);
+        if (boton.isEmpty())
+            m.tecla(Qt::Key_A, Qt::AltModifier);
+        else
+            m.pulsar(boton.toLatin1().constData());
+        // a button answers to its access key a moment later
+        QTRY_COMPARE(siguiente.count(), 1);
+        QCOMPARE(siguiente.front().front().value<Pantalla>(), Pantalla::Resumen);
+        QCOMPARE(cambios.count(), 1);
+        QCOMPARE(guardado(),
+                 (Registro{QString(), 50000.0, 8.0F, 4000.0, 0.0, 0.0, 50000.0, 8.0F, 4000.0}));
+        QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_s);
+        QCOMPARE(unico::la<cDecResumen>().CSDE(),
+                 servicioFilas()[0].toList().value(FilaDeclaracion::CSDE));
     }
 
     void rectificacionSinImportes()
     {
-        ConductorMensajes conductor;
         const auto m = manos();
         m.pulsar("chkrect");
-        for (const auto &[caja, idioma] :
-             {std::pair{"txtbrect", u"C"_s}, std::pair{"txtcrect", u"E"_s}}) {
+        for (
+            const auto &[caja, idioma, texto] :
+            {std::tuple{"txtbrect", u"C"_s,
+                        u"La casillas Base imponible y Cuota de Rectificación no pueden ser 0"_s},
+             {"txtcrect", u"E"_s,
+              u"Oinarri ezargarriaren eta zuzenketa kuotaren laukien balioa ezin da zero izan"_s}}) {
             unico::la<CEntrada>().IDI(idioma);
             m.escribir(caja, u"10"_s);
-            conductor.responder(QMessageBox::Ok);
+            m_mensajes->responder(QMessageBox::Ok);
             m.pulsar("cmdAceptar");
-            const auto cajas = conductor.tomar();
+            const auto cajas = m_mensajes->tomar();
             QCOMPARE(cajas.size(), 1);
-            QCOMPARE(cajas[0].texto, msj(Msj::ErrorRectificacion430));
+            QCOMPARE(cajas[0].texto, texto);
             QCOMPARE(cajas[0].icono, QMessageBox::Warning);
+            QCOMPARE(cajas[0].titulo, u"Declaración - Liquidación 430"_s);
             QCOMPARE(m.foco(), u"txtbrect"_s);
             m.escribir(caja, {});
         }
         QVERIFY(m_pantalla->isVisible());
-        QVERIFY(declaraciones().isEmpty());
+        QVERIFY(servicioFilas().isEmpty());
     }
 
     void guardadoQueFallaDejaLaPantalla()
     {
-        const auto m = manos();
-        m.escribir("txtbliq", u"500"_s);
+        manos().escribir("txtbliq", u"500"_s);
         {
             const ModeloPerdido perdido;
-            ConductorMensajes conductor;
-            conductor.responder(QMessageBox::Ok);
-            m.pulsar("cmdAceptar");
-            QVERIFY(conductor.texto().contains(u"OstrMod.mdb"_s));
+            QVERIFY(avisoAlPulsar("cmdAceptar").contains(u"OstrMod.mdb"_s));
         }
         QVERIFY(m_pantalla->isVisible());
-        QCOMPARE(m.texto("txtbliq"), u"500,00"_s);
-        m.pulsar("cmdAceptar");
-        QCOMPARE(declaraciones().size(), 1);
-    }
-
-    void existenteSeCargaYSeCambia()
-    {
-        manos().escribir("txtbliq", u"500"_s);
+        QCOMPARE(manos().texto("txtbliq"), u"500,00"_s);
         manos().pulsar("cmdAceptar");
-        const qint32 csde = unico::la<cDecResumen>().CSDE();
-        abrir(u"C"_s, csde);
-        QCOMPARE(manos().texto("txtctot"), u"40,00"_s);
-        manos().escribir("txtbliq", u"600"_s);
-        manos().pulsar("PicAce");
-        QCOMPARE(declaraciones().size(), 1);
-        QCOMPARE(declaraciones().front().importe, 4800.0);
-        QCOMPARE(unico::la<cDecResumen>().CSDE(), csde);
+        QCOMPARE(servicioFilas().size(), 1);
     }
 
     void cancelarNoGuarda()
@@ -239,21 +299,11 @@ private Q_SLOTS:
             else
                 manos().pulsar(como);
             QCOMPARE(siguiente.count(), 1);
-            QVERIFY(declaraciones().isEmpty());
+            QVERIFY(servicioFilas().isEmpty());
             QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_s);
         }
     }
-
-    void cambioDeIdiomaConservaLoTecleado()
-    {
-        manos().escribir("txtbliq", u"500"_s);
-        manos().tecla(Qt::Key_Tab);
-        Entorno::pasarAEuskera(*m_pantalla);
-        QCOMPARE(m_pantalla->windowTitle(), u"Aitorpen - Likidazioa 430"_s);
-        QCOMPARE(manos().texto("lblperiodo"), u"URTARRILA"_s);
-        QCOMPARE(manos().texto("txtbliq"), u"500,00"_s);
-    }
 };
 
-QTEST_MAIN(PruebaDatos430)
+QTEST_MAIN(TstFrmDatos430)
 #include "tst_frmdatos430.moc"

@@ -21,7 +21,7 @@ static QString programa(const QString &nombre)
 
 /// Both copies through a real print queue: a CUPS server of our own on a free port, with the PDF
 /// printer behind it.
-class tst_impreso_cola : public QObject
+class TstImpresoCola : public QObject
 {
     Q_OBJECT
 
@@ -114,5 +114,5 @@ private:
     QProcess m_cups;
 };
 
-QTEST_MAIN(tst_impreso_cola)
+QTEST_MAIN(TstImpresoCola)
 #include "tst_impreso_cola.moc"

@@ -1,5 +1,6 @@
 #include "core/CEntrada.h"
 #include "declarants/cDecResumen.h"
+#include "declarations/cDatos430.h"
 #include "printing/FrmImOf.h"
 #include "support/DeclaracionesPrueba.h"
 #include "support/PantallaAbierta.h"
@@ -52,7 +53,7 @@ static cImOf &peticion()
 }
 
 /// The print options as a user meets them.
-class tst_impreso_pantalla : public QObject
+class TstImpresoPantalla : public QObject
 {
     Q_OBJECT
 
@@ -194,5 +195,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_impreso_pantalla)
+QTEST_MAIN(TstImpresoPantalla)
 #include "tst_impreso_pantalla.moc"

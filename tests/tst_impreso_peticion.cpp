@@ -1,15 +1,13 @@
 #include "core/Textos.h"
 #include "core/cFecha.h"
-#include "printing/Copias.h"
 #include "printing/DocumentoPdf.h"
-#include "printing/FechaPresentacion.h"
 #include "printing/cImOf.h"
 
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
-class tst_impreso_peticion : public QObject
+class TstImpresoPeticion : public QObject
 {
     Q_OBJECT
 
@@ -86,5 +84,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_impreso_peticion)
+QTEST_GUILESS_MAIN(TstImpresoPeticion)
 #include "tst_impreso_peticion.moc"

@@ -1,6 +1,6 @@
 #include "core/CEntrada.h"
-#include "core/Importe.h"
 #include "core/Redondeo.h"
+#include "core/Servicios.h"
 #include "core/Textos.h"
 #include "core/cFecha.h"
 #include "dataservice/ErrorDatos.h"
@@ -10,17 +10,15 @@
 #include "declarants/cDecDatos.h"
 #include "declarants/cDecLista.h"
 #include "declarants/cDecResumen.h"
-#include "declarations/Cambio.h"
+#include "declarations/RegistroDeclaracion.h"
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"
 #include "resources/Mensajes.h"
 #include "support/Entorno.h"
 #include "support/GeneralAveriado.h"
 
-#include <QRandomGenerator>
 #include <QTest>
 
-#include <cmath>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -36,14 +34,32 @@ static void comprobarPropuesta(const cDecResumen &resumen, int propuesta)
     QCOMPARE(resumen.MODELO(), QStringList({{}, u"430"_s, u"480"_s})[clase]);
 }
 
-/// Half away from zero of a whole rate in percent × base / 100, in integers.
-static qint64 cuotaEntera(qint64 tipo, qint64 base)
+/// Lookups in which the rates differ by the month: 20 + month; 26.126 and 7.014 in 2026.
+class TiposCambiantes : public SvrOstr::cDatosGeneral
 {
-    const qint64 producto = tipo * base;
-    return (producto + (producto < 0 ? -50 : 50)) / 100;
-}
+public:
+    void ObtenerTipoAnual(Registro &tipos, qint16 ejercicio) override
+    {
+        tipos = {float(ejercicio - 2000) + 0.126F, 7.014F};
+    }
+    float ObtenerTipoImpositivo(qint16, quint8 periodo) override { return 20.0F + periodo; }
 
-class TestRegistros : public QObject
+    void mdbname(const QString &) override {}
+    qint32 NumeroDeclarantes() override { return 0; }
+    void CambiarIdioma(const QString &) override {}
+    QString ObtenerIdioma() override { return {}; }
+    void GuardarActOnline(qint16) override {}
+    qint16 ObtenerActOnline() override { return 0; }
+    void DameEjerPerMinMax(Registro &) override {}
+    void ObtenerNombreProvincia(const QString &, QString &, qint16) override {}
+    void ObtenerNombreMunicipio(const QString &, QString &) override {}
+    void CargarProvincias(const QString &, Filas &) override {}
+    void CargarMunicipios(const QString &, Filas &) override {}
+    void CargarVias(const QString &, Filas &) override {}
+    QString URLAct() override { return {}; }
+};
+
+class TstRegistros : public QObject
 {
     Q_OBJECT
 
@@ -266,119 +282,98 @@ private Q_SLOTS:
 
     void clases480()
     {
-        QSet<int> posiciones;
         QSet<int> entradas{73, 76, 79, 80};
+        QSet<int> posiciones;
         for (int clase = 0; clase < Reg480::Clases; ++clase)
             for (int columna = 0; columna < 2; ++columna) {
                 posiciones.insert(Reg480::posicion(clase, columna));
-                entradas.insert(Reg480::casilla(clase, columna));
+                entradas.insert(1 + 3 * clase + columna);
             }
         QCOMPARE(posiciones.size(), 46);
-        QCOMPARE(propiedadClase(16, 1), u"C50_OTR"_s);
-        QCOMPARE(controlClase(0, 0), u"txt01vida"_s);
-        QCOMPARE(paginaClase(10), 1);
-        QCOMPARE(paginaClase(11), 2);
-        QCOMPARE(Reg480::posicion(0, 1), 11);
-        QCOMPARE(Reg480::posicion(11, 0), 22);
-        QCOMPARE(Reg480::posicion(22, 1), 45);
         for (int numero = -1; numero <= 100; ++numero) {
-            const auto uso = numero < 1 || numero > 81 ? UsoCasilla::Desconocida
-                : entradas.contains(numero)            ? UsoCasilla::Entrada
-                                                       : UsoCasilla::Calculada;
-            QVERIFY2(usoCasilla(numero) == uso, qPrintable(QString::number(numero)));
+            const auto casilla = casillaEntrada(numero);
+            QCOMPARE(casilla.has_value(), entradas.contains(numero));
+            if (casilla)
+                QCOMPARE(int(*casilla), numero);
         }
+        QCOMPARE(numeroCasilla(Casilla480::C01_VIDA), u"01"_s);
+        QCOMPARE(controlCasilla(Casilla480::C50_OTR), u"txt50otr"_s);
+        QCOMPARE(controlCasilla(Casilla480::C73_BA1), u"txt73ba1"_s);
     }
 
-    /// Thousands of random returns of both models against integer arithmetic.
-    void calculos480()
-    {
-        QRandomGenerator azar(480);
-        const auto importe = [&] {
-            const auto n = static_cast<qint64>(azar.generate64() % 20'000'000'000'000ULL);
-            return (n - 10'000'000'000'000) >> azar.bounded(40);
-        };
-        for (int vez = 0; vez < 3000; ++vez) {
-            cDatos480 d;
-            const int tipo1 = azar.bounded(1, 20);
-            const int tipo2 = azar.bounded(0, 20);
-            d.C74_TI1(static_cast<float>(tipo1));
-            d.C77_TI2(static_cast<float>(tipo2));
-            qint64 sumas[2] = {0, 0};
-            for (int clase = 0; clase < Reg480::Clases; ++clase)
-                for (int columna = 0; columna < 2; ++columna) {
-                    const qint64 n = importe();
-                    sumas[columna] += n;
-                    d.casilla(Reg480::casilla(clase, columna), static_cast<double>(n));
-                }
-            const qint64 banda1 = importe();
-            const qint64 banda2 = sumas[0] - banda1;
-            const qint64 cuota3 = importe();
-            d.casilla(73, static_cast<double>(banda1));
-            d.casilla(76, static_cast<double>(banda2));
-            d.casilla(80, static_cast<double>(cuota3));
-            d.CalcularValores();
-            const qint64 cuota1 = cuotaEntera(tipo1, banda1);
-            const qint64 cuota2 = cuotaEntera(tipo2, banda2);
-            QCOMPARE(qint64(d.casilla(70)), sumas[0]);
-            QCOMPARE(qint64(d.casilla(71)), sumas[1]);
-            QCOMPARE(qint64(d.casilla(75)), cuota1);
-            QCOMPARE(qint64(d.casilla(78)), cuota2);
-            QCOMPARE(qint64(d.casilla(81)), cuota1 + cuota2 + cuota3);
-            QCOMPARE(d.DiferenciaBases(), 0.0);
-
-            cDatos430 mensual;
-            mensual.TIPOLIQ(static_cast<float>(tipo1));
-            mensual.BASELIQ(static_cast<double>(banda1));
-            mensual.BASEREC(static_cast<double>(banda2));
-            mensual.CUOTAREC(static_cast<double>(cuota3));
-            mensual.CalcularValores();
-            QCOMPARE(qint64(mensual.CUOTALIQ()), cuota1);
-            QCOMPARE(qint64(mensual.BASETOT()), banda1 + banda2);
-            QCOMPARE(qint64(mensual.CUOTATOT()), cuota1 + cuota3);
-        }
-    }
-
+    /// Every computed box refuses the change by which it would no longer fit, either sign.
     void noCabe()
     {
-        cDatos430 mensual;
-        mensual.BASELIQ(ImporteMaximo);
-        QVERIFY(!cambiarSiCabe(mensual, [](cDatos430 &d) { d.BASEREC(1); }));
-        QCOMPARE(mensual.BASEREC(), 0.0);
-        QVERIFY(cambiarSiCabe(mensual, [](cDatos430 &d) { d.BASEREC(-1); }));
-        QVERIFY(mensual.BASETOT() == ImporteMaximo - 1); // exactly, which QCOMPARE is not
-
-        cDatos480 anual;
-        anual.casilla(2, -ImporteMaximo);
-        QVERIFY(!cambiarSiCabe(anual, [](cDatos480 &d) { d.casilla(68, -1); }));
-        QCOMPARE(anual.casilla(68), 0.0);
-        QVERIFY(cambiarSiCabe(anual, [](cDatos480 &d) { d.casilla(68, 1); }));
-        QVERIFY(anual.casilla(71) == -ImporteMaximo + 1);
+        using Mensual = cDatos430;
+        for (const auto &[llenar, pasar] :
+             {std::pair<void (*)(Mensual &), void (*)(Mensual &, double)>{
+                  [](Mensual &d) { d.BASELIQ(ImporteMaximo); },
+                  [](Mensual &d, double c) { d.BASEREC(c); }},
+              {[](Mensual &d) { d.CUOTAREC(ImporteMaximo); },
+               [](Mensual &d, double c) { d.BASELIQ(c * 20); }}}) {
+            cDatos430 d;
+            d.TIPOLIQ(5);
+            llenar(d);
+            const Registro antes = d.RegistroGuardar();
+            QVERIFY(!cambiarSiCabe(d, [&](Mensual &r) { pasar(r, 1); }));
+            QCOMPARE(d.RegistroGuardar(), antes);
+            QVERIFY(cambiarSiCabe(d, [&](Mensual &r) { pasar(r, -1); }));
+            QVERIFY(d.RegistroGuardar() != antes);
+        }
+        using enum Casilla480;
+        for (const auto &[llena, otra] : {std::pair{C01_VIDA, C67_DEC}, {C02_VIDA, C68_DEC}})
+            for (const int signo : {1, -1}) {
+                cDatos480 d;
+                d.casilla(llena, signo * ImporteMaximo);
+                QVERIFY(!cambiarSiCabe(d, [&](cDatos480 &r) { r.casilla(otra, signo); }));
+                QCOMPARE(d.casilla(otra), 0.0);
+                QVERIFY(cambiarSiCabe(d, [&](cDatos480 &r) { r.casilla(otra, -signo); }));
+                QVERIFY(d.casilla(llena == C01_VIDA ? C70_TOT : C71_TOT) // exactly
+                        == signo * (ImporteMaximo - 1));
+            }
+        // the quotas of a rate above 100, and the result
+        cDatos480 d;
+        d.C74_TI1(200);
+        d.C77_TI2(200);
+        for (const Casilla480 base : {C73_BA1, C76_BA2})
+            QVERIFY(!cambiarSiCabe(d, [&](cDatos480 &r) { r.casilla(base, ImporteMaximo); }));
+        d.casilla(C80_CU3, ImporteMaximo);
+        QVERIFY(!cambiarSiCabe(d, [&](cDatos480 &r) { r.casilla(C73_BA1, 1); }));
     }
 
-    void validacionFiguras()
+    /// The month decides a 430's rate, the year both of a 480's.
+    void tipos()
     {
-        cDatos430 d;
-        const auto codigo = [&] { return int(d.ValidarDatos430(d.RegistroValidar())); };
-        QCOMPARE(codigo(), 0);
-        d.MarcarRectificacion(true);
-        QCOMPARE(codigo(), 1);
-        d.BASEREC(100);
-        QCOMPARE(codigo(), 2);
-        d.CUOTAREC(-6);
-        QCOMPARE(codigo(), 0);
-        d.MarcarRectificacion(false);
-        QCOMPARE(d.RECTIFICA(), QString());
-        QCOMPARE(d.BASEREC() + d.CUOTAREC(), 0.0);
-
+        servicio::registrar(TiposCambiantes::ID,
+                            [] { return std::make_unique<TiposCambiantes>(); });
+        auto &resumen = unico::la<cDecResumen>();
+        resumen.EJERCICIO(2026);
+        resumen.CambiarModelo(u"430"_s);
+        for (const quint8 mes : QList<quint8>{1, 7}) {
+            resumen.PERIODO(mes);
+            cDatos430 mensual;
+            mensual.BASELIQ(5);
+            mensual.CSDE(5);
+            mensual.MODO(u"C"_s);
+            QCOMPARE(mensual.CSDE(), 5);
+            mensual.MODO(u"A"_s);
+            QCOMPARE(mensual.RegistroGuardar().mid(RegGuardar::Figuras),
+                     (Registro{QString(), 0.0, float(20 + mes), 0.0, 0.0, 0.0, 0.0, float(20 + mes),
+                               0.0}));
+            QCOMPARE(mensual.CSDE(), 0);
+        }
         cDatos480 anual;
-        anual.casilla(67, 1000);
-        anual.CalcularValores();
-        QCOMPARE(anual.ValidarDatos480(anual.RegistroValidar()), qint16(2));
-        anual.casilla(73, 1500);
-        anual.casilla(76, -500);
-        QCOMPARE(anual.ValidarDatos480(anual.RegistroValidar()), qint16(0));
+        anual.casilla(Casilla480::C01_VIDA, 5);
+        anual.CSDE(5);
+        anual.MODO(u"A"_s);
+        Registro esperado(Reg480::Total, 0.0);
+        esperado[50] = 26.13F;
+        esperado[51] = 7.01F;
+        QCOMPARE(anual.RegistroGuardar().mid(RegGuardar::Figuras), esperado);
+        QVERIFY(anual.MODIFICADO() && anual.CSDE() == 0);
     }
 
+    /// Nine and 56 different figures through the record, the service and another record.
     void declaracionesIdaYVuelta()
     {
         const qint32 csco = Entorno::altaDeclarante();
@@ -386,48 +381,67 @@ private Q_SLOTS:
         auto &resumen = unico::la<cDecResumen>();
         resumen.PERIODO(2);
         cDatos430 mensual;
-        mensual.MODO(u"A"_s);
-        QCOMPARE(mensual.TIPOLIQ(), 8.0F);
-        QCOMPARE(mensual.TIPOTOT(), 8.0F);
-        mensual.MarcarRectificacion(true);
-        mensual.BASELIQ(123456);
-        mensual.BASEREC(-100);
-        mensual.CUOTAREC(7);
-        mensual.CalcularValores();
+        mensual.RECTIFICA(u"X"_s);
+        mensual.BASELIQ(11.4);
+        mensual.TIPOLIQ(6.014F);
+        mensual.CUOTALIQ(-22.5);
+        mensual.BASEREC(33.49);
+        mensual.CUOTAREC(44.5);
+        mensual.BASETOT(-55.6);
+        mensual.TIPOTOT(7.156F);
+        mensual.CUOTATOT(66.7);
+        const Registro figuras430{u"X"_s, 11.0, 6.01F, -23.0, 33.0, 45.0, -56.0, 7.16F, 67.0};
+        QCOMPARE(mensual.RegistroGuardar(),
+                 (Registro{0, csco, qint16(2026), quint8(1), quint8(2), u"430"_s, quint8(1)}
+                  + figuras430));
         const qint32 clave = mensual.GuardarDeclaracion(mensual.RegistroGuardar());
-        QVERIFY(clave > 0);
+        Registro guardado;
+        qint32 csde = clave;
+        servicioDeclaracion()->Cargar430(csde, guardado);
+        QCOMPARE(guardado, figuras430);
         cDatos430 leida;
         leida.CargarDeclaracion(clave);
         QCOMPARE(leida.RegistroGuardar(), mensual.RegistroGuardar());
-        leida.CSDE(clave);
-        leida.MODO(u"A"_s);
         QCOMPARE(leida.CSDE(), 0);
-        QCOMPARE(leida.BASELIQ() + leida.CUOTATOT() + leida.BASETOT(), 0.0);
 
         Filas mensuales;
         cDatos480 anual;
         QVERIFY(anual.NumDecl430(mensuales));
         QCOMPARE(mensuales.size(), 2);
-        resumen.CambiarModelo(u"480"_s);
-        anual.MODO(u"A"_s);
-        QCOMPARE(anual.C74_TI1(), 8.0F);
-        QCOMPARE(anual.C77_TI2(), 0.0F);
-        for (int numero = 1; numero <= 81; ++numero)
-            if (usoCasilla(numero) == UsoCasilla::Entrada)
-                anual.casilla(numero, numero * 101);
-        anual.CalcularValores();
-        const qint32 claveAnual = anual.GuardarDeclaracion(anual.RegistroGuardar());
-        QVERIFY(claveAnual > 0);
-        cDatos480 releida;
-        releida.CargarDeclaracion(claveAnual);
-        QCOMPARE(releida.RegistroGuardar(), anual.RegistroGuardar());
         resumen.EJERCICIO(2025);
         QVERIFY(!anual.NumDecl430(mensuales));
+        resumen.CambiarModelo(u"480"_s);
+        // the service's order, by the numbers of the form
+        const QList<int> orden{1,  4,  7,  10, 13, 16, 19, 22, 25, 28, 31, 2,  5,  8,
+                               11, 14, 17, 20, 23, 26, 29, 32, 34, 37, 40, 43, 46, 49,
+                               52, 55, 58, 61, 64, 67, 35, 38, 41, 44, 47, 50, 53, 56,
+                               59, 62, 65, 68, 70, 73, 76, 79, 74, 77, 75, 78, 80, 81};
+        Registro figuras480;
+        double columna2 = 0;
+        for (const int numero : orden) {
+            if (numero == 74 || numero == 77) {
+                figuras480 += float(numero) / 10;
+                continue;
+            }
+            figuras480 += numero * 101.0;
+            anual.casilla(static_cast<Casilla480>(numero), numero * 101 + 0.4);
+            columna2 += numero < 70 && numero % 3 == 2 ? numero * 101 : 0;
+        }
+        anual.C74_TI1(7.4F);
+        anual.C77_TI2(7.7F);
+        QCOMPARE(anual.RegistroGuardar().mid(RegGuardar::Figuras), figuras480);
+        csde = anual.GuardarDeclaracion(anual.RegistroGuardar());
+        servicioDeclaracion()->Cargar480(csde, guardado);
+        QCOMPARE(guardado, figuras480);
+        cDatos480 releida;
+        releida.CargarDeclaracion(csde);
+        QCOMPARE(releida.RegistroGuardar(), anual.RegistroGuardar());
+        QCOMPARE(releida.casilla(Casilla480::C71_TOT), columna2);
     }
 
 private:
     std::optional<Entorno> m_entorno;
 };
 
-QTEST_GUILESS_MAIN(TestRegistros)
+QTEST_GUILESS_MAIN(TstRegistros)
 #include "tst_registros.moc"

@@ -7,8 +7,7 @@
 #include "declarants/cDecResumen.h"
 #include "declarants/frmDecDatos.h"
 #include "declarations/FrmDatos430.h"
-#include "declarations/FrmDatos480a.h"
-#include "declarations/FrmDatos480b.h"
+#include "declarations/FrmDatos480ab.h"
 #include "declarations/FrmDatos480c.h"
 #include "printing/FrmImOf.h"
 

@@ -2,7 +2,7 @@
 #include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
-#include "declarations/Cambio.h"
+#include "declarations/RegistroDeclaracion.h"
 #include "declarations/cDatos430.h"
 
 using namespace Qt::StringLiterals;

@@ -2,7 +2,7 @@
 #include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
-#include "declarations/Cambio.h"
+#include "declarations/RegistroDeclaracion.h"
 #include "declarations/cDatos480.h"
 
 #include <QRegularExpression>
@@ -20,14 +20,11 @@ static std::optional<Resultado> tomar(const QString &texto, QSet<int> &dadas)
 
     const int numero = partes.captured(1).toInt();
     const QString nombre = QString::number(numero).rightJustified(2, u'0');
-    switch (usoCasilla(numero)) {
-    case UsoCasilla::Desconocida:
-        return rechazado(msj(Msj::CliCasillaDesconocida, nombre));
-    case UsoCasilla::Calculada:
-        return rechazado(msj(Msj::CliCasillaCalculada, nombre));
-    case UsoCasilla::Entrada:
-        break;
-    }
+    const auto casilla = casillaEntrada(numero);
+    if (!casilla)
+        return rechazado(msj(numero < 1 || numero > UltimaCasilla480 ? Msj::CliCasillaDesconocida
+                                                                     : Msj::CliCasillaCalculada,
+                             nombre));
     if (dadas.contains(numero))
         return rechazado(msj(Msj::CliCasillaRepetida, nombre));
     dadas.insert(numero);
@@ -36,7 +33,7 @@ static std::optional<Resultado> tomar(const QString &texto, QSet<int> &dadas)
     if (!importe.motivo.isEmpty())
         return rechazado(msj(Msj::CliCasillaMal, nombre, importe.motivo));
     if (!cambiarSiCabe(unico::la<cDatos480>(),
-                       [&](cDatos480 &registro) { registro.casilla(numero, importe.centimos); }))
+                       [&](cDatos480 &registro) { registro.casilla(*casilla, importe.centimos); }))
         return rechazado(
             msj(Msj::CliCasillaMal, nombre, msj(Msj::ImporteTotalExcedido, msj(Msj::Totales))));
     return {};

@@ -6,7 +6,6 @@
 #include "core/cFecha.h"
 #include "declarants/cDecResumen.h"
 #include "printing/DocumentoPdf.h"
-#include "printing/FechaPresentacion.h"
 #include "printing/SalidaImpresora.h"
 #include "printing/TrabajoImpresion.h"
 #include "printing/cImOf.h"

@@ -1,36 +1,28 @@
 #include "declarations/Clases480.h"
 
+#include <QMetaEnum>
+
 using namespace Qt::StringLiterals;
 
-static QString numeroCasilla(int clase, int columna)
+/// "C01_VIDA"; null when no amount box has the number.
+static const char *nombre(int numero)
 {
-    return QString::number(Reg480::casilla(clase, columna)).rightJustified(2, u'0');
+    return QMetaEnum::fromType<Casilla480>().valueToKey(numero);
 }
 
-static QString sufijo(int clase)
+QString numeroCasilla(Casilla480 casilla)
 {
-    return Clases480.at(static_cast<size_t>(clase)).sufijo.toString();
+    return QString::number(static_cast<int>(casilla)).rightJustified(2, u'0');
 }
 
-QString propiedadClase(int clase, int columna)
+QString controlCasilla(Casilla480 casilla)
 {
-    return u'C' + numeroCasilla(clase, columna) + u'_' + sufijo(clase);
+    const QString propiedad = QString::fromLatin1(nombre(static_cast<int>(casilla)));
+    return u"txt"_s + propiedad.mid(1).remove(u'_').toLower();
 }
 
-QString controlClase(int clase, int columna)
+std::optional<Casilla480> casillaEntrada(int numero)
 {
-    return u"txt"_s + numeroCasilla(clase, columna) + sufijo(clase).toLower();
-}
-
-UsoCasilla usoCasilla(int numero)
-{
-    using namespace Casilla480;
-    if (numero < 1 || numero > Ultima)
-        return UsoCasilla::Desconocida;
-    // every third box up to 72 is a row total of the printed form
-    if (numero < C70_TOT)
-        return numero % 3 == 0 ? UsoCasilla::Calculada : UsoCasilla::Entrada;
-    const bool entrada
-        = numero == C73_BA1 || numero == C76_BA2 || numero == C79_BA3 || numero == C80_CU3;
-    return entrada ? UsoCasilla::Entrada : UsoCasilla::Calculada;
+    const auto casilla = static_cast<Casilla480>(numero);
+    return nombre(numero) && seRellena(casilla) ? std::optional(casilla) : std::nullopt;
 }

@@ -50,11 +50,11 @@ void FrmDatos430::crearCajas()
     auto &r = registro();
     m_lineas[LIQUIDACION]
         = {new QLabel(this), cajaEntrada(u"txtbliq"_s, r, [](auto &d, double c) { d.BASELIQ(c); }),
-           cajaCalculada(u"txttliq"_s), cajaCalculada(u"txtcliq"_s)};
+           cajaTipo(u"txttliq"_s), cajaCalculada(u"txtcliq"_s)};
     m_lineas[RECTIFICACION]
         = {new QLabel(this), cajaEntrada(u"txtbrect"_s, r, [](auto &d, double c) { d.BASEREC(c); }),
            nullptr, cajaEntrada(u"txtcrect"_s, r, [](auto &d, double c) { d.CUOTAREC(c); })};
-    m_lineas[TOTAL] = {new QLabel(this), cajaCalculada(u"txtbtot"_s), cajaCalculada(u"txtttot"_s),
+    m_lineas[TOTAL] = {new QLabel(this), cajaCalculada(u"txtbtot"_s), cajaTipo(u"txtttot"_s),
                        cajaCalculada(u"txtctot"_s)};
 }
 
@@ -75,10 +75,8 @@ void FrmDatos430::disponer()
         const int fila = i == LIQUIDACION ? 1 : i + 2;
         rejilla->addWidget(linea.titulo, fila, 0);
         rejilla->addWidget(linea.base, fila, 1);
-        if (linea.tipo) {
-            linea.tipo->setFixedWidth(linea.tipo->fontMetrics().horizontalAdvance(u"000,00 %"_s));
+        if (linea.tipo)
             rejilla->addWidget(linea.tipo, fila, 2);
-        }
         rejilla->addWidget(linea.cuota, fila, 3);
     }
     rejilla->addWidget(m_chkrect, 2, 0, 1, 4);

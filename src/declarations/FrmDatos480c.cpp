@@ -13,30 +13,39 @@
 
 using namespace Qt::StringLiterals;
 
-using namespace Casilla480;
+using enum Casilla480;
 
-/// The boxes of the page in reading order: number, name, grid row and column, line and column
-/// texts.
+/// The amount boxes of the page in reading order: grid row and column, line and column texts.
 struct LugarCasilla
 {
-    int numero;
-    QStringView control;
+    Casilla480 casilla;
     int fila, columna;
     Msj linea, titulo;
 };
 
 static constexpr LugarCasilla Lugares[] = {
-    {C70_TOT, u"txt70tot", 1, 0, Msj::Totales, Msj::NoExento},
-    {C71_TOT, u"txt71tot", 1, 2, Msj::Totales, Msj::Exento},
-    {C73_BA1, u"txt73ba1", 3, 0, Msj::OperacionesSujetas, Msj::BaseImponible},
-    {C74_TI1, u"txt74ti1", 3, 1, Msj::OperacionesSujetas, Msj::Tipo},
-    {C75_CU1, u"txt75cu1", 3, 2, Msj::OperacionesSujetas, Msj::Cuota},
-    {C76_BA2, u"txt76ba2", 4, 0, Msj::OperacionesSujetas, Msj::BaseImponible},
-    {C77_TI2, u"txt77ti2", 4, 1, Msj::OperacionesSujetas, Msj::Tipo},
-    {C78_CU2, u"txt78cu2", 4, 2, Msj::OperacionesSujetas, Msj::Cuota},
-    {C79_BA3, u"txt79ba3", 5, 0, Msj::RectificacionEjercicios, Msj::BaseImponible},
-    {C80_CU3, u"txt80cu3", 5, 2, Msj::RectificacionEjercicios, Msj::Cuota},
-    {C81_RES, u"txt81res", 6, 2, Msj::ResultadoAnual, Msj::Cuota},
+    {C70_TOT, 1, 0, Msj::Totales, Msj::NoExento},
+    {C71_TOT, 1, 2, Msj::Totales, Msj::Exento},
+    {C73_BA1, 3, 0, Msj::OperacionesSujetas, Msj::BaseImponible},
+    {C75_CU1, 3, 2, Msj::OperacionesSujetas, Msj::Cuota},
+    {C76_BA2, 4, 0, Msj::OperacionesSujetas, Msj::BaseImponible},
+    {C78_CU2, 4, 2, Msj::OperacionesSujetas, Msj::Cuota},
+    {C79_BA3, 5, 0, Msj::RectificacionEjercicios, Msj::BaseImponible},
+    {C80_CU3, 5, 2, Msj::RectificacionEjercicios, Msj::Cuota},
+    {C81_RES, 6, 2, Msj::ResultadoAnual, Msj::Cuota},
+};
+
+/// The rates of both bands.
+struct LugarTipo
+{
+    QStringView numero, control;
+    int fila;
+    float (cDatos480::*valor)() const;
+};
+
+static constexpr LugarTipo LugaresTipo[] = {
+    {u"74", u"txt74ti1", 3, &cDatos480::C74_TI1},
+    {u"77", u"txt77ti2", 4, &cDatos480::C77_TI2},
 };
 
 FrmDatos480c::FrmDatos480c(QWidget *padre)
@@ -76,23 +85,18 @@ void FrmDatos480c::disponer(QGridLayout *rejilla)
     etiqueta(Msj::OperacionesSujetas, 3, 0, Qt::AlignLeft);
     etiqueta(Msj::RectificacionEjercicios, 5, 0, Qt::AlignLeft);
     etiqueta(Msj::ResultadoAnual, 6, 0, Qt::AlignLeft);
-    for (const auto &[numero, control, fila, columna, linea, titulo] : Lugares) {
-        auto *caja = usoCasilla(numero) == UsoCasilla::Entrada
-            ? cajaNumero(control.toString(), numero)
-            : cajaCalculada(control.toString());
-        if (columna == 1)
-            caja->setFixedWidth(caja->fontMetrics().horizontalAdvance(u"000,00 %"_s));
-        auto *etiquetaNumero = new QLabel(QString::number(numero), this);
-        etiquetaNumero->setEnabled(false);
-        rejilla->addWidget(etiquetaNumero, fila, 1 + 2 * columna, Qt::AlignRight);
-        rejilla->addWidget(caja, fila, 2 + 2 * columna);
-        m_casillas.append({numero, caja});
+    for (const auto &lugar : Lugares)
+        m_casillas.append(
+            {lugar.casilla, ponerCasilla(rejilla, lugar.casilla, lugar.fila, lugar.columna)});
+    for (const auto &lugar : LugaresTipo) {
+        m_tipos.append(cajaTipo(lugar.control.toString()));
+        ponerNumerada(rejilla, lugar.numero.toString(), m_tipos.last(), lugar.fila, 1);
     }
 }
 
-CajaImporte *FrmDatos480c::caja(int numero) const
+CajaImporte *FrmDatos480c::caja(Casilla480 cual) const
 {
-    const auto hallada = std::ranges::find(m_casillas, numero, &Casilla::numero);
+    const auto hallada = std::ranges::find(m_casillas, cual, &Casilla::cual);
     return hallada->caja;
 }
 
@@ -101,22 +105,23 @@ void FrmDatos480c::Anadir_captions()
     Pantalla480::Anadir_captions();
     for (const auto &[etiqueta, texto] : std::as_const(m_etiquetas))
         etiqueta->setText(msj(texto));
+    const auto nombrar = [](QWidget *caja, Msj linea, Msj columna, const QString &numero) {
+        caja->setAccessibleName(msj(linea) + u": "_s + msj(columna) + u" ("_s + numero + u')');
+    };
     for (const auto &lugar : Lugares)
-        caja(lugar.numero)
-            ->setAccessibleName(msj(lugar.linea) + u": "_s + msj(lugar.titulo) + u" ("_s
-                                + QString::number(lugar.numero) + u')');
+        nombrar(caja(lugar.casilla), lugar.linea, lugar.titulo, numeroCasilla(lugar.casilla));
+    for (qsizetype i = 0; const auto &lugar : LugaresTipo)
+        nombrar(m_tipos[i++], Msj::OperacionesSujetas, Msj::Tipo, lugar.numero.toString());
     m_mensuales->Anadir_captions();
 }
 
 void FrmDatos480c::PresentaDatos()
 {
     const auto &r = registro();
-    for (const auto &[numero, caja] : std::as_const(m_casillas)) {
-        if (numero == C74_TI1 || numero == C77_TI2)
-            caja->mostrar(textoTipo(numero == C74_TI1 ? r.C74_TI1() : r.C77_TI2()));
-        else
-            caja->mostrarImporte(r.casilla(numero));
-    }
+    for (const auto &[cual, caja] : std::as_const(m_casillas))
+        caja->mostrarImporte(r.casilla(cual));
+    for (qsizetype i = 0; const auto &lugar : LugaresTipo)
+        m_tipos[i++]->mostrar(textoTipo((r.*lugar.valor)()));
     const double diferencia = r.DiferenciaBases();
     m_lblDiferencia->setText(
         diferencia == 0 ? QString() : msj(Msj::DiferenciaCaja70, textoImporte(diferencia)));

@@ -3,7 +3,6 @@
 #include "declarations/Pantalla480.h"
 
 class PanelMensuales;
-class QGridLayout;
 class QLabel;
 
 /// Third page of a 480: totals, annual liquidation and the exercise's monthly returns; saves.
@@ -23,17 +22,18 @@ protected:
 private:
     struct Casilla
     {
-        int numero;
+        Casilla480 cual;
         CajaImporte *caja;
     };
 
     void disponer(QGridLayout *rejilla);
-    CajaImporte *caja(int numero) const;
+    CajaImporte *caja(Casilla480 cual) const;
     bool ValidarCampos();
     qint32 GuardarDeclaracion();
     void aceptar();
 
     QList<Casilla> m_casillas;
+    QList<CajaImporte *> m_tipos;
     QList<std::pair<QLabel *, Msj>> m_etiquetas;
     QLabel *m_lblDiferencia;
     PanelMensuales *m_mensuales;

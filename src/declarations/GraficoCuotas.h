@@ -1,6 +1,6 @@
 #pragma once
 
-#include "declarations/Mensuales430.h"
+#include "declarations/cDatos480.h"
 
 #include <QWidget>
 

@@ -6,7 +6,6 @@
 #include "core/Unico.h"
 #include "declarants/cDecResumen.h"
 #include "declarations/GraficoCuotas.h"
-#include "declarations/cDatos480.h"
 
 #include <QGridLayout>
 #include <QHeaderView>
@@ -68,7 +67,7 @@ PanelMensuales::PanelMensuales(QWidget *padre)
 
 void PanelMensuales::cargar(const cDatos480 &registro)
 {
-    m_anno = cargarMensuales(registro);
+    m_anno = registro.CargarMensuales();
     for (QWidget *parte : QList<QWidget *>{m_lst430, m_lblTotales, m_grafico})
         parte->setVisible(m_anno.has_value());
     m_lblNo430->setVisible(!m_anno);

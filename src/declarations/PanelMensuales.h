@@ -1,13 +1,12 @@
 #pragma once
 
-#include "declarations/Mensuales430.h"
+#include "declarations/cDatos480.h"
 
 #include <QWidget>
 
 class GraficoCuotas;
 class QLabel;
 class QTreeWidget;
-class cDatos480;
 
 /// The exercise's monthly 430 returns: a list by month, the year's totals under it, and a picture
 /// of the quotas beside it; or a line that says that there are none.

@@ -4,6 +4,8 @@
 #include "core/Unico.h"
 #include "declarations/cDatos480.h"
 
+#include <QGridLayout>
+#include <QLabel>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -32,12 +34,29 @@ cDatos480 &Pantalla480::registro()
     return unico::la<cDatos480>();
 }
 
-CajaImporte *Pantalla480::cajaNumero(const QString &nombre, int numero)
+CajaImporte *Pantalla480::ponerCasilla(QGridLayout *rejilla, Casilla480 casilla, int fila,
+                                       int columna)
 {
-    return cajaEntrada(nombre, registro(), [numero](cDatos480 &r, double centimos) {
-        r.casilla(numero, centimos);
-        r.MODIFICADO(true);
-    });
+    const QString nombre = controlCasilla(casilla);
+    auto *caja = seRellena(casilla) ? cajaEntrada(nombre, registro(),
+                                                  [casilla](cDatos480 &r, double centimos) {
+                                                      r.casilla(casilla, centimos);
+                                                      r.MODIFICADO(true);
+                                                  })
+                                    : cajaCalculada(nombre);
+    ponerNumerada(rejilla, numeroCasilla(casilla), caja, fila, columna);
+    return caja;
+}
+
+void Pantalla480::ponerNumerada(QGridLayout *rejilla, const QString &numero, QWidget *caja,
+                                int fila, int columna)
+{
+    auto *etiqueta = new QLabel(numero, this);
+    QFont menor = etiqueta->font();
+    menor.setPointSizeF(menor.pointSizeF() * 0.85);
+    etiqueta->setFont(menor);
+    rejilla->addWidget(etiqueta, fila, 1 + 2 * columna, Qt::AlignRight | Qt::AlignVCenter);
+    rejilla->addWidget(caja, fila, 2 + 2 * columna);
 }
 
 void Pantalla480::Anadir_captions()

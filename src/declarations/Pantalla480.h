@@ -1,12 +1,12 @@
 #pragma once
 
+#include "declarations/Clases480.h"
 #include "declarations/PantallaDeclaracion.h"
 
-#include <Msj.h>
-
+class QGridLayout;
 class cDatos480;
 
-/// One of the three pages of a 480: buttons to the pages beside it, boxes by their numbers.
+/// One of the three pages of a 480: buttons to the pages beside it, numbered boxes.
 class Pantalla480 : public PantallaDeclaracion
 {
     Q_OBJECT
@@ -19,8 +19,11 @@ protected:
 
     static cDatos480 &registro();
 
-    /// The box `numero` as one to fill in; its change marks the record as modified.
-    CajaImporte *cajaNumero(const QString &nombre, int numero);
+    /// Adds a box with its number in front of it. One to fill in marks the record as modified.
+    CajaImporte *ponerCasilla(QGridLayout *rejilla, Casilla480 casilla, int fila, int columna);
+    /// The same for the number and a box of any kind.
+    void ponerNumerada(QGridLayout *rejilla, const QString &numero, QWidget *caja, int fila,
+                       int columna);
     void Anadir_captions() override;
     qint32 csdeRegistro() const override;
 

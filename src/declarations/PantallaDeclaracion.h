@@ -1,11 +1,10 @@
 #pragma once
 
-#include "declarations/Cambio.h"
+#include "declarations/RegistroDeclaracion.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/CajaImporte.h"
 #include "widgets/PantallaBase.h"
 
-class CabeceraDeclaracion;
 class QVBoxLayout;
 
 /// What the entry screens of both models share: head, foot, amount boxes that change a record, and
@@ -40,8 +39,9 @@ protected:
         };
         return caja;
     }
-    /// A box that only shows a computed value.
+    /// A box that only shows a computed value, and one that shows a rate.
     CajaImporte *cajaCalculada(const QString &nombre);
+    CajaImporte *cajaTipo(const QString &nombre);
 
     void cerrarComoCancelar();
     /// What a save leaves in the summary's header: the new return's key when there was none before.
@@ -52,7 +52,9 @@ protected:
     BarraBotones *m_botones;
 
 private:
+    class Cabecera;
+
     bool tomar(const std::function<bool()> &cambio);
 
-    CabeceraDeclaracion *m_cabecera;
+    Cabecera *m_cabecera;
 };

@@ -3,8 +3,7 @@
 #include "core/Redondeo.h"
 #include "core/Servicios.h"
 #include "core/Unico.h"
-#include "declarants/cDecResumen.h"
-#include "declarations/Cabecera.h"
+#include "declarations/RegistroDeclaracion.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,16 +3,28 @@
 #include "core/Redondeo.h"
 #include "core/Servicios.h"
 #include "core/Unico.h"
-#include "declarants/cDecResumen.h"
-#include "declarations/Cabecera.h"
+#include "declarations/RegistroDeclaracion.h"
 
 #include <algorithm>
 
-using namespace Casilla480;
+using enum Casilla480;
 
-/// The boxes that follow the class boxes in the service's record; rates (74, 77) go apart.
-static constexpr int CasillasFinales[]
-    = {C70_TOT, C73_BA1, C76_BA2, C79_BA3, C74_TI1, C77_TI2, C75_CU1, C78_CU2, C80_CU3, C81_RES};
+/// Where the boxes that follow the class boxes stand in the service's record.
+static constexpr std::pair<Reg480::Campo, Casilla480> CasillasFinales[] = {
+    {Reg480::C70_TOT, C70_TOT}, {Reg480::C73_BA1, C73_BA1}, {Reg480::C76_BA2, C76_BA2},
+    {Reg480::C79_BA3, C79_BA3}, {Reg480::C75_CU1, C75_CU1}, {Reg480::C78_CU2, C78_CU2},
+    {Reg480::C80_CU3, C80_CU3}, {Reg480::C81_RES, C81_RES},
+};
+
+/// Calls `accion` with every box of the service's record and its place there.
+template <class Accion> static void paraCadaCasilla(Accion accion)
+{
+    for (int clase = 0; clase < Reg480::Clases; ++clase)
+        for (int columna = 0; columna < 2; ++columna)
+            accion(Reg480::posicion(clase, columna), clase480(clase).casilla(columna));
+    for (const auto &[posicion, casilla] : CasillasFinales)
+        accion(posicion, casilla);
+}
 
 void cDatos480::MODO(const QString &modo)
 {
@@ -28,9 +40,9 @@ void cDatos480::MODO(const QString &modo)
     m_modo = modo;
 }
 
-void cDatos480::casilla(int numero, double centimos)
+void cDatos480::casilla(Casilla480 cual, double centimos)
 {
-    en(numero) = redondear(centimos, 0);
+    en(cual) = redondear(centimos, 0);
 }
 
 void cDatos480::C74_TI1(float tipo)
@@ -47,12 +59,8 @@ void cDatos480::CargarDeclaracion(qint32 codigo)
 {
     Registro r;
     servicioDeclaracion()->Cargar480(codigo, r);
-    for (int clase = 0; clase < Reg480::Clases; ++clase)
-        for (int columna = 0; columna < 2; ++columna)
-            en(Reg480::casilla(clase, columna))
-                = r.value(Reg480::posicion(clase, columna)).toDouble();
-    for (int i = 0; const int numero : CasillasFinales)
-        en(numero) = r.value(Reg480::C70_TOT + i++).toDouble();
+    paraCadaCasilla(
+        [&](int posicion, Casilla480 casilla) { en(casilla) = r.value(posicion).toDouble(); });
     m.tipo1 = r.value(Reg480::C74_TI1).toFloat();
     m.tipo2 = r.value(Reg480::C77_TI2).toFloat();
     casilla(C71_TOT, CalcularC71());
@@ -71,8 +79,8 @@ qint32 cDatos480::GuardarDeclaracion(const Registro &datos) const
 double cDatos480::sumaColumna(int columna) const
 {
     double suma = 0;
-    for (int clase = 0; clase < Reg480::Clases; ++clase)
-        suma += casilla(Reg480::casilla(clase, columna));
+    for (const Clase480 &clase : Clases480)
+        suma += casilla(clase.casilla(columna));
     return suma;
 }
 
@@ -101,6 +109,29 @@ bool cDatos480::NumDecl430(Filas &lista) const
     return servicioDeclarante()->ObtListDecl430(lista, cabecera.EJERCICIO(), cabecera.CSCO());
 }
 
+std::optional<Mensuales430> cDatos480::CargarMensuales() const
+{
+    Filas lista;
+    if (!NumDecl430(lista))
+        return {};
+    Mensuales430 anno;
+    for (const QVariant &entrada : std::as_const(lista)) {
+        const auto fila = entrada.toList();
+        const int mes = fila.value(Fila430::PERIODO).toInt();
+        if (mes < 1 || mes > 12)
+            continue;
+        qint32 csde = fila.value(Fila430::CSDE).toInt();
+        Registro figuras;
+        servicioDeclaracion()->Cargar430(csde, figuras);
+        const Mensuales430::Mes datos{figuras.value(Reg430::BASETOT).toDouble(),
+                                      figuras.value(Reg430::CUOTATOT).toDouble()};
+        anno.meses.at(static_cast<size_t>(mes - 1)) = datos;
+        anno.base += datos.base;
+        anno.cuota += datos.cuota;
+    }
+    return anno;
+}
+
 double cDatos480::DiferenciaBases() const
 {
     return casilla(C70_TOT) - casilla(C73_BA1) - casilla(C76_BA2);
@@ -108,8 +139,9 @@ double cDatos480::DiferenciaBases() const
 
 bool cDatos480::cabe() const
 {
-    static constexpr int calculadas[] = {C70_TOT, C71_TOT, C75_CU1, C78_CU2, C81_RES};
-    return std::ranges::all_of(calculadas, [this](int n) { return cabeEnCasilla(casilla(n)); });
+    static constexpr Casilla480 calculadas[] = {C70_TOT, C71_TOT, C75_CU1, C78_CU2, C81_RES};
+    return std::ranges::all_of(calculadas,
+                               [this](Casilla480 cual) { return cabeEnCasilla(casilla(cual)); });
 }
 
 Registro cDatos480::RegistroValidar() const
@@ -121,11 +153,7 @@ Registro cDatos480::RegistroValidar() const
 Registro cDatos480::RegistroGuardar() const
 {
     Registro figuras(Reg480::Total);
-    for (int clase = 0; clase < Reg480::Clases; ++clase)
-        for (int columna = 0; columna < 2; ++columna)
-            figuras[Reg480::posicion(clase, columna)] = casilla(Reg480::casilla(clase, columna));
-    for (int i = 0; const int numero : CasillasFinales)
-        figuras[Reg480::C70_TOT + i++] = casilla(numero);
+    paraCadaCasilla([&](int posicion, Casilla480 cual) { figuras[posicion] = casilla(cual); });
     figuras[Reg480::C74_TI1] = m.tipo1;
     figuras[Reg480::C77_TI2] = m.tipo2;
     return cabeceraGuardar(m.csde) + figuras;

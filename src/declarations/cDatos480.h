@@ -3,8 +3,22 @@
 #include "core/Modos.h"
 #include "declarations/Clases480.h"
 
-/// Figures of one model 480 return. A box is named by its number on the form (Clases480.h); amounts
-/// are whole cents, rates percent with two decimals. The header is that of cDecResumen.
+/// The monthly 430 returns of a 480's exercise.
+struct Mensuales430
+{
+    struct Mes
+    {
+        double base = 0; ///< total base, cents
+        double cuota = 0; ///< total quota, cents
+    };
+
+    std::array<std::optional<Mes>, 12> meses; ///< of two returns of one month, the last one loaded
+    double base = 0; ///< running totals: every return counts
+    double cuota = 0;
+};
+
+/// Figures of one model 480 return. Amounts are whole cents, rates percent with two decimals. The
+/// header is that of cDecResumen.
 class cDatos480
 {
 public:
@@ -12,10 +26,8 @@ public:
     /// "A" resets the record for a new return of the header's exercise and fetches the year's
     /// rates.
     void MODO(const QString &modo);
-    QString ENTRADA() const
-    {
-        return m_entrada;
-    } ///< "A" until the first page has loaded the return
+    /// "A" until the first page has loaded the return.
+    QString ENTRADA() const { return m_entrada; }
     void ENTRADA(const QString &entrada) { m_entrada = entrada; }
     qint32 CSDE() const { return m.csde; } ///< 0 while not saved
     void CSDE(qint32 codigo) { m.csde = codigo; }
@@ -23,8 +35,8 @@ public:
     void MODIFICADO(bool modificado) { m.modificado = modificado; }
 
     /// Amount of a box, in cents; the writer rounds to whole cents.
-    double casilla(int numero) const { return m.casillas.at(static_cast<size_t>(numero)); }
-    void casilla(int numero, double centimos);
+    double casilla(Casilla480 cual) const { return m.casillas.at(static_cast<size_t>(cual)); }
+    void casilla(Casilla480 cual, double centimos);
     float C74_TI1() const { return m.tipo1; }
     void C74_TI1(float tipo);
     float C77_TI2() const { return m.tipo2; } ///< 0 when the year has one rate
@@ -44,6 +56,8 @@ public:
     void CalcularTipoAnual(Registro &tipos) const;
     /// Fila430 rows of the exercise's monthly returns; false when there is none.
     bool NumDecl430(Filas &lista) const;
+    /// Those returns loaded; nothing when there is none.
+    std::optional<Mensuales430> CargarMensuales() const;
 
     /// Box 70 less 73 and 76: 0 when the bands add up.
     double DiferenciaBases() const;
@@ -56,7 +70,7 @@ public:
 private:
     struct Figuras
     {
-        std::array<double, Casilla480::Ultima + 1> casillas{};
+        std::array<double, UltimaCasilla480 + 1> casillas{};
         float tipo1 = 0;
         float tipo2 = 0;
         qint32 csde = 0;
@@ -64,7 +78,7 @@ private:
     };
 
     double sumaColumna(int columna) const;
-    double &en(int numero) { return m.casillas.at(static_cast<size_t>(numero)); }
+    double &en(Casilla480 cual) { return m.casillas.at(static_cast<size_t>(cual)); }
 
     QString m_modo;
     QString m_entrada;

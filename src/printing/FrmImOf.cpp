@@ -7,7 +7,6 @@
 #include "declarants/cDecResumen.h"
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"
-#include "printing/FechaPresentacion.h"
 #include "printing/GuardarCopias.h"
 #include "printing/TrabajoImpresion.h"
 #include "printing/cImOf.h"

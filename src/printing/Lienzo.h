@@ -1,11 +1,74 @@
 #pragma once
 
-#include "printing/Geometria.h"
-
 #include <QPainter>
+#include <QRectF>
 #include <QString>
 
 namespace impreso {
+
+/// Shapes and type of the official forms. Every length is in millimetres from the page's left edge
+/// and, downwards, from the top of the section that draws it; type sizes are in points.
+
+struct Caja
+{
+    double x, y, ancho, alto;
+
+    constexpr double derecha() const { return x + ancho; }
+    constexpr double abajo() const { return y + alto; }
+    QRectF rect() const { return {x, y, ancho, alto}; }
+    /// The same box with its sides moved inwards.
+    constexpr Caja dentro(double dx, double dy) const
+    {
+        return {x + dx, y + dy, ancho - 2 * dx, alto - 2 * dy};
+    }
+    constexpr Caja bajada(double dy) const { return {x, y + dy, ancho, alto}; }
+};
+
+/// The sheet and what is drawn on it.
+inline constexpr double AnchoPagina = 210;
+inline constexpr double AltoPagina = 297;
+inline constexpr double MargenIzquierdo = 10;
+inline constexpr double MargenDerecho = 200;
+inline constexpr double AnchoUtil = MargenDerecho - MargenIzquierdo;
+
+/// Place of the copy mark, from the page's corner.
+inline constexpr Caja CajaMarca{108, 192.5, 84, 26};
+
+/// Thickness of lines, in millimetres.
+namespace Trazo {
+inline constexpr double Fino = 0.1;
+inline constexpr double Medio = 0.2;
+inline constexpr double Grueso = 0.4;
+} // namespace Trazo
+
+enum class Letra { Arial, Times };
+
+struct Estilo
+{
+    Letra letra = Letra::Arial;
+    double puntos = 8;
+    bool negrita = true;
+    QRgb color = 0xff000000;
+
+    constexpr Estilo de(double otrosPuntos) const { return {letra, otrosPuntos, negrita, color}; }
+    constexpr Estilo normal() const { return {letra, puntos, false, color}; }
+    constexpr Estilo en(QRgb otro) const { return {letra, puntos, negrita, otro}; }
+};
+
+/// The forms' one ink, its shades, and black for what is filled in.
+namespace Tinta {
+inline constexpr QRgb Oscura = 0xff1b3a5c;
+inline constexpr QRgb Sombra = 0xffd3dfeb;
+inline constexpr QRgb Fondo = 0xffedf2f7;
+inline constexpr QRgb Blanco = 0xffffffff;
+inline constexpr QRgb Negro = 0xff000000;
+} // namespace Tinta
+
+/// In force at the start of every section.
+inline constexpr Estilo EstiloInicial{Letra::Arial, 8, true, Tinta::Negro};
+/// Printed labels: Basque in bold, Castilian beside it in roman.
+inline constexpr Estilo EstiloEtiqueta{Letra::Times, 7, true, Tinta::Oscura};
+inline constexpr Estilo EstiloValor{Letra::Arial, 9, false, Tinta::Negro};
 
 /// A page on any paint device, in millimetres from its top-left corner, with the shapes that the
 /// forms are made of. The painter's state is saved on construction and restored at the end.

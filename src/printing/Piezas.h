@@ -56,4 +56,18 @@ void importe(Lienzo &lienzo, const Caja &caja, const QString &texto);
 void signoTipo(Lienzo &lienzo, const Caja &caja);
 void tipo(Lienzo &lienzo, const Caja &caja, const QString &texto);
 
+/// A white box to sign or stamp in, with its label.
+void hueco(Lienzo &lienzo, const Caja &caja, const Par &etiqueta);
+
+/// A part of a form: where it begins, from the page's top, and what draws it.
+struct Parte
+{
+    double arriba;
+    void (*dibujar)(Lienzo &, const ValoresImpreso &);
+};
+
+/// Draws the parts of a form on one page and stamps the mark of `copia` (cImOf.h) over them.
+void dibujarPartes(QPainter &pintor, std::span<const Parte> partes, const ValoresImpreso &impreso,
+                   QStringView copia);
+
 } // namespace impreso

@@ -117,15 +117,15 @@ struct CasillaLiquidacion
     bool esTipo = false;
 };
 inline constexpr std::array<CasillaLiquidacion, 9> CasillasLiquidacion = {{
-    {Casilla480::C73_BA1, 0, 0},
-    {Casilla480::C74_TI1, 0, 1, true},
-    {Casilla480::C75_CU1, 0, 2},
-    {Casilla480::C76_BA2, 1, 0},
-    {Casilla480::C77_TI2, 1, 1, true},
-    {Casilla480::C78_CU2, 1, 2},
-    {Casilla480::C79_BA3, 2, 0},
-    {Casilla480::C80_CU3, 2, 2},
-    {Casilla480::C81_RES, 3, 2},
+    {73, 0, 0},
+    {74, 0, 1, true},
+    {75, 0, 2},
+    {76, 1, 0},
+    {77, 1, 1, true},
+    {78, 1, 2},
+    {79, 2, 0},
+    {80, 2, 2},
+    {81, 3, 2},
 }};
 inline constexpr int FilaResultado = 3;
 constexpr Caja cajaBanda(int fila)

@@ -7,11 +7,8 @@
 #include "declarants/cDecResumen.h"
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"
-#include "printing/Copias.h"
 #include "printing/DocumentoPdf.h"
-#include "printing/Impreso430.h"
-#include "printing/Impreso480.h"
-#include "printing/TomarValores.h"
+#include "printing/Impreso.h"
 #include "printing/cImOf.h"
 
 #include <QPageLayout>

@@ -21,7 +21,7 @@ public:
     /// Every copy that `peticion` asks for; none for a model that cannot be printed.
     explicit TrabajoImpresion(const cImOf &peticion);
 
-    /// Copy codes (Copias.h) in printing order.
+    /// Copy codes (cImOf.h) in printing order.
     const QStringList &copias() const { return m_copias; }
     /// Title of a document, in the session's language.
     QString titulo() const;

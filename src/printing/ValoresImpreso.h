@@ -5,6 +5,13 @@
 
 #include <array>
 
+class cDatos430;
+class cDatos480;
+
+namespace SvrKtComunLib {
+class cMiscelaneos;
+}
+
 namespace impreso {
 
 /// What is filled in on a form besides the numbered boxes.
@@ -38,5 +45,13 @@ struct ValoresImpreso
     const QString &casilla(int numero) const { return casillas.at(static_cast<size_t>(numero)); }
     QString &casilla(int numero) { return casillas.at(static_cast<size_t>(numero)); }
 };
+
+/// What the forms show, taken from the session's records: declarant, header, figures and print
+/// request. The records are only read.
+ValoresImpreso tomarValores430(const cDatos430 &figuras);
+ValoresImpreso tomarValores480(const cDatos480 &figuras);
+
+/// Asks the data service for the department's heading in both languages.
+void tomarHacienda(ValoresImpreso &impreso, SvrKtComunLib::cMiscelaneos &servicio);
 
 } // namespace impreso

@@ -2,10 +2,12 @@
 
 #include "core/Importe.h"
 #include "core/Redondeo.h"
-#include "printing/Impreso430.h"
-#include "printing/Impreso480.h"
+#include "printing/Impreso.h"
+#include "support/GrabadorDibujo.h"
 
+#include <QFile>
 #include <QStringList>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace impreso;
@@ -13,15 +15,7 @@ using namespace impreso;
 /// Returns to print that try the forms to the limit.
 namespace valoresPrueba {
 
-inline ValoresImpreso vacio()
-{
-    ValoresImpreso v;
-    for (int i = 1; i < 82; ++i)
-        v.casilla(i) = u"0,00"_s;
-    v.textos[Valor::Importe] = u"0,00"_s;
-    return v;
-}
-
+/// Every value as long as it can be, and no two alike.
 inline ValoresImpreso lleno()
 {
     const auto largo = [](int n) { return QString(n, u'W'); };
@@ -44,8 +38,9 @@ inline ValoresImpreso lleno()
         {Valor::Importe, textoImporte(-ImporteMaximo)},
     };
     for (int i = 1; i < 82; ++i)
-        v.casilla(i) = textoImporte(i % 2 == 0 ? ImporteMaximo : -ImporteMaximo);
-    v.casilla(74) = v.casilla(77) = u"100,00"_s;
+        v.casilla(i) = textoImporte(i - ImporteMaximo);
+    v.casilla(74) = u"100,00"_s;
+    v.casilla(77) = u"100,01"_s;
     return v;
 }
 
@@ -63,6 +58,36 @@ inline void dibujar(QPainter &pintor, const QString &modelo, const ValoresImpres
                     const QString &copia)
 {
     (modelo == u"430" ? dibujar430 : dibujar480)(pintor, para(modelo, v), copia);
+}
+
+/// A page's texts in drawing order, one a line: left, right and middle in millimetres, text.
+inline void guardarTextos(const QString &ruta, const QList<GrabadorDibujo::Texto> &textos)
+{
+    QFile fichero(ruta);
+    QVERIFY(fichero.open(QIODevice::WriteOnly));
+    for (const auto &t : textos)
+        fichero.write(u"%1 %2 %3 %4\n"_s.arg(t.caja.left(), 0, 'f', 1)
+                          .arg(t.caja.right(), 0, 'f', 1)
+                          .arg(t.caja.center().y(), 0, 'f', 1)
+                          .arg(t.texto)
+                          .toUtf8());
+}
+
+inline QList<GrabadorDibujo::Texto> leerTextos(const QString &ruta)
+{
+    QFile fichero(ruta);
+    QList<GrabadorDibujo::Texto> textos;
+    if (!fichero.open(QIODevice::ReadOnly))
+        return textos;
+    for (const QString &linea : QString::fromUtf8(fichero.readAll()).split(u'\n')) {
+        if (linea.isEmpty())
+            continue;
+        const double izquierda = linea.section(u' ', 0, 0).toDouble();
+        const double derecha = linea.section(u' ', 1, 1).toDouble();
+        const double medio = linea.section(u' ', 2, 2).toDouble();
+        textos += {linea.section(u' ', 3), QRectF(izquierda, medio, derecha - izquierda, 0), {}};
+    }
+    return textos;
 }
 
 } // namespace valoresPrueba

@@ -6,7 +6,8 @@ class QPainter;
 
 namespace impreso {
 
-/// Draws the model 480 form on one page, with the mark of `copia` (Copias.h).
+/// Draw a form on one page, with the mark of `copia` (cImOf.h).
+void dibujar430(QPainter &pintor, const ValoresImpreso &impreso, QStringView copia);
 void dibujar480(QPainter &pintor, const ValoresImpreso &impreso, QStringView copia);
 
 } // namespace impreso

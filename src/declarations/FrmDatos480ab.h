@@ -4,7 +4,6 @@
 
 #include <QList>
 
-class QGridLayout;
 class QLabel;
 
 /// A page with the boxes of its classes of insurance, two columns, from the table Clases480.
@@ -13,7 +12,7 @@ class PaginaClases : public Pantalla480
     Q_OBJECT
 
 protected:
-    PaginaClases(const QString &nombre, Msj titulo, int pagina, Pantalla anterior,
+    PaginaClases(const QString &nombre, Msj titulo, bool primera, Pantalla anterior,
                  Pantalla siguiente, QWidget *padre);
 
     void Anadir_captions() override;
@@ -33,4 +32,22 @@ private:
     QLabel *m_columnas[2];
     QList<Linea> m_lineas;
     QList<std::pair<QLabel *, Msj>> m_grupos;
+};
+
+/// First page of a 480: classes 1 to 11. Loads a stored return when the summary has just opened it.
+class FrmDatos480a : public PaginaClases
+{
+    Q_OBJECT
+
+public:
+    explicit FrmDatos480a(QWidget *padre = nullptr);
+};
+
+/// Second page of a 480: classes 12 to 23.
+class FrmDatos480b : public PaginaClases
+{
+    Q_OBJECT
+
+public:
+    explicit FrmDatos480b(QWidget *padre = nullptr);
 };

@@ -1,4 +1,4 @@
-#include "printing/TomarValores.h"
+#include "printing/ValoresImpreso.h"
 
 #include "core/Importe.h"
 #include "core/Periodos.h"
@@ -95,18 +95,24 @@ ValoresImpreso tomarValores480(const cDatos480 &figuras)
     ValoresImpreso v = comunes();
     v.textos[Valor::Periodo] = enDosIdiomas(
         [](Idioma idioma) { return palabraPeriodicidad(PeriodicidadAnual, idioma); });
+    using enum Casilla480;
+    const auto poner = [&](Casilla480 cual) {
+        v.casilla(static_cast<int>(cual)) = textoImporte(figuras.casilla(cual));
+    };
     // the third box of a row, held nowhere, is the sum of the other two
-    for (int numero = 1; numero < Casilla480::C73_BA1; numero += 3) {
-        const double sujeta = figuras.casilla(numero);
-        const double exenta = figuras.casilla(numero + 1);
-        v.casilla(numero) = textoImporte(sujeta);
-        v.casilla(numero + 1) = textoImporte(exenta);
-        v.casilla(numero + 2) = textoImporte(sujeta + exenta);
-    }
-    for (int numero = Casilla480::C73_BA1; numero <= Casilla480::Ultima; ++numero)
-        v.casilla(numero) = textoImporte(figuras.casilla(numero));
-    v.casilla(Casilla480::C74_TI1) = textoTipo(figuras.C74_TI1());
-    v.casilla(Casilla480::C77_TI2) = textoTipo(figuras.C77_TI2());
+    const auto ponerFila = [&](Casilla480 noExenta, Casilla480 exenta) {
+        poner(noExenta);
+        poner(exenta);
+        v.casilla(static_cast<int>(exenta) + 1)
+            = textoImporte(figuras.casilla(noExenta) + figuras.casilla(exenta));
+    };
+    for (const Clase480 &clase : Clases480)
+        ponerFila(clase.noExenta, clase.exenta);
+    ponerFila(C70_TOT, C71_TOT);
+    for (const Casilla480 cual : {C73_BA1, C75_CU1, C76_BA2, C78_CU2, C79_BA3, C80_CU3, C81_RES})
+        poner(cual);
+    v.casilla(74) = textoTipo(figuras.C74_TI1());
+    v.casilla(77) = textoTipo(figuras.C77_TI2());
     return v;
 }
 

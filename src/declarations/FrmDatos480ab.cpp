@@ -1,4 +1,4 @@
-#include "declarations/PaginaClases.h"
+#include "declarations/FrmDatos480ab.h"
 
 #include "core/Textos.h"
 #include "declarations/cDatos480.h"
@@ -12,12 +12,7 @@ using namespace Qt::StringLiterals;
 static constexpr Msj Columnas[] = {Msj::NoExento, Msj::Exento};
 static constexpr int SangriaGrupo = 18;
 
-static const Clase480 &datosClase(int clase)
-{
-    return Clases480.at(static_cast<size_t>(clase));
-}
-
-PaginaClases::PaginaClases(const QString &nombre, Msj titulo, int pagina, Pantalla anterior,
+PaginaClases::PaginaClases(const QString &nombre, Msj titulo, bool primera, Pantalla anterior,
                            Pantalla siguiente, QWidget *padre)
     : Pantalla480(nombre, titulo, anterior, siguiente, padre)
 {
@@ -31,7 +26,7 @@ PaginaClases::PaginaClases(const QString &nombre, Msj titulo, int pagina, Pantal
     }
     int fila = 1;
     for (int clase = 0; clase < Reg480::Clases; ++clase)
-        if (paginaClase(clase) == pagina)
+        if (enPrimeraPagina(clase) == primera)
             fila = crearLinea(rejilla, fila, clase);
     m_cuerpo->addLayout(rejilla);
     m_cuerpo->addStretch(1);
@@ -40,22 +35,16 @@ PaginaClases::PaginaClases(const QString &nombre, Msj titulo, int pagina, Pantal
 /// Adds a class, with its heading when it is the first one under it; the next free row.
 int PaginaClases::crearLinea(QGridLayout *rejilla, int fila, int clase)
 {
-    const auto &datos = datosClase(clase);
-    if (datos.grupo && datosClase(clase - 1).grupo != datos.grupo) {
+    const auto &datos = clase480(clase);
+    if (datos.grupo && clase480(clase - 1).grupo != datos.grupo) {
         m_grupos.append({new QLabel(this), *datos.grupo});
         rejilla->addWidget(m_grupos.last().first, fila++, 0);
     }
     Linea linea{clase, new QLabel(this), {}};
     linea.etiqueta->setIndent(datos.grupo ? SangriaGrupo : 0);
     rejilla->addWidget(linea.etiqueta, fila, 0);
-    for (int columna = 0; columna < 2; ++columna) {
-        const int numero = Reg480::casilla(clase, columna);
-        auto *casilla = new QLabel(QString::number(numero).rightJustified(2, u'0'), this);
-        casilla->setEnabled(false);
-        linea.cajas[columna] = cajaNumero(controlClase(clase, columna), numero);
-        rejilla->addWidget(casilla, fila, 1 + 2 * columna, Qt::AlignRight);
-        rejilla->addWidget(linea.cajas[columna], fila, 2 + 2 * columna);
-    }
+    for (int columna = 0; columna < 2; ++columna)
+        linea.cajas[columna] = ponerCasilla(rejilla, datos.casilla(columna), fila, columna);
     m_lineas.append(linea);
     return fila + 1;
 }
@@ -68,7 +57,7 @@ void PaginaClases::Anadir_captions()
     for (const auto &[etiqueta, texto] : std::as_const(m_grupos))
         etiqueta->setText(msj(texto));
     for (const auto &linea : std::as_const(m_lineas)) {
-        const auto &datos = datosClase(linea.clase);
+        const auto &datos = clase480(linea.clase);
         const QString grupo = datos.grupo ? msj(*datos.grupo) + u", "_s : QString();
         linea.etiqueta->setText(msj(datos.etiqueta));
         for (int columna = 0; columna < 2; ++columna)
@@ -82,11 +71,34 @@ void PaginaClases::PresentaDatos()
     for (const auto &linea : std::as_const(m_lineas))
         for (int columna = 0; columna < 2; ++columna)
             linea.cajas[columna]->mostrarImporte(
-                registro().casilla(Reg480::casilla(linea.clase, columna)));
+                registro().casilla(clase480(linea.clase).casilla(columna)));
 }
 
 void PaginaClases::showEvent(QShowEvent *evento)
 {
     Pantalla480::showEvent(evento);
     m_lineas.first().cajas[0]->setFocus(Qt::OtherFocusReason);
+}
+
+FrmDatos480a::FrmDatos480a(QWidget *padre)
+    : PaginaClases(u"FrmDatos480a"_s, Msj::Titulo480a, true, Pantalla::Ninguna, Pantalla::Datos480b,
+                   padre)
+{
+    auto &r = registro();
+    if (r.ENTRADA() == Entrada::Abrir && r.MODO() == Modo::Consulta) {
+        r.CargarDeclaracion(r.CSDE());
+        r.MODIFICADO(false);
+    }
+    // coming back from the second page must not load again over what was typed
+    r.ENTRADA(QString());
+    Anadir_captions();
+    PresentaDatos();
+}
+
+FrmDatos480b::FrmDatos480b(QWidget *padre)
+    : PaginaClases(u"FrmDatos480b"_s, Msj::Titulo480b, false, Pantalla::Datos480a,
+                   Pantalla::Datos480c, padre)
+{
+    Anadir_captions();
+    PresentaDatos();
 }
