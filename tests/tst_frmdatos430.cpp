@@ -294,10 +294,17 @@ private Q_SLOTS:
             abrir(u"A"_s);
             QSignalSpy siguiente(m_pantalla.get(), &PantallaBase::mostrar);
             manos().escribir("txtbliq", u"500"_s);
-            if (qstrcmp(como, "frame") == 0)
-                m_pantalla->close();
-            else
+            if (qstrcmp(como, "frame") == 0) {
+                // the frame asks before the change is lost
+                for (const auto respuesta : {QMessageBox::No, QMessageBox::Yes}) {
+                    ConductorMensajes conductor;
+                    conductor.responder(respuesta);
+                    m_pantalla->close();
+                    QCOMPARE(m_pantalla->isVisible(), respuesta == QMessageBox::No);
+                }
+            } else {
                 manos().pulsar(como);
+            }
             QCOMPARE(siguiente.count(), 1);
             QVERIFY(servicioFilas().isEmpty());
             QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_s);

@@ -227,9 +227,10 @@ private Q_SLOTS:
                 Formulario f(existente);
                 unico::la<cDecResumen>().CSDE(7);
                 f.manos->escribir("txtnombre", u"otro"_s);
-                if (marco)
+                if (marco) {
+                    f.mensajes.responder(QMessageBox::Yes);
                     f.pantalla->close();
-                else
+                } else
                     f.manos->pulsar("Piccan");
                 QVERIFY(!f.pantalla->isVisible());
                 QCOMPARE(f.siguiente.has_value(), existente);

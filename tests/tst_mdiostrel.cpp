@@ -6,9 +6,7 @@
 #include "declarants/cDecResumen.h"
 #include "support/ConductorMensajes.h"
 #include "support/Entorno.h"
-#include "support/GeneralAveriado.h"
 #include "support/Manos.h"
-#include "widgets/Iconos.h"
 #include "widgets/PantallaBase.h"
 
 #include <QAction>
@@ -19,6 +17,7 @@
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QStatusBar>
+#include <QTableView>
 #include <QToolButton>
 
 #include <optional>
@@ -26,12 +25,13 @@
 using namespace Qt::StringLiterals;
 
 /// The main window, driven with keys and clicks.
-class PruebaMDIOstrel : public QObject
+class TstMdiOstrel : public QObject
 {
     Q_OBJECT
 
 private:
     std::optional<Entorno> m_entorno;
+    std::optional<ConductorMensajes> m_mensajes;
     std::unique_ptr<MDIOstrel> m_ventana;
 
     void abrirPrograma()
@@ -111,11 +111,13 @@ private Q_SLOTS:
     void init()
     {
         m_entorno.emplace();
+        m_mensajes.emplace();
         abrirPrograma();
     }
     void cleanup()
     {
         m_ventana.reset();
+        m_mensajes.reset();
         m_entorno.reset();
     }
 
@@ -134,21 +136,6 @@ private Q_SLOTS:
         QCOMPARE(accion("mnuBackup")->text(), u"Segurtasun kopia sortu"_s);
         QCOMPARE(accion("salir")->text(), u"Irten aplikaziotik"_s);
         QCOMPARE(accion("salir")->toolTip(), u"Irten aplikaziotik"_s);
-    }
-
-    void iconosDibujadosYApagados()
-    {
-        for (int i = 0; i <= static_cast<int>(Icono::Informacion); ++i) {
-            const auto cual = static_cast<Icono>(i);
-            const QPixmap doble = icono(cual).pixmap(QSize(32, 32), 2.0);
-            QCOMPARE(doble.size(), QSize(64, 64));
-            const QImage vivo = icono(cual).pixmap(16).toImage();
-            QImage nada(vivo.size(), vivo.format());
-            nada.fill(Qt::transparent);
-            QVERIFY2(vivo != nada, qPrintable(QString::number(i)));
-            const QImage apagado = icono(cual).pixmap(16, QIcon::Disabled).toImage();
-            QCOMPARE(apagado == vivo, cual == Icono::Programa);
-        }
     }
 
     void clavesDeAccesoSinChoques_data()
@@ -177,18 +164,6 @@ private Q_SLOTS:
             revisar(menu(nombre)->actions());
     }
 
-    void menusEnSuOrden()
-    {
-        QStringList nombres;
-        for (const auto *una : menu("mnuDeclarante")->actions()) {
-            if (!una->isSeparator())
-                nombres.append(una->objectName());
-        }
-        QCOMPARE(
-            nombres.join(u' '),
-            u"mnuNuevoDeclarante mnuAbrirDeclarante mnuEliminarDeclarante mnuSalir d1 d2 d3 d4"_s);
-    }
-
     void sinDeclarantesNoSeAbreNiElimina()
     {
         desplegar("mnuDeclarante");
@@ -212,22 +187,10 @@ private Q_SLOTS:
     void baseIlegibleDeshabilitaYDiceElMotivo()
     {
         Entorno::altaDeclarante();
-        const GeneralAveriado averia;
-        const ConductorMensajes ninguno;
+        const ModeloPerdido perdido;
         desplegar("mnuDeclarante");
         QVERIFY(!accion("mnuAbrirDeclarante")->isEnabled());
         QVERIFY(accion("mnuAbrirDeclarante")->toolTip().contains(u"OstrMod.mdb"));
-    }
-
-    void entradasVenideras()
-    {
-        for (const char *nombre :
-             {"mnuExport", "mnuImport", "mnuBackup", "mnuRestore", "mnuPreferencias",
-              "mnuAsistenciaOnline", "mnuDescripAsisOnline"}) {
-            QVERIFY2(!accion(nombre)->isEnabled(), nombre);
-            QVERIFY2(accion(nombre)->statusTip().contains(u"próxima entrega"), nombre);
-            QVERIFY2(accion(nombre)->toolTip().contains(u"próxima entrega"), nombre);
-        }
     }
 
     void nuevoDeclaranteConAtajoYUnaSolaVez()
@@ -361,6 +324,124 @@ private Q_SLOTS:
         QTRY_COMPARE(m_ventana->findChildren<PantallaBase *>().size(), 0);
     }
 
+    /// What is behind an edited record can be seen, and is dead until the record is handed back.
+    void loQueQuedaDetrasDeUnaEdicion()
+    {
+        const auto uno = Entorno::altaDeclarante();
+        elegir("mnuDeclarante", "mnuAbrirDeclarante");
+        const auto *lista = pantalla("FrmDecLista");
+        QTest::keyClick(m_ventana.get(), Qt::Key_N, Qt::ControlModifier);
+        QTRY_VERIFY(pantalla("frmDecDatos"));
+        const Manos enLista(*pantalla("FrmDecLista"));
+        auto *motivo = enLista.control<QLabel>("lblSuspendida");
+        QVERIFY(motivo->isVisible());
+        QCOMPARE(motivo->text(), msj(Msj::DeshabilitadoEnEdicion));
+        auto *tabla = enLista.control<QTableView>("flxDeclarantes");
+        QVERIFY(!tabla->isEnabled());
+        m_ventana->findChild<QMdiArea *>()->setActiveSubWindow(
+            qobject_cast<QMdiSubWindow *>(lista->parentWidget()));
+        const QPoint fila = tabla->visualRect(tabla->model()->index(0, 0)).center();
+        QTest::mouseDClick(tabla->viewport(), Qt::LeftButton, {}, fila);
+        for (const auto tecla : {Qt::Key_Return, Qt::Key_Delete, Qt::Key_Escape})
+            QTest::keyClick(lista->parentWidget(), tecla);
+        QCoreApplication::processEvents();
+        QCOMPARE(pantallas(), QStringList({u"FrmDecLista"_s, u"frmDecDatos"_s}));
+        QCOMPARE(unico::la<cDecResumen>().CSCO(), 0);
+        unico::la<CEntrada>().IDI(u"E"_s);
+        m_ventana->CambiarIdioma();
+        QVERIFY(motivo->text().startsWith(u"Ez dago erabilgarri"));
+
+        cerrarMarco("frmDecDatos");
+        QTRY_VERIFY(!motivo->isVisible());
+        QVERIFY(tabla->isEnabled());
+        QTest::mouseDClick(tabla->viewport(), Qt::LeftButton, {}, fila);
+        QTRY_COMPARE(pantallas(), QStringList(u"FrmDecResumen"_s));
+        QCOMPARE(unico::la<cDecResumen>().CSCO(), uno);
+    }
+
+    /// The ways out that are not the cancel button ask before they lose something, and only then.
+    void cerrarConCambiosPregunta()
+    {
+        const auto nuevoConCambios = [this] {
+            QTest::keyClick(m_ventana.get(), Qt::Key_N, Qt::ControlModifier);
+            QTRY_VERIFY(pantalla("frmDecDatos"));
+            // still only typed: the box has the focus
+            Manos(*pantalla("frmDecDatos")).escribir("txtnombre", u"UNO"_s);
+        };
+        const auto cerrarVentana
+            = [this] { QTest::keyClick(m_ventana.get(), Qt::Key_Q, Qt::ControlModifier); };
+        const auto escape = [this] { Manos(*pantalla("frmDecDatos")).tecla(Qt::Key_Escape); };
+        const auto marco = [this] { pantalla("frmDecDatos")->parentWidget()->close(); };
+        nuevoConCambios();
+        for (const std::function<void()> &salir :
+             {std::function<void()>(cerrarVentana), std::function<void()>(escape),
+              std::function<void()>(marco)}) {
+            m_mensajes->responder(QMessageBox::No);
+            salir();
+            const auto cajas = m_mensajes->tomar();
+            QCOMPARE(cajas.size(), 1);
+            QCOMPARE(cajas.front().texto, msj(Msj::PreguntaCerrarSinGuardar));
+            QCOMPARE(cajas.front().porDefecto, QMessageBox::No);
+            QVERIFY(m_ventana->isVisible());
+            QCOMPARE(Manos(*pantalla("frmDecDatos")).texto("txtnombre"), u"UNO"_s);
+        }
+        m_mensajes->responder(QMessageBox::Yes);
+        escape();
+        QTRY_COMPARE(pantallas(), QStringList());
+        nuevoConCambios();
+        m_mensajes->responder(QMessageBox::Yes);
+        cerrarVentana();
+        QTRY_VERIFY(!m_ventana->isVisible());
+        QCOMPARE(m_mensajes->tomar().size(), 2);
+    }
+
+    /// A wrong text in the box with the focus stands in the way of no exit.
+    void cancelarNoAvisa()
+    {
+        const QList<std::function<void(const Manos &)>> salidas = {
+            [](const Manos &m) { m.pulsar("Piccan"); },
+            [](const Manos &m) { m.pulsar("cmdCancelar"); },
+            [](const Manos &m) {
+                const QString texto = m.texto("cmdCancelar");
+                const QChar letra = texto.at(texto.indexOf(u'&') + 1).toUpper();
+                m.tecla(static_cast<Qt::Key>(letra.unicode()), Qt::AltModifier);
+            },
+            [this](const Manos &) {
+                m_mensajes->responder(QMessageBox::Yes);
+                pantalla("frmDecDatos")->parentWidget()->close();
+            },
+        };
+        for (const auto &salir : salidas) {
+            QTest::keyClick(m_ventana.get(), Qt::Key_N, Qt::ControlModifier);
+            QTRY_VERIFY(pantalla("frmDecDatos"));
+            const Manos m(*pantalla("frmDecDatos"));
+            m.escribir("txtcodprov", u"99"_s);
+            salir(m);
+            QTRY_COMPARE(pantallas(), QStringList());
+        }
+        QCOMPARE(m_mensajes->tomar().size(), 1); // the question of the frame
+    }
+
+    /// Where the window is small, whatever has the focus can be seen.
+    void elFocoQuedaALaVista()
+    {
+        m_ventana->resize(683, 384);
+        QTest::keyClick(m_ventana.get(), Qt::Key_N, Qt::ControlModifier);
+        QTRY_VERIFY(pantalla("frmDecDatos"));
+        auto *datos = pantalla("frmDecDatos");
+        const auto *area = m_ventana->findChild<QMdiArea *>()->viewport();
+        QSet<QWidget *> vistos;
+        for (auto *foco = datos->focusWidget(); !vistos.contains(foco);
+             foco = datos->focusWidget()) {
+            vistos.insert(foco);
+            const QRect enArea(foco->mapTo(area, QPoint()), foco->size());
+            QVERIFY2(area->rect().contains(enArea), qPrintable(foco->objectName()));
+            QVERIFY2(!foco->visibleRegion().isEmpty(), qPrintable(foco->objectName()));
+            Manos(*datos).tecla(Qt::Key_Tab);
+        }
+        QVERIFY(vistos.contains(Manos(*datos).control("cmdCancelar")));
+    }
+
     void atajoDeSalirYBotonDeSalir()
     {
         QTest::keyClick(m_ventana.get(), Qt::Key_Q, Qt::ControlModifier);
@@ -383,5 +464,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PruebaMDIOstrel)
+QTEST_MAIN(TstMdiOstrel)
 #include "tst_mdiostrel.moc"

@@ -15,7 +15,6 @@
 #include "declarations/cDatos480.h"
 #include "resources/Mensajes.h"
 #include "support/Entorno.h"
-#include "support/GeneralAveriado.h"
 
 #include <QTest>
 
@@ -89,7 +88,7 @@ private Q_SLOTS:
     {
         auto &entrada = unico::la<CEntrada>();
         {
-            const GeneralAveriado averia;
+            const ModeloPerdido perdido;
             QVERIFY_EXCEPTION_THROWN(entrada.IDI(u"E"_s), ErrorDatos);
             QCOMPARE(entrada.IDI(), u"C"_s);
             QCOMPARE(desplazamientoIdioma(), qint16(0));

@@ -91,6 +91,10 @@ void MDIOstrel::changeEvent(QEvent *evento)
 
 void MDIOstrel::closeEvent(QCloseEvent *evento)
 {
+    if (!m_pantallas->puedenCerrarse()) {
+        evento->ignore();
+        return;
+    }
     DescargarTodosLosFormularios();
     evento->accept();
 }

@@ -1,6 +1,7 @@
 #include "app/MarcoInterior.h"
 
 #include "widgets/Iconos.h"
+#include "widgets/PantallaBase.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -8,8 +9,9 @@
 
 using namespace Qt::StringLiterals;
 
-MarcoInterior::MarcoInterior(QWidget *pantalla)
+MarcoInterior::MarcoInterior(PantallaBase *pantalla)
 {
+    pantalla->envolver();
     setWidget(pantalla);
     setObjectName(u"marco_"_s + pantalla->objectName());
     setAttribute(Qt::WA_DeleteOnClose);

@@ -2,13 +2,15 @@
 
 #include <QMdiSubWindow>
 
+class PantallaBase;
+
 /// Frame of a screen inside the main window, with its menu in the session's language.
 class MarcoInterior : public QMdiSubWindow
 {
     Q_OBJECT
 
 public:
-    explicit MarcoInterior(QWidget *pantalla);
+    explicit MarcoInterior(PantallaBase *pantalla);
 
     /// Shows itself in the middle of `libre`: as large as its screen asks for, or nearly filling
     /// it when `amplia`. Where there is no room for it, it is maximised.

@@ -13,6 +13,7 @@ Pantallas::Pantallas(QMdiArea *area, QWidget *ventana)
     , m_area(area)
     , m_ventana(ventana)
 {
+    connect(this, &Pantallas::cambiadas, this, &Pantallas::suspenderOtras);
 }
 
 PantallaBase *Pantallas::pantalla(Pantalla cual) const
@@ -43,6 +44,11 @@ void Pantallas::traerDelante(PantallaBase *abierta)
 {
     if (!abierta->edita())
         abierta->Actualizar();
+    mostrarDelante(abierta);
+}
+
+void Pantallas::mostrarDelante(PantallaBase *abierta)
+{
     if (auto *marco = qobject_cast<QMdiSubWindow *>(abierta->parentWidget())) {
         if (marco->isMinimized())
             marco->showNormal();
@@ -87,8 +93,7 @@ void Pantallas::cerrar(Pantalla cual)
         return;
     abierta->disconnect(this);
     abierta->quienAbre({});
-    auto *marco = qobject_cast<QMdiSubWindow *>(abierta->parentWidget());
-    (marco ? static_cast<QWidget *>(marco) : abierta)->close();
+    abierta->abandonar();
     m_abiertas.remove(cual);
     Q_EMIT cambiadas();
 }
@@ -97,6 +102,17 @@ void Pantallas::olvidar(const PantallaBase *desaparecida)
 {
     m_abiertas.removeIf([=](const auto &entrada) { return entrada.value() == desaparecida; });
     Q_EMIT cambiadas();
+}
+
+bool Pantallas::puedenCerrarse()
+{
+    return std::ranges::all_of(m_abiertas.keys(), [this](Pantalla cual) {
+        auto *abierta = pantalla(cual);
+        if (!abierta || !abierta->perderia())
+            return true;
+        mostrarDelante(abierta);
+        return abierta->aceptaCerrarse();
+    });
 }
 
 void Pantallas::terminar()
@@ -115,6 +131,17 @@ bool Pantallas::editando() const
         const auto *abierta = pantalla(cual);
         return abierta && abierta->edita();
     });
+}
+
+/// A screen left behind could rewrite the record that another one is editing.
+void Pantallas::suspenderOtras()
+{
+    const bool editan = editando();
+    for (const Pantalla cual : m_abiertas.keys()) {
+        auto *abierta = pantalla(cual);
+        if (abierta && !abierta->isModal())
+            abierta->suspender(editan && !abierta->edita());
+    }
 }
 
 void Pantallas::avisarCambio(const PantallaBase *autora)

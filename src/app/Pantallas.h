@@ -20,6 +20,8 @@ public:
     bool abrir(Pantalla cual);
     /// Closes a screen and does not open what it asks for.
     void cerrar(Pantalla cual);
+    /// Whether every screen may close; asks where something would be lost.
+    bool puedenCerrarse();
     /// Closes them all; from then on none opens.
     void terminar();
     /// Whether a screen is open that owns its record.
@@ -35,6 +37,8 @@ private:
     void mostrarNueva(const struct DatosPantalla &datos);
     void enmarcar(PantallaBase *nueva, bool amplia);
     void traerDelante(PantallaBase *abierta);
+    void mostrarDelante(PantallaBase *abierta);
+    void suspenderOtras();
     void olvidar(const PantallaBase *desaparecida);
     void avisarCambio(const PantallaBase *autora);
 

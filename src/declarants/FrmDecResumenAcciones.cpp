@@ -127,8 +127,8 @@ void FrmDecResumen::abandonarNueva()
     if (cabecera().MODO() != ModoCabecera::Nueva)
         return;
     cabecera().MODO(ModoCabecera::Lista);
-    enfocarLista();
     mostrarNueva(false);
+    enfocarLista();
 }
 
 /// The header of the row selected into the record; a new return being prepared is given up, for

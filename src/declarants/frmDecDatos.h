@@ -19,6 +19,7 @@ public:
     explicit frmDecDatos(QWidget *padre = nullptr);
 
     bool edita() const override { return true; }
+    bool modificada() const override { return m_modificado; }
     void Anadir_captions() override;
     /// Whether the record is valid; else the user is told and the field at fault has the focus.
     bool ValidarCampos();

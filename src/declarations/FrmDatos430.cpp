@@ -32,6 +32,7 @@ FrmDatos430::FrmDatos430(QWidget *padre)
     alPulsarSinConfirmar(m_cmdCancelar, [this] { cerrarComoCancelar(); });
     alPulsar(m_chkrect, [this] {
         registro().MarcarRectificacion(m_chkrect->isChecked());
+        m_modificada = true;
         registro().CalcularValores();
         PresentaDatos();
     });

@@ -34,6 +34,11 @@ cDatos480 &Pantalla480::registro()
     return unico::la<cDatos480>();
 }
 
+bool Pantalla480::modificada() const
+{
+    return registro().MODIFICADO();
+}
+
 CajaImporte *Pantalla480::ponerCasilla(QGridLayout *rejilla, Casilla480 casilla, int fila,
                                        int columna)
 {

@@ -11,6 +11,9 @@ class Pantalla480 : public PantallaDeclaracion
 {
     Q_OBJECT
 
+public:
+    bool modificada() const override;
+
 protected:
     /// `anterior` and `siguiente`: the pages beside this one, Pantalla::Ninguna where there is
     /// none.

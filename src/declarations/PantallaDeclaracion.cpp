@@ -126,6 +126,7 @@ bool PantallaDeclaracion::tomar(const std::function<bool()> &cambio)
     bool tomado = false;
     procedimiento(this, [&] {
         tomado = cambio();
+        m_modificada = m_modificada || tomado;
         if (tomado)
             PresentaDatos();
         else
@@ -145,6 +146,7 @@ void PantallaDeclaracion::entregar(const QString &modo, qint32 csde)
     if (modo == Modo::Alta)
         cabecera.CSDE(csde);
     cabecera.ENTRADA(Entrada::Vuelta);
+    m_modificada = false;
     Q_EMIT datosCambiados();
     cerrarA(Pantalla::Resumen);
 }

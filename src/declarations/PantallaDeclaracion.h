@@ -17,6 +17,7 @@ public:
     PantallaDeclaracion(const QString &nombre, QWidget *padre);
 
     bool edita() const override { return true; }
+    bool modificada() const override { return m_modificada; }
     void Anadir_captions() override;
 
 protected:
@@ -50,6 +51,7 @@ protected:
 
     QVBoxLayout *m_cuerpo; ///< between head and foot
     BarraBotones *m_botones;
+    bool m_modificada = false; ///< differs from what is stored
 
 private:
     class Cabecera;

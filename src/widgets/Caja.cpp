@@ -2,7 +2,6 @@
 
 #include "widgets/PantallaBase.h"
 
-#include <QApplication>
 #include <QFocusEvent>
 #include <QScopedValueRollback>
 #include <QTimer>
@@ -27,14 +26,20 @@ bool Caja::confirmar()
     if (tomado)
         return true;
     m_pendiente = true;
-    QTimer::singleShot(0, this, [this] { setFocus(Qt::OtherFocusReason); });
+    QTimer::singleShot(0, this, [this] { recuperarFoco(this); });
     return false;
+}
+
+void Caja::descartar()
+{
+    mostrar(m_mostrado);
 }
 
 void Caja::mostrar(const QString &texto)
 {
     if (text() != texto)
         setText(texto);
+    m_mostrado = texto;
     m_anterior = texto;
     m_pendiente = false;
 }
@@ -84,19 +89,22 @@ void Caja::focusInEvent(QFocusEvent *evento)
 {
     QLineEdit::focusInEvent(evento);
     m_entradaConRaton = evento->reason() == Qt::MouseFocusReason;
-    if (evento->reason() != Qt::PopupFocusReason && evento->reason() != Qt::ActiveWindowFocusReason)
+    if (!focoDePaso(evento->reason()))
         selectAll();
 }
 
 void Caja::focusOutEvent(QFocusEvent *evento)
 {
     QLineEdit::focusOutEvent(evento);
-    const auto *destino = QApplication::focusWidget();
-    const bool abandona = evento->reason() == Qt::MouseFocusReason && destino
-        && destino->property(NoConfirma).toBool();
-    if (!abandona && evento->reason() != Qt::PopupFocusReason
-        && evento->reason() != Qt::ActiveWindowFocusReason)
+    if (confirmaAlSalir(evento->reason()))
         confirmar();
+}
+
+void Caja::hideEvent(QHideEvent *evento)
+{
+    if (abandonada(this))
+        descartar();
+    QLineEdit::hideEvent(evento);
 }
 
 void Caja::mouseReleaseEvent(QMouseEvent *evento)

@@ -20,6 +20,8 @@ public:
     std::function<bool()> alConfirmar;
 
     bool confirmar() override;
+    bool pendiente() const override { return m_pendiente; }
+    void descartar() override;
 
     /// Shows a text of the program's; nothing is pending afterwards.
     void mostrar(const QString &texto);
@@ -34,11 +36,13 @@ protected:
 
     void focusInEvent(QFocusEvent *evento) override;
     void focusOutEvent(QFocusEvent *evento) override;
+    void hideEvent(QHideEvent *evento) override;
     void mouseReleaseEvent(QMouseEvent *evento) override;
 
 private:
     void alEditar(const QString &nuevo);
 
+    QString m_mostrado; ///< by the program
     QString m_anterior;
     bool m_pendiente = false;
     bool m_confirmando = false;

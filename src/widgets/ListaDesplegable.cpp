@@ -3,7 +3,6 @@
 #include "widgets/PantallaBase.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
@@ -22,12 +21,6 @@ public:
         return Acceptable;
     }
 };
-
-bool esDePaso(const QFocusEvent *evento)
-{
-    return evento->reason() == Qt::PopupFocusReason
-        || evento->reason() == Qt::ActiveWindowFocusReason;
-}
 
 } // namespace
 
@@ -57,7 +50,13 @@ void ListaDesplegable::mostrarEntrada(int posicion)
 {
     setCurrentIndex(posicion);
     setEditText(itemText(posicion));
+    m_mostrada = posicion;
     m_pendiente = false;
+}
+
+void ListaDesplegable::descartar()
+{
+    mostrarEntrada(m_mostrada);
 }
 
 bool ListaDesplegable::confirmar()
@@ -71,8 +70,11 @@ bool ListaDesplegable::confirmar()
         rechazar();
         return false;
     }
-    m_pendiente = !procedimiento(pantallaDe(this), [&] { alElegir(posicion); });
-    return !m_pendiente;
+    const bool tomada = procedimiento(pantallaDe(this), [&] { alElegir(posicion); });
+    m_pendiente = !tomada;
+    if (tomada)
+        m_mostrada = posicion;
+    return tomada;
 }
 
 void ListaDesplegable::rechazar()
@@ -80,15 +82,15 @@ void ListaDesplegable::rechazar()
     alRechazar();
     // the list stays closed, so that the text can be put right
     QTimer::singleShot(0, this, [this] {
-        setFocus(Qt::PopupFocusReason);
-        lineEdit()->selectAll();
+        if (recuperarFoco(this, Qt::PopupFocusReason))
+            lineEdit()->selectAll();
     });
 }
 
 void ListaDesplegable::focusInEvent(QFocusEvent *evento)
 {
     QComboBox::focusInEvent(evento);
-    if (esDePaso(evento))
+    if (focoDePaso(evento->reason()))
         return;
     lineEdit()->selectAll();
     if (m_despliega)
@@ -101,11 +103,15 @@ void ListaDesplegable::focusInEvent(QFocusEvent *evento)
 void ListaDesplegable::focusOutEvent(QFocusEvent *evento)
 {
     QComboBox::focusOutEvent(evento);
-    const auto *destino = QApplication::focusWidget();
-    const bool abandona = evento->reason() == Qt::MouseFocusReason && destino
-        && destino->property(NoConfirma).toBool();
-    if (!esDePaso(evento) && !abandona)
+    if (confirmaAlSalir(evento->reason()))
         confirmar();
+}
+
+void ListaDesplegable::hideEvent(QHideEvent *evento)
+{
+    if (abandonada(this))
+        descartar();
+    QComboBox::hideEvent(evento);
 }
 
 /// The list of a combo box swallows Tab, which would hold a keyboard user in it.

@@ -26,10 +26,13 @@ public:
     void mostrarEntrada(int posicion);
 
     bool confirmar() override;
+    bool pendiente() const override { return m_pendiente; }
+    void descartar() override;
 
 protected:
     void focusInEvent(QFocusEvent *evento) override;
     void focusOutEvent(QFocusEvent *evento) override;
+    void hideEvent(QHideEvent *evento) override;
     bool eventFilter(QObject *objeto, QEvent *evento) override;
 
 private:
@@ -37,6 +40,7 @@ private:
     void salirDeLaLista(bool adelante);
 
     bool m_despliega = false;
+    int m_mostrada = -1; ///< the entry last shown or taken
     bool m_pendiente = false;
     bool m_confirmando = false;
 };

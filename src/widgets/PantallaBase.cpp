@@ -1,20 +1,28 @@
 #include "widgets/PantallaBase.h"
 
+#include "core/Textos.h"
 #include "widgets/Accesos.h"
 #include "widgets/Confirmable.h"
+#include "widgets/Disposicion.h"
 #include "widgets/Iconos.h"
 #include "widgets/Mensajes.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 PantallaBase::PantallaBase(const QString &nombre, QWidget *padre)
     : QWidget(padre)
@@ -40,6 +48,7 @@ void PantallaBase::hacerModal()
     setWindowFlag(Qt::Dialog);
     setWindowModality(Qt::ApplicationModal);
     setWindowIcon(icono(Icono::Programa));
+    envolver();
 }
 
 void PantallaBase::ejecutar()
@@ -57,6 +66,7 @@ void PantallaBase::cerrarA(Pantalla siguiente)
         return;
     m_terminada = true;
     m_siguiente = m_abridor ? Pantalla::Ninguna : siguiente;
+    descartarCajas();
     cerrar();
 }
 
@@ -68,18 +78,121 @@ void PantallaBase::cerrar()
 
 void PantallaBase::centrar()
 {
-    adjustSize();
+    const QRect libre = screen()->availableGeometry();
     const QWidget *sobre = parentWidget() ? parentWidget()->window() : nullptr;
-    const QRect lugar = sobre ? sobre->geometry() : screen()->availableGeometry();
-    move(lugar.center() - rect().center());
+    QRect lugar({}, sizeHint().boundedTo(libre.size()));
+    lugar.moveCenter((sobre ? sobre->geometry() : libre).center());
+    lugar.moveTopLeft({qMax(lugar.x(), libre.x()), qMax(lugar.y(), libre.y())});
+    setGeometry(lugar);
+}
+
+static QList<Confirmable *> camposDe(const PantallaBase &pantalla)
+{
+    QList<Confirmable *> campos;
+    for (auto *hijo : pantalla.findChildren<QWidget *>())
+        if (auto *campo = dynamic_cast<Confirmable *>(hijo))
+            campos.append(campo);
+    return campos;
 }
 
 bool PantallaBase::confirmarCajas()
 {
-    const auto hijos = findChildren<QWidget *>();
-    return std::ranges::all_of(hijos, [](QWidget *hijo) {
-        auto *campo = dynamic_cast<Confirmable *>(hijo);
-        return !campo || campo->confirmar();
+    return std::ranges::all_of(camposDe(*this), &Confirmable::confirmar);
+}
+
+void PantallaBase::descartarCajas()
+{
+    for (auto *campo : camposDe(*this))
+        if (campo->pendiente())
+            campo->descartar();
+}
+
+bool PantallaBase::perderia() const
+{
+    return modificada()
+        || (edita() && std::ranges::any_of(camposDe(*this), &Confirmable::pendiente));
+}
+
+bool PantallaBase::aceptaCerrarse()
+{
+    return !perderia()
+        || mensajes::pregunta(this, windowTitle(), msj(Msj::PreguntaCerrarSinGuardar));
+}
+
+void PantallaBase::abandonar()
+{
+    dejar();
+    cerrar();
+}
+
+/// What is typed is dropped, and what the frame's closing leaves behind is left.
+void PantallaBase::dejar()
+{
+    m_terminada = true;
+    descartarCajas();
+    procedimiento(this, [this] { m_siguiente = alCerrarMarco(); });
+}
+
+void PantallaBase::suspender(bool suspendida)
+{
+    if (suspendida && !m_velo) {
+        m_velo = nuevaEtiqueta(u"lblSuspendida"_s, this);
+        m_velo->setWordWrap(true);
+        m_velo->setAlignment(Qt::AlignCenter);
+        m_velo->setMargin(8);
+        m_velo->setAutoFillBackground(true);
+        m_velo->setBackgroundRole(QPalette::ToolTipBase);
+        m_velo->setForegroundRole(QPalette::ToolTipText);
+    }
+    setEnabled(!suspendida);
+    if (m_velo)
+        m_velo->setVisible(suspendida);
+    colocarVelo();
+}
+
+void PantallaBase::colocarVelo()
+{
+    if (!m_velo)
+        return;
+    m_velo->setText(msj(Msj::DeshabilitadoEnEdicion));
+    m_velo->setGeometry(0, 0, width(), m_velo->heightForWidth(width()));
+    m_velo->raise();
+}
+
+namespace {
+
+/// Holds the contents of a screen; its keys are the screen's.
+class Contenido : public QScrollArea
+{
+public:
+    explicit Contenido(QWidget *pantalla)
+        : QScrollArea(pantalla)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+    }
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+
+protected:
+    void keyPressEvent(QKeyEvent *evento) override { evento->ignore(); }
+};
+
+} // namespace
+
+void PantallaBase::envolver()
+{
+    auto *contenido = new Contenido(this);
+    // within the same window from the start, so that the order of Tab stays
+    auto *cuerpo = new QWidget(contenido);
+    cuerpo->setLayout(layout());
+    contenido->setWidget(cuerpo);
+    auto *todo = new QVBoxLayout(this);
+    todo->setContentsMargins(0, 0, 0, 0);
+    todo->addWidget(contenido);
+    connect(qApp, &QApplication::focusChanged, contenido, [contenido](QWidget *, QWidget *actual) {
+        if (actual && contenido->widget()->isAncestorOf(actual))
+            contenido->ensureWidgetVisible(actual, 16, 16);
     });
 }
 
@@ -112,6 +225,7 @@ void PantallaBase::changeEvent(QEvent *evento)
             Anadir_captions();
             repartirAccesos(this);
             alCambiarIdioma();
+            colocarVelo();
         });
     }
     QWidget::changeEvent(evento);
@@ -128,8 +242,11 @@ void PantallaBase::showEvent(QShowEvent *evento)
 void PantallaBase::closeEvent(QCloseEvent *evento)
 {
     if (!m_terminada) {
-        m_terminada = true;
-        procedimiento(this, [this] { m_siguiente = alCerrarMarco(); });
+        if (!aceptaCerrarse()) {
+            evento->ignore();
+            return;
+        }
+        dejar();
     }
     evento->accept();
     Q_EMIT cerrada();
@@ -155,4 +272,10 @@ void PantallaBase::keyPressEvent(QKeyEvent *evento)
         boton->click();
     else
         focusNextChild();
+}
+
+void PantallaBase::resizeEvent(QResizeEvent *evento)
+{
+    QWidget::resizeEvent(evento);
+    colocarVelo();
 }

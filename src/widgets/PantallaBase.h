@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QAbstractButton;
+class QLabel;
 class QPushButton;
 
 /// The screens that one screen, or a row of the menus, may ask for; the main window opens them.
@@ -47,6 +48,18 @@ public:
     /// Shows the stored data again; after a save, deletion or restore elsewhere.
     virtual void Actualizar() {}
 
+    /// Whether closing now would lose something: a change, or a text still only typed.
+    bool perderia() const;
+    /// Asks before something is lost; true when the screen may close.
+    bool aceptaCerrarse();
+    /// Closes as the frame does, without asking.
+    void abandonar();
+    /// Disables what the screen holds while another one edits a record, and says why over it.
+    void suspender(bool suspendida);
+    /// Lets what the screen holds be scrolled where there is no room for it; whatever has the focus
+    /// is kept in view. Called once, before the screen is shown.
+    void envolver();
+
     /// Makes a dialogue of the screen, over all others.
     void hacerModal();
     /// Shows it as one and returns when it has been closed.
@@ -75,6 +88,8 @@ protected:
 
     /// Takes what is still only typed in a box into the record; false when it was refused.
     bool confirmarCajas();
+    /// Forgets what is still only typed.
+    void descartarCajas();
     /// Connects a button to a guarded action that first commits the box with the focus.
     void alPulsar(QAbstractButton *boton, const std::function<void()> &accion);
     /// The same without committing: cancel buttons.
@@ -85,12 +100,16 @@ protected:
     void showEvent(QShowEvent *evento) override;
     void closeEvent(QCloseEvent *evento) override;
     void keyPressEvent(QKeyEvent *evento) override;
+    void resizeEvent(QResizeEvent *evento) override;
 
 private:
     void cerrar();
     void centrar();
+    void colocarVelo();
+    void dejar();
 
     std::function<bool(Pantalla)> m_abridor;
+    QLabel *m_velo = nullptr; ///< why the screen cannot be used now
     Pantalla m_siguiente = Pantalla::Ninguna;
     bool m_terminada = false;
 };
