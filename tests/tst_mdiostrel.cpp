@@ -330,7 +330,7 @@ private Q_SLOTS:
         const auto uno = Entorno::altaDeclarante();
         elegir("mnuDeclarante", "mnuAbrirDeclarante");
         const auto *lista = pantalla("FrmDecLista");
-        QTest::keyClick(m_ventana.get(), Qt::Key_N, Qt::ControlModifier);
+        pulsarBarra("nuedec");
         QTRY_VERIFY(pantalla("frmDecDatos"));
         const Manos enLista(*pantalla("FrmDecLista"));
         auto *motivo = enLista.control<QLabel>("lblSuspendida");
@@ -340,7 +340,7 @@ private Q_SLOTS:
         QVERIFY(!tabla->isEnabled());
         m_ventana->findChild<QMdiArea *>()->setActiveSubWindow(
             qobject_cast<QMdiSubWindow *>(lista->parentWidget()));
-        const QPoint fila = tabla->visualRect(tabla->model()->index(0, 0)).center();
+        const QPoint fila = tabla->visualRect(tabla->model()->index(0, 1)).center();
         QTest::mouseDClick(tabla->viewport(), Qt::LeftButton, {}, fila);
         for (const auto tecla : {Qt::Key_Return, Qt::Key_Delete, Qt::Key_Escape})
             QTest::keyClick(lista->parentWidget(), tecla);
@@ -351,9 +351,10 @@ private Q_SLOTS:
         m_ventana->CambiarIdioma();
         QVERIFY(motivo->text().startsWith(u"Ez dago erabilgarri"));
 
-        cerrarMarco("frmDecDatos");
+        pantalla("frmDecDatos")->parentWidget()->close();
         QTRY_VERIFY(!motivo->isVisible());
         QVERIFY(tabla->isEnabled());
+        QTest::mouseClick(tabla->viewport(), Qt::LeftButton, {}, fila);
         QTest::mouseDClick(tabla->viewport(), Qt::LeftButton, {}, fila);
         QTRY_COMPARE(pantallas(), QStringList(u"FrmDecResumen"_s));
         QCOMPARE(unico::la<cDecResumen>().CSCO(), uno);
@@ -363,7 +364,8 @@ private Q_SLOTS:
     void cerrarConCambiosPregunta()
     {
         const auto nuevoConCambios = [this] {
-            QTest::keyClick(m_ventana.get(), Qt::Key_N, Qt::ControlModifier);
+            QTRY_VERIFY(!pantalla("frmDecDatos"));
+            pulsarBarra("nuedec");
             QTRY_VERIFY(pantalla("frmDecDatos"));
             // still only typed: the box has the focus
             Manos(*pantalla("frmDecDatos")).escribir("txtnombre", u"UNO"_s);
@@ -390,7 +392,7 @@ private Q_SLOTS:
         QTRY_COMPARE(pantallas(), QStringList());
         nuevoConCambios();
         m_mensajes->responder(QMessageBox::Yes);
-        cerrarVentana();
+        elegir("mnuDeclarante", "mnuSalir");
         QTRY_VERIFY(!m_ventana->isVisible());
         QCOMPARE(m_mensajes->tomar().size(), 2);
     }
@@ -412,12 +414,13 @@ private Q_SLOTS:
             },
         };
         for (const auto &salir : salidas) {
-            QTest::keyClick(m_ventana.get(), Qt::Key_N, Qt::ControlModifier);
+            pulsarBarra("nuedec");
             QTRY_VERIFY(pantalla("frmDecDatos"));
             const Manos m(*pantalla("frmDecDatos"));
             m.escribir("txtcodprov", u"99"_s);
+            QApplication::setActiveWindow(m_ventana.get());
             salir(m);
-            QTRY_COMPARE(pantallas(), QStringList());
+            QTRY_VERIFY(!pantalla("frmDecDatos"));
         }
         QCOMPARE(m_mensajes->tomar().size(), 1); // the question of the frame
     }
@@ -426,7 +429,7 @@ private Q_SLOTS:
     void elFocoQuedaALaVista()
     {
         m_ventana->resize(683, 384);
-        QTest::keyClick(m_ventana.get(), Qt::Key_N, Qt::ControlModifier);
+        pulsarBarra("nuedec");
         QTRY_VERIFY(pantalla("frmDecDatos"));
         auto *datos = pantalla("frmDecDatos");
         const auto *area = m_ventana->findChild<QMdiArea *>()->viewport();

@@ -11,7 +11,9 @@ BotonImagen::BotonImagen(const QString &nombre, Icono cual, QPushButton *gemelo)
     setIcon(icono(cual));
     setIconSize({24, 24});
     setAutoRaise(true);
-    setFocusPolicy(Qt::NoFocus);
+    // a click goes where one on the twin goes: with no focus at all, it would go to the frame
+    setFocusPolicy(Qt::ClickFocus);
+    setFocusProxy(gemelo);
     connect(this, &QToolButton::clicked, gemelo, &QPushButton::click);
     gemelo->installEventFilter(this);
     copiarEstado();

@@ -182,6 +182,7 @@ protected:
 
 void PantallaBase::envolver()
 {
+    auto *conFoco = focusWidget();
     auto *contenido = new Contenido(this);
     // within the same window from the start, so that the order of Tab stays
     auto *cuerpo = new QWidget(contenido);
@@ -190,6 +191,8 @@ void PantallaBase::envolver()
     auto *todo = new QVBoxLayout(this);
     todo->setContentsMargins(0, 0, 0, 0);
     todo->addWidget(contenido);
+    if (conFoco)
+        conFoco->setFocus();
     connect(qApp, &QApplication::focusChanged, contenido, [contenido](QWidget *, QWidget *actual) {
         if (actual && contenido->widget()->isAncestorOf(actual))
             contenido->ensureWidgetVisible(actual, 16, 16);
