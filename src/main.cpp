@@ -1,7 +1,7 @@
 #include "app/Arranque.h"
 #include "cli/Cli.h"
 #include "core/Rutas.h"
-#include "server/Registro.h"
+#include "server/Servidor.h"
 
 #include <QGuiApplication>
 

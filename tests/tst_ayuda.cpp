@@ -3,7 +3,7 @@
 #include "core/Textos.h"
 #include "help/TeclaAyuda.h"
 #include "help/TemasAyuda.h"
-#include "resources/Mensajes.h"
+#include "resources/TablaMensajes.h"
 #include "support/Entorno.h"
 #include "support/Manos.h"
 

@@ -209,7 +209,7 @@ private Q_SLOTS:
             const Rutas rutas = Rutas::desde(raiz + programa);
             QCOMPARE(rutas.programa, QDir::cleanPath(raiz + programa));
             QCOMPARE(rutas.tablas, raiz + tablas);
-            QCOMPARE(rutas.modelo, rutas.tablas + u"OstrMod.mdb"_s);
+            QCOMPARE(rutas.datos, rutas.tablas + u"OstrMod.mdb"_s);
             QCOMPARE(rutas.lectura, rutas.tablas + u"OstrLec.mdb"_s);
         }
     }

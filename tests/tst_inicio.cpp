@@ -3,7 +3,7 @@
 #include "core/CEntrada.h"
 #include "core/Servicios.h"
 #include "core/Textos.h"
-#include "server/Registro.h"
+#include "server/Servidor.h"
 #include "support/ConductorMensajes.h"
 #include "support/Entorno.h"
 #include "support/Manos.h"
@@ -67,7 +67,7 @@ private:
         });
         reloj->start();
     }
-    static QString idiomaGuardado() { return servicioModelo()->ObtenerIdioma(); }
+    static QString idiomaGuardado() { return servicioDatos()->ObtenerIdioma(); }
 
 private Q_SLOTS:
     void init() { m_entorno.emplace(); }
@@ -125,7 +125,7 @@ private Q_SLOTS:
 
     void conActualizacionEsperaMasYAvisa()
     {
-        servicioModelo()->GuardarActOnline(1);
+        servicioDatos()->GuardarActOnline(1);
         bool visibleMientras = false;
         QPointer<QLabel> lblAct;
         Arranque arranque(Breves);
@@ -144,7 +144,7 @@ private Q_SLOTS:
 
     void busquedaLargaNoAnadeEspera()
     {
-        servicioModelo()->GuardarActOnline(1);
+        servicioDatos()->GuardarActOnline(1);
         constexpr auto espera = 600ms;
         Arranque arranque({20ms, espera});
         QElapsedTimer trasLaBusqueda;
@@ -173,9 +173,9 @@ private Q_SLOTS:
             manos.tecla(Qt::Key_Return);
             QCOMPARE(manos.foco(), u"cmdcastellano"_s);
             manos.pulsar("chkActOnline");
-            QCOMPARE(servicioModelo()->ObtenerActOnline(), qint16(1));
+            QCOMPARE(servicioDatos()->ObtenerActOnline(), qint16(1));
             manos.pulsar("chkActOnline");
-            QCOMPARE(servicioModelo()->ObtenerActOnline(), qint16(0));
+            QCOMPARE(servicioDatos()->ObtenerActOnline(), qint16(0));
             manos.pulsar("cmdeuskera");
         });
         const auto principal = Arranque(Breves).iniciar();
@@ -214,7 +214,7 @@ private Q_SLOTS:
         const QByteArray basura("this is no database");
         fijarRutas(Rutas::desde(m_entorno->ruta(u"otra"_s)));
         QVERIFY(QDir().mkpath(rutas().tablas));
-        QFile danada(rutas().modelo);
+        QFile danada(rutas().datos);
         QVERIFY(danada.open(QIODevice::WriteOnly));
         QCOMPARE(danada.write(basura), qint64(basura.size()));
         danada.close();

@@ -211,7 +211,7 @@ private Q_SLOTS:
             QVERIFY(motivoNoImportable(nada).contains(u"no un fichero"));
         QVERIFY(!motivoNoExportable(tuberia).isEmpty());
         QVERIFY(!motivoNoExportable(carpeta).isEmpty());
-        for (const QString &propio : {rutas().modelo, rutas().lectura, FicheroErrores::ruta()}) {
+        for (const QString &propio : {rutas().datos, rutas().lectura, FicheroErrores::ruta()}) {
             lineas::escribir(FicheroErrores::ruta(), "a");
             const QString enlace = m_entorno->ruta(u"enlace"_s);
             QFile::remove(enlace);

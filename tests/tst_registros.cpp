@@ -13,7 +13,7 @@
 #include "declarations/RegistroDeclaracion.h"
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"
-#include "resources/Mensajes.h"
+#include "resources/TablaMensajes.h"
 #include "support/Entorno.h"
 
 #include <QTest>

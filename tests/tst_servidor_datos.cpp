@@ -1,4 +1,4 @@
-#include "dataservice/ListasSql.h"
+#include "dataservice/SvrOstr.h"
 #include "support/ServidorPrueba.h"
 
 #include <SQLiteCpp/Database.h>
@@ -18,7 +18,7 @@ private Q_SLOTS:
 
     void ajustes()
     {
-        const auto objeto = m_servidor->generales(m_servidor->modelo());
+        const auto objeto = m_servidor->generales(m_servidor->datos());
         QCOMPARE(objeto->ObtenerIdioma(), QString());
         QCOMPARE(objeto->ObtenerActOnline(), 0);
         objeto->CambiarIdioma(u"E"_s);
@@ -28,7 +28,7 @@ private Q_SLOTS:
         objeto->GuardarActOnline(-1);
         QCOMPARE(objeto->ObtenerActOnline(), -1);
         Registro limites;
-        m_servidor->generales(m_servidor->consulta())->DameEjerPerMinMax(limites);
+        m_servidor->generales(m_servidor->lectura())->DameEjerPerMinMax(limites);
         QCOMPARE(limites, (Registro{2002, 2030, 1, 12}));
     }
 
@@ -53,9 +53,9 @@ private Q_SLOTS:
         QFETCH(int, periodo);
         QFETCH(float, mensual);
         QFETCH(QVariantList, anuales);
-        SQLite::Database(m_servidor->consulta().toStdString(), SQLite::OPEN_READWRITE)
+        SQLite::Database(m_servidor->lectura().toStdString(), SQLite::OPEN_READWRITE)
             .exec("INSERT INTO T09_TIPOS VALUES (202707, 915)");
-        const auto objeto = m_servidor->generales(m_servidor->consulta());
+        const auto objeto = m_servidor->generales(m_servidor->lectura());
         QCOMPARE(objeto->ObtenerTipoImpositivo(static_cast<qint16>(ejercicio),
                                                static_cast<quint8>(periodo)),
                  mensual);
@@ -66,7 +66,7 @@ private Q_SLOTS:
 
     void nombres()
     {
-        const auto objeto = m_servidor->generales(m_servidor->consulta());
+        const auto objeto = m_servidor->generales(m_servidor->lectura());
         QString nombre;
         objeto->ObtenerNombreProvincia(u"20"_s, nombre, 10000);
         QCOMPARE(nombre, u"VARLENDA"_s);
@@ -78,7 +78,7 @@ private Q_SLOTS:
 
     void listasEnOrdenDeLectura()
     {
-        const auto objeto = m_servidor->generales(m_servidor->consulta());
+        const auto objeto = m_servidor->generales(m_servidor->lectura());
         Filas filas;
         objeto->CargarProvincias(ListasSql::Provincias[0].toString(), filas);
         QCOMPARE(filas.size(), 52);
@@ -94,7 +94,7 @@ private Q_SLOTS:
 
     void soloUnSelect()
     {
-        const auto objeto = m_servidor->generales(m_servidor->consulta());
+        const auto objeto = m_servidor->generales(m_servidor->lectura());
         for (const QString &sql :
              {u""_s, u"DELETE FROM T08_GENERAL"_s, u"SELECT 1, 2; DROP TABLE T08_GENERAL"_s}) {
             Filas filas{1};

@@ -151,10 +151,9 @@ private Q_SLOTS:
         {
             const auto objeto = m_servidor->declaraciones();
             objeto->BorrarDatosNoComunes(clave, u"480"_s);
-            QCOMPARE(falloDe([&] {
-                         m_servidor->generales(m_servidor->modelo())->CambiarIdioma(u"E"_s);
-                     }),
-                     Fallo::EnUso);
+            QCOMPARE(
+                falloDe([&] { m_servidor->generales(m_servidor->datos())->CambiarIdioma(u"E"_s); }),
+                Fallo::EnUso);
         }
         Registro figuras;
         m_servidor->declaraciones()->Cargar480(clave, figuras);

@@ -35,7 +35,7 @@ private Q_SLOTS:
         registro[CODMUN] = QString();
         registro[NUM430] = registro[NUM480] = 0.0; // not what the caller said
         QCOMPARE(cargado, registro);
-        QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), 1);
+        QCOMPARE(m_servidor->generales(m_servidor->datos())->NumeroDeclarantes(), 1);
     }
 
     void duplicados()
@@ -90,7 +90,7 @@ private Q_SLOTS:
             registro[campo] = valor;
             rechazar(registro);
         }
-        QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), 0);
+        QCOMPARE(m_servidor->generales(m_servidor->datos())->NumeroDeclarantes(), 0);
     }
 
     void borrado()
@@ -218,7 +218,7 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(m_servidor->declarantes()->GuardarConjunto(
                                      {bueno, QVariantList{1, 2}}, Existentes::Sustituir, 0),
                                  std::invalid_argument);
-        QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), 0);
+        QCOMPARE(m_servidor->generales(m_servidor->datos())->NumeroDeclarantes(), 0);
     }
 
 private:

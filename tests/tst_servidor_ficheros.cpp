@@ -1,6 +1,6 @@
 #include "server/Comprobacion.h"
-#include "server/Consulta.h"
-#include "server/Migracion.h"
+#include "server/Esquemas.h"
+#include "server/cTraspaso.h"
 #include "support/ServidorPrueba.h"
 
 #include <QDir>
@@ -50,7 +50,7 @@ private Q_SLOTS:
     void rechazados_data()
     {
         QTest::addColumn<QString>("caso");
-        QTest::addColumn<bool>("esModelo");
+        QTest::addColumn<bool>("esDatos");
         QTest::addColumn<Fallo>("fallo");
         const std::initializer_list<std::pair<const char *, Fallo>> casos{
             {"empty", Fallo::Danada},   {"truncated", Fallo::Danada}, {"short", Fallo::Danada},
@@ -58,18 +58,18 @@ private Q_SLOTS:
             {"foreign", Fallo::Ajena},  {"unnamed", Fallo::Ajena},    {"swapped", Fallo::Ajena},
             {"newer", Fallo::MasNueva},
         };
-        for (const bool esModelo : {true, false})
+        for (const bool esDatos : {true, false})
             for (const auto &[caso, fallo] : casos)
-                QTest::addRow("%s %s", caso, esModelo ? "model" : "lookup")
-                    << QString::fromUtf8(caso) << esModelo << fallo;
+                QTest::addRow("%s %s", caso, esDatos ? "model" : "lookup")
+                    << QString::fromUtf8(caso) << esDatos << fallo;
     }
     void rechazados()
     {
         QFETCH(QString, caso);
-        QFETCH(bool, esModelo);
+        QFETCH(bool, esDatos);
         QFETCH(Fallo, fallo);
-        const QString ruta = esModelo ? m_servidor->modelo() : m_servidor->consulta();
-        const QString otra = esModelo ? m_servidor->consulta() : m_servidor->modelo();
+        const QString ruta = esDatos ? m_servidor->datos() : m_servidor->lectura();
+        const QString otra = esDatos ? m_servidor->lectura() : m_servidor->datos();
         const QByteArray malo = estropeado(caso, bytes(ruta), bytes(otra));
         QVERIFY(QFile::remove(otra)); // has to be prepared again all the same
         escribir(ruta, malo);
@@ -89,22 +89,22 @@ private Q_SLOTS:
 
     void faltante()
     {
-        QVERIFY(QFile::remove(m_servidor->modelo()));
+        QVERIFY(QFile::remove(m_servidor->datos()));
         QCOMPARE(falloDe([&] { usar(); }), Fallo::NoExiste);
-        QVERIFY(!QFile::exists(m_servidor->modelo()));
+        QVERIFY(!QFile::exists(m_servidor->datos()));
         QVERIFY(!m_servidor->traspaso());
-        QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), 0);
+        QCOMPARE(m_servidor->generales(m_servidor->datos())->NumeroDeclarantes(), 0);
     }
 
     void consultaAnteriorSeRenueva()
     {
         using namespace servidor;
-        const QString ruta = m_servidor->consulta();
+        const QString ruta = m_servidor->lectura();
         otroPrograma(ruta).exec("UPDATE T08_GENERAL SET T08_URLACT = 'old'");
-        prepararConsulta(ruta);
+        prepararLectura(ruta);
         QCOMPARE(m_servidor->generales(ruta)->URLAct(), u"old"_s);
-        const Formato nuevo{FormatoConsulta.aplicacion, FormatoConsulta.esquema + 1, true};
-        prepararConsulta(ruta, nuevo);
+        const Formato nuevo{FormatoLectura.aplicacion, FormatoLectura.esquema + 1, true};
+        prepararLectura(ruta, nuevo);
         QCOMPARE(comprobarCabecera(ruta, nuevo, Version::Actual), nuevo.esquema);
         auto base = otroPrograma(ruta);
         QVERIFY(base.execAndGet("SELECT T08_URLACT FROM T08_GENERAL").getString() != "old");
@@ -112,7 +112,7 @@ private Q_SLOTS:
 
     void bloqueado()
     {
-        auto otro = otroPrograma(m_servidor->modelo());
+        auto otro = otroPrograma(m_servidor->datos());
         otro.exec("BEGIN EXCLUSIVE");
         QElapsedTimer reloj;
         reloj.start();
@@ -128,7 +128,7 @@ private Q_SLOTS:
         const QByteArray carpeta = QFile::encodeName(m_servidor->carpeta());
         const QByteArray padre = QFile::encodeName(QFileInfo(m_servidor->carpeta()).path());
         QVERIFY(::chmod(padre.constData(), 0755) == 0 && ::chmod(carpeta.constData(), 0555) == 0);
-        for (const QString &ruta : {m_servidor->modelo(), m_servidor->consulta()})
+        for (const QString &ruta : {m_servidor->datos(), m_servidor->lectura()})
             QVERIFY(::chmod(QFile::encodeName(ruta).constData(), 0444) == 0);
         // Who may do anything (root) has to be somebody else meanwhile, for files only.
         const int yo = ::setfsuid(65534);
@@ -156,7 +156,7 @@ private Q_SLOTS:
             ::setrlimit(RLIMIT_FSIZE, &antes);
             std::signal(SIGXFSZ, manejador);
         });
-        const auto tamano = static_cast<rlim_t>(QFileInfo(m_servidor->modelo()).size());
+        const auto tamano = static_cast<rlim_t>(QFileInfo(m_servidor->datos()).size());
         const rlimit lleno{tamano, antes.rlim_max};
         QCOMPARE(::setrlimit(RLIMIT_FSIZE, &lleno), 0);
         std::optional<Fallo> fallo;
@@ -164,9 +164,9 @@ private Q_SLOTS:
         for (; !fallo && guardados < 1000; guardados += fallo ? 0 : 1)
             fallo = falloDe([&] { m_servidor->alta(u"D%1"_s.arg(guardados), u"NOMBRE"_s); });
         QCOMPARE(fallo, Fallo::SinEspacio);
-        QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), guardados);
+        QCOMPARE(m_servidor->generales(m_servidor->datos())->NumeroDeclarantes(), guardados);
         QVERIFY(!m_servidor->traspaso()); // whole, without a journal left
-        QVERIFY(!QFile::exists(m_servidor->modelo() + u"-journal"_s));
+        QVERIFY(!QFile::exists(m_servidor->datos() + u"-journal"_s));
 #else
         QSKIP("needs a file size limit");
 #endif
@@ -175,21 +175,21 @@ private Q_SLOTS:
     void migracion()
     {
         using namespace servidor;
-        const Formato nuevo{FormatoModelo.aplicacion, 3, false};
+        const Formato nuevo{FormatoDatos.aplicacion, 3, false};
         const Paso pasos[]{{1, "ALTER TABLE DECLARANTES ADD COLUMN FAX TEXT NOT NULL DEFAULT ''"},
                            {2, "UPDATE DECLARANTES SET FAX = DNI"}};
-        const QByteArray antes = bytes(m_servidor->modelo());
+        const QByteArray antes = bytes(m_servidor->datos());
         // Without the last step nothing of the first one holds.
-        QCOMPARE(falloDe([&] { migrar(m_servidor->modelo(), nuevo, std::span(pasos).first(1)); }),
+        QCOMPARE(falloDe([&] { migrar(m_servidor->datos(), nuevo, std::span(pasos).first(1)); }),
                  Fallo::Danada);
-        QCOMPARE(bytes(m_servidor->modelo()), antes);
-        migrar(m_servidor->modelo(), nuevo, pasos);
-        auto base = otroPrograma(m_servidor->modelo());
+        QCOMPARE(bytes(m_servidor->datos()), antes);
+        migrar(m_servidor->datos(), nuevo, pasos);
+        auto base = otroPrograma(m_servidor->datos());
         QCOMPARE(base.execAndGet("SELECT FAX FROM DECLARANTES").getString(), "12345678Z");
-        QCOMPARE(comprobarCabecera(m_servidor->modelo(), nuevo, Version::Actual), 3);
+        QCOMPARE(comprobarCabecera(m_servidor->datos(), nuevo, Version::Actual), 3);
         QCOMPARE(falloDe([&] { usar(); }), Fallo::MasNueva);
-        const QString copia = copiaAnterior(m_servidor->modelo(), 1);
-        QCOMPARE(comprobarCabecera(copia, FormatoModelo, Version::Actual), 1);
+        const QString copia = copiaAnterior(m_servidor->datos(), 1);
+        QCOMPARE(comprobarCabecera(copia, FormatoDatos, Version::Actual), 1);
         QCOMPARE(otroPrograma(copia).execAndGet("SELECT count(*) FROM DECLARANTES").getInt(), 1);
     }
 
@@ -204,14 +204,14 @@ private Q_SLOTS:
         QFETCH(QString, caso);
         copiador(true)->CrearBackup();
         m_servidor->alta(u"00000000T"_s, u"EVA"_s);
-        const QByteArray estado = estropeado(caso, bytes(m_servidor->modelo()), {});
+        const QByteArray estado = estropeado(caso, bytes(m_servidor->datos()), {});
         if (caso == u"missing")
-            QVERIFY(QFile::remove(m_servidor->modelo()));
+            QVERIFY(QFile::remove(m_servidor->datos()));
         else if (caso != u"good")
-            escribir(m_servidor->modelo(), estado);
+            escribir(m_servidor->datos(), estado);
         QVERIFY(copiador(false)->CrearRestore());
         QVERIFY(!m_servidor->traspaso());
-        QCOMPARE(m_servidor->generales(m_servidor->modelo())->NumeroDeclarantes(), 1);
+        QCOMPARE(m_servidor->generales(m_servidor->datos())->NumeroDeclarantes(), 1);
         const QStringList apartados
             = QDir(m_servidor->carpeta()).entryList({u"OstrMod.mdb.*"_s}, QDir::Files);
         const bool apartado = caso == u"random" || caso == u"newer";
@@ -237,9 +237,9 @@ private Q_SLOTS:
         QCOMPARE(cuantos(u"OstrMod_bak.5.mdb"_s), 3);
         // a bad copy is not restored
         escribir(copias.filePath(u"OstrMod_bak.mdb"_s), QByteArray(5000, 'x'));
-        const QByteArray antes = bytes(m_servidor->modelo());
+        const QByteArray antes = bytes(m_servidor->datos());
         QCOMPARE(falloDe([&] { copiador(false)->CrearRestore(); }), Fallo::Danada);
-        QCOMPARE(bytes(m_servidor->modelo()), antes);
+        QCOMPARE(bytes(m_servidor->datos()), antes);
     }
 
 private:
@@ -291,7 +291,7 @@ private:
         objeto->ArchivoDestino(copia ? guardado : modelo);
         objeto->RutaOrigen(copia ? tablas : copias);
         objeto->RutaDestino(copia ? copias : tablas);
-        objeto->BDLectura(m_servidor->consulta());
+        objeto->BDLectura(m_servidor->lectura());
         objeto->BDTabla(u"T08_GENERAL"_s);
         objeto->BDCampo(u"T08_BACKUP_TVC"_s);
         return objeto;

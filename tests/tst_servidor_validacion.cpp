@@ -1,4 +1,4 @@
-#include "server/Nif.h"
+#include "server/ValidacionDeclarante.h"
 #include "support/ServidorPrueba.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #include "core/Periodos.h"
 #include "core/Textos.h"
-#include "resources/Mensajes.h"
+#include "resources/TablaMensajes.h"
 
 #include <QFile>
 #include <QRegularExpression>

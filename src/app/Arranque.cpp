@@ -43,7 +43,7 @@ static void contarFallos(const QStringList &fallos)
 static bool pideBusqueda()
 {
     try {
-        return servicioModelo()->ObtenerActOnline() == 1;
+        return servicioDatos()->ObtenerActOnline() == 1;
     } catch (const std::exception &) {
         return false; // the settings could not be read, which has been told
     }

@@ -6,7 +6,6 @@
 #include "core/CEntrada.h"
 #include "core/Rutas.h"
 #include "core/Sesion.h"
-#include "core/TextoFallo.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 

@@ -1,7 +1,6 @@
 #include "cli/Declarante.h"
 #include "cli/Orden.h"
 #include "core/Servicios.h"
-#include "core/TextoFallo.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/cDecDatos.h"

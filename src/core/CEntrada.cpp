@@ -21,17 +21,17 @@ void CEntrada::AplicarIdioma() const
 
 void CEntrada::InicializarContadores()
 {
-    m_numdecla = servicioModelo()->NumeroDeclarantes();
+    m_numdecla = servicioDatos()->NumeroDeclarantes();
 }
 
 void CEntrada::ModificarIdioma(const QString &codigo)
 {
-    servicioModelo()->CambiarIdioma(codigo);
+    servicioDatos()->CambiarIdioma(codigo);
 }
 
 void CEntrada::LeerIdioma()
 {
-    m_idi = servicioModelo()->ObtenerIdioma();
+    m_idi = servicioDatos()->ObtenerIdioma();
 }
 
 void CEntrada::LeerEjercicioPeriodoMinMax()

@@ -19,7 +19,7 @@ Rutas Rutas::desde(const QString &carpetaPrograma)
         = cliente < 0 ? r.programa : r.programa.left(qMax<qsizetype>(cliente - 1, 0));
     r.tablas = base + (base.endsWith(u'/') ? u"Tablas/"_s : u"/Tablas/"_s);
     r.lectura = r.tablas + u"OstrLec.mdb"_s;
-    r.modelo = r.tablas + u"OstrMod.mdb"_s;
+    r.datos = r.tablas + u"OstrMod.mdb"_s;
     r.copias = r.programa + (r.programa.endsWith(u'/') ? u"backups/"_s : u"/backups/"_s);
     return r;
 }

@@ -9,7 +9,7 @@ struct Rutas
         programa; ///< folder of the executable, or the one given with --carpeta; no final separator
     QString tablas; ///< folder of the databases, with final separator
     QString lectura; ///< lookup database
-    QString modelo; ///< model database
+    QString datos; ///< model database
     QString copias; ///< folder of the backups, with final separator
 
     /// The tables folder is "Tablas" under the program folder; but a program folder whose path

@@ -5,10 +5,10 @@
 
 /// New service objects with the session's database paths set. Each is for one call.
 
-inline std::unique_ptr<SvrOstr::cDatosGeneral> servicioModelo()
+inline std::unique_ptr<SvrOstr::cDatosGeneral> servicioDatos()
 {
     auto servicio = servicio::crear<SvrOstr::cDatosGeneral>();
-    servicio->mdbname(rutas().modelo);
+    servicio->mdbname(rutas().datos);
     return servicio;
 }
 
@@ -22,13 +22,13 @@ inline std::unique_ptr<SvrOstr::cDatosGeneral> servicioLectura()
 inline std::unique_ptr<SvrOstr::cDeclarante> servicioDeclarante()
 {
     auto servicio = servicio::crear<SvrOstr::cDeclarante>();
-    servicio->mdbnameM(rutas().modelo);
+    servicio->mdbnameM(rutas().datos);
     return servicio;
 }
 
 inline std::unique_ptr<SvrOstr::cDeclaracion> servicioDeclaracion()
 {
     auto servicio = servicio::crear<SvrOstr::cDeclaracion>();
-    servicio->mdbname(rutas().modelo);
+    servicio->mdbname(rutas().datos);
     return servicio;
 }

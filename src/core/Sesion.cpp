@@ -2,7 +2,7 @@
 
 #include "core/CEntrada.h"
 #include "core/Servicios.h"
-#include "core/TextoFallo.h"
+#include "core/Textos.h"
 #include "core/Unico.h"
 
 #include <functional>
@@ -31,7 +31,7 @@ InicioSesion iniciarSesion()
     InicioSesion inicio;
     intentar(inicio, [&] {
         auto traspaso = servicio::crear<SvrOstr::cTraspaso>();
-        traspaso->mdbmod(rutas().modelo);
+        traspaso->mdbmod(rutas().datos);
         traspaso->mdbPath(rutas().tablas);
         inicio.terminar = traspaso->Traspaso();
     });

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <Msj.h>
+#include <exception>
 
 /// The texts that users see.
 
@@ -29,3 +30,11 @@ QString msjDesde(Msj primera, int k);
 
 /// Two-language chooser for texts that are not in the table.
 QString elegir(const QString &castellano, const QString &euskera, Idioma idioma = idiomaSesion());
+
+class ErrorDatos;
+
+/// What went wrong, for the user, in the session's language: a complete sentence.
+QString textoFallo(const ErrorDatos &error);
+QString textoFallo(const std::exception &error);
+/// The exception being handled; to be called inside a catch block.
+QString textoFalloActual();

@@ -2,7 +2,7 @@
 
 #include "core/Servicios.h"
 #include "core/Textos.h"
-#include "dataservice/ListasSql.h"
+#include "dataservice/SvrOstr.h"
 
 using Cargador = void (SvrOstr::cDatosGeneral::*)(const QString &, Filas &);
 

@@ -1,7 +1,6 @@
 #include "exchange/Exportacion.h"
 
 #include "core/Rutas.h"
-#include "core/TextoFallo.h"
 #include "core/Textos.h"
 #include "dataservice/ErrorDatos.h"
 #include "exchange/FicheroErrores.h"
@@ -60,7 +59,7 @@ Exportado exportar(const QString &destino, const std::function<void(const Visita
 bool esDelPrograma(const QString &ruta)
 {
     const QString cual = QFileInfo(ruta).canonicalFilePath();
-    return std::ranges::any_of(QStringList{rutas().modelo, rutas().lectura, FicheroErrores::ruta()},
+    return std::ranges::any_of(QStringList{rutas().datos, rutas().lectura, FicheroErrores::ruta()},
                                [&](const QString &nuestra) {
                                    return !cual.isEmpty()
                                        && cual == QFileInfo(nuestra).canonicalFilePath();

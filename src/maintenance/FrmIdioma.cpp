@@ -102,14 +102,14 @@ void FrmIdioma::cargar()
 {
     const bool castellano = unico::la<CEntrada>().IDI() == CodigoIdioma::Castellano;
     (castellano ? m_cmdcastellano : m_cmdeuskera)->setFocus();
-    procedimiento(
-        this, [this] { m_chkActOnline->setChecked(servicioModelo()->ObtenerActOnline() == 1); });
+    procedimiento(this,
+                  [this] { m_chkActOnline->setChecked(servicioDatos()->ObtenerActOnline() == 1); });
 }
 
 void FrmIdioma::guardarActOnline(bool activa)
 {
     const bool guardado
-        = procedimiento(this, [activa] { servicioModelo()->GuardarActOnline(activa ? 1 : 0); });
+        = procedimiento(this, [activa] { servicioDatos()->GuardarActOnline(activa ? 1 : 0); });
     if (!guardado)
         m_chkActOnline->setChecked(!activa);
 }

@@ -2,9 +2,12 @@
 
 #include "dataservice/ErrorDatos.h"
 #include "server/LectorRegistro.h"
-#include "server/Orden.h"
+#include "server/ListaLectura.h"
+#include "server/ValidacionDeclarante.h"
 
 #include <QCryptographicHash>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -158,6 +161,79 @@ QByteArray huella(const Registro &registro)
 void noEncontrado(const QString &que, qint64 clave)
 {
     throw ErrorDatos(Fallo::NoEncontrado, u"%1 %2"_s.arg(que).arg(clave));
+}
+
+namespace {
+
+using Resultado = FilaConjunto::Resultado;
+
+qint32 claveDe(const PConexion &datos, const QString &dni)
+{
+    Sentencia sentencia(datos, "SELECT CSCO FROM DECLARANTES WHERE DNI = ?");
+    return sentencia.con(normalizado(dni)).fila() ? sentencia.clave(0) : 0;
+}
+
+/// Nothing when the set has to end before this one.
+std::optional<Resultado> guardarValido(const PConexion &datos, Registro registro,
+                                       Existentes existentes)
+{
+    const QString dni = registro[RegDeclarante::DNI].toString();
+    if (existentes == Existentes::Examinar)
+        return claveDe(datos, dni) == 0 ? Resultado::Nuevo : Resultado::Conservado;
+    registro[RegDeclarante::CSCO] = 0;
+    if (guardarDeclarante(datos, registro, Recientes::NoContar) == 0)
+        return Resultado::Nuevo;
+    if (existentes == Existentes::Detenerse)
+        return {};
+    if (existentes == Existentes::Conservar)
+        return Resultado::Conservado;
+    registro[RegDeclarante::CSCO] = claveDe(datos, dni);
+    guardarDeclarante(datos, registro, Recientes::NoContar);
+    return Resultado::Sustituido;
+}
+
+QVariantList fila(Resultado resultado)
+{
+    return {int(resultado)};
+}
+
+QVariantList filaIncorrecta(const Filas &hallazgos)
+{
+    QVariantList incorrecta = fila(Resultado::Incorrecto);
+    for (const QVariant &hallazgo : hallazgos)
+        incorrecta += hallazgo.toList().value(0);
+    return incorrecta;
+}
+
+} // namespace
+
+Filas guardarConjunto(const PConexion &datos, const PConexion &lectura, const Filas &registros,
+                      Existentes existentes, qint16 idioma)
+{
+    const bool escribe = existentes != Existentes::Examinar;
+    std::optional<Transaccion> transaccion;
+    if (escribe)
+        transaccion.emplace(datos);
+    const LecturaUnica vistaDatos(datos);
+    const LecturaUnica vistaLectura(lectura);
+
+    Filas resultados;
+    resultados.reserve(registros.size());
+    for (const QVariant &elemento : registros) {
+        const Registro registro = elemento.toList();
+        const Filas hallazgos = hallazgosImportar(lectura, registro, idioma);
+        if (!hallazgos.isEmpty()) {
+            resultados.append(QVariant(filaIncorrecta(hallazgos)));
+            continue;
+        }
+        const auto resultado = guardarValido(datos, registro, existentes);
+        if (!resultado)
+            break;
+        resultados.append(QVariant(fila(*resultado)));
+    }
+    if (transaccion)
+        transaccion->confirmar();
+    return resultados;
 }
 
 } // namespace servidor

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dataservice/Registros.h"
+#include "server/Conexion.h"
 #include "server/Sentencia.h"
 
 #include <string>
@@ -25,5 +26,9 @@ Registro registroDeclarante(const Sentencia &fila);
 QByteArray huella(const Registro &registro);
 
 [[noreturn]] void noEncontrado(const QString &que, qint64 clave);
+
+/// Checks and stores a set of declarants as cDeclarante::GuardarConjunto tells.
+Filas guardarConjunto(const PConexion &datos, const PConexion &lectura, const Filas &registros,
+                      Existentes existentes, qint16 idioma);
 
 } // namespace servidor

@@ -1,17 +1,63 @@
 #include "server/Comprobacion.h"
 
-#include "server/ErroresSqlite.h"
-#include "server/Ficheros.h"
+#include "server/FicherosBase.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
 
 #include <SQLiteCpp/Statement.h>
+#include <cerrno>
+#include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
 
 namespace servidor {
+
+namespace {
+
+// A write refused by a quota or a size limit reaches us as a plain I/O error; only the system's own
+// code tells that it is the room that is missing.
+bool faltaEspacio(int codigoSistema)
+{
+#ifdef EDQUOT
+    if (codigoSistema == EDQUOT)
+        return true;
+#endif
+    return codigoSistema == ENOSPC || codigoSistema == EFBIG;
+}
+
+Fallo clasificar(int codigo, int codigoSistema)
+{
+    switch (codigo) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return Fallo::EnUso;
+    case SQLITE_CONSTRAINT: // the only rows that others depend on are declarants
+        return Fallo::TieneDeclaraciones;
+    case SQLITE_FULL:
+        return Fallo::SinEspacio;
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+    case SQLITE_CANTOPEN: // the file itself is known to be there: its journal cannot be made
+        return faltaEspacio(codigoSistema) ? Fallo::SinEspacio : Fallo::SoloLectura;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return Fallo::Danada;
+    default:
+        return faltaEspacio(codigoSistema) ? Fallo::SinEspacio : Fallo::LecturaEscritura;
+    }
+}
+
+} // namespace
+
+ErrorDatos traducir(const SQLite::Exception &error, const QString &ruta)
+{
+    // SQLite keeps no system code for a commit that failed; errno still has it.
+    const int sistema = errno;
+    return ErrorDatos(clasificar(error.getErrorCode() & 0xff, sistema), ruta,
+                      QString::fromUtf8(error.what()));
+}
 
 namespace {
 
@@ -56,9 +102,9 @@ void comprobarVersion(qint32 actual, const Formato &formato, Version version, co
 
 void comprobarContenido(SQLite::Database &base, const QString &ruta)
 {
-    SQLite::Statement consulta(base, "PRAGMA quick_check(1)");
-    consulta.executeStep();
-    const std::string resultado = consulta.getColumn(0).getString();
+    SQLite::Statement sentencia(base, "PRAGMA quick_check(1)");
+    sentencia.executeStep();
+    const std::string resultado = sentencia.getColumn(0).getString();
     if (resultado != "ok")
         throw ErrorDatos(Fallo::Danada, ruta, QString::fromStdString(resultado));
 }

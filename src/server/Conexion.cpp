@@ -1,7 +1,6 @@
 #include "server/Conexion.h"
 
 #include "server/Comprobacion.h"
-#include "server/ErroresSqlite.h"
 #include "server/Sentencia.h"
 
 #include <QHash>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "server/Ficheros.h"
-#include "server/Formato.h"
+#include "server/Comprobacion.h"
+#include "server/FicherosBase.h"
 
 #include <QString>
 
@@ -23,8 +23,8 @@ using PConexion = std::shared_ptr<Conexion>;
 class Conexion
 {
 public:
-    static PConexion modelo(const QString &ruta) { return de(ruta, FormatoModelo); }
-    static PConexion consulta(const QString &ruta) { return de(ruta, FormatoConsulta); }
+    static PConexion datos(const QString &ruta) { return de(ruta, FormatoDatos); }
+    static PConexion lectura(const QString &ruta) { return de(ruta, FormatoLectura); }
 
     /// Closes what is kept open of that file, before it is replaced.
     static void olvidar(const QString &ruta);

@@ -1,6 +1,6 @@
 #include "server/Sentencia.h"
 
-#include "server/ErroresSqlite.h"
+#include "server/Comprobacion.h"
 
 namespace servidor {
 

@@ -1,6 +1,6 @@
 #include "server/cDatosGeneral.h"
 
-#include "server/ListaConsulta.h"
+#include "server/ListaLectura.h"
 #include "server/Sentencia.h"
 
 using namespace Qt::StringLiterals;
@@ -11,13 +11,13 @@ namespace {
 
 QString leerAjuste(const QString &ruta, const QString &clave)
 {
-    Sentencia sentencia(Conexion::modelo(ruta), "SELECT VALOR FROM AJUSTES WHERE CLAVE = ?");
+    Sentencia sentencia(Conexion::datos(ruta), "SELECT VALOR FROM AJUSTES WHERE CLAVE = ?");
     return sentencia.con(clave).fila() ? sentencia.texto(0) : QString();
 }
 
 void guardarAjuste(const QString &ruta, const QString &clave, const QString &valor)
 {
-    Transaccion transaccion(Conexion::modelo(ruta));
+    Transaccion transaccion(Conexion::datos(ruta));
     Sentencia(transaccion.conexion(), "INSERT OR REPLACE INTO AJUSTES (CLAVE, VALOR) VALUES (?, ?)")
         .con(clave, valor)
         .ejecutar();
@@ -38,7 +38,7 @@ const QString &claveActOnline()
 
 QString nombre(const QString &ruta, const char *sql, const QString &codigo)
 {
-    Sentencia sentencia(Conexion::consulta(ruta), sql);
+    Sentencia sentencia(Conexion::lectura(ruta), sql);
     return sentencia.con(codigo.toInt()).fila() ? sentencia.texto(0) : QString();
 }
 
@@ -51,7 +51,7 @@ float porcentaje(qint64 centesimas)
 
 qint32 cDatosGeneral::NumeroDeclarantes()
 {
-    Sentencia sentencia(Conexion::modelo(m_ruta), "SELECT count(*) FROM DECLARANTES");
+    Sentencia sentencia(Conexion::datos(m_ruta), "SELECT count(*) FROM DECLARANTES");
     sentencia.fila();
     return sentencia.clave(0);
 }
@@ -79,7 +79,7 @@ qint16 cDatosGeneral::ObtenerActOnline()
 
 void cDatosGeneral::DameEjerPerMinMax(Registro &limites)
 {
-    Sentencia sentencia(Conexion::consulta(m_ruta),
+    Sentencia sentencia(Conexion::lectura(m_ruta),
                         "SELECT T08_EJERMIN, T08_EJERMAX, T08_PERMIN, T08_PERMAX FROM T08_GENERAL");
     sentencia.fila();
     limites = {sentencia.clave(0), sentencia.clave(1), sentencia.clave(2), sentencia.clave(3)};
@@ -103,23 +103,23 @@ void cDatosGeneral::ObtenerNombreMunicipio(const QString &codigo, QString &nombr
 
 void cDatosGeneral::CargarProvincias(const QString &sql, Filas &filas)
 {
-    filas = listaConsulta(Conexion::consulta(m_ruta), sql);
+    filas = listaLectura(Conexion::lectura(m_ruta), sql);
 }
 
 void cDatosGeneral::CargarMunicipios(const QString &sql, Filas &filas)
 {
-    filas = listaConsulta(Conexion::consulta(m_ruta), sql);
+    filas = listaLectura(Conexion::lectura(m_ruta), sql);
 }
 
 void cDatosGeneral::CargarVias(const QString &sql, Filas &filas)
 {
-    filas = listaConsulta(Conexion::consulta(m_ruta), sql);
+    filas = listaLectura(Conexion::lectura(m_ruta), sql);
 }
 
 void cDatosGeneral::ObtenerTipoAnual(Registro &tipos, qint16 ejercicio)
 {
     // The rate in force in January and those that begin later in the year.
-    Sentencia sentencia(Conexion::consulta(m_ruta),
+    Sentencia sentencia(Conexion::lectura(m_ruta),
                         "SELECT T09_TIPO FROM T09_TIPOS WHERE T09_DESDE <= ?1 * 100 + 12 "
                         "AND T09_DESDE >= coalesce((SELECT max(T09_DESDE) FROM T09_TIPOS "
                         "WHERE T09_DESDE <= ?1 * 100 + 1), 0) ORDER BY T09_DESDE");
@@ -134,7 +134,7 @@ void cDatosGeneral::ObtenerTipoAnual(Registro &tipos, qint16 ejercicio)
 
 float cDatosGeneral::ObtenerTipoImpositivo(qint16 ejercicio, quint8 periodo)
 {
-    Sentencia sentencia(Conexion::consulta(m_ruta),
+    Sentencia sentencia(Conexion::lectura(m_ruta),
                         "SELECT T09_TIPO FROM T09_TIPOS WHERE T09_DESDE <= ? * 100 + ? "
                         "ORDER BY T09_DESDE DESC LIMIT 1");
     return sentencia.con(ejercicio, periodo).fila() ? porcentaje(sentencia.entero(0)) : 0.0F;
@@ -142,7 +142,7 @@ float cDatosGeneral::ObtenerTipoImpositivo(qint16 ejercicio, quint8 periodo)
 
 QString cDatosGeneral::URLAct()
 {
-    Sentencia sentencia(Conexion::consulta(m_ruta), "SELECT T08_URLACT FROM T08_GENERAL");
+    Sentencia sentencia(Conexion::lectura(m_ruta), "SELECT T08_URLACT FROM T08_GENERAL");
     sentencia.fila();
     return sentencia.texto(0);
 }

@@ -3,15 +3,78 @@
 #include "server/AlmacenDeclaraciones.h"
 #include "server/AlmacenDeclarantes.h"
 #include "server/LectorRegistro.h"
-#include "server/ValidacionDeclaracion.h"
 
 #include <stdexcept>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace servidor {
 
 namespace {
+
+constexpr qint32 Anio = 32'767;
+constexpr qint32 Periodo = 255;
+
+using Par = std::pair<qint32, qint32>;
+
+bool dentroDeLimites(const Registro &cabecera)
+{
+    using namespace RegCabecera;
+    LectorRegistro lector(cabecera.first(std::min<qsizetype>(cabecera.size(), TotalPeriodo)),
+                          TotalPeriodo);
+    const auto par = [&](qsizetype ejercicio, qsizetype periodo) {
+        return Par(lector.entero(ejercicio, 0, Anio), lector.entero(periodo, 0, Periodo));
+    };
+    const Par pedido = par(EJERCICIO, PERIODO);
+    const Par minimo = par(EJERMIN, PERMIN);
+    const Par maximo = par(EJERMAX, PERMAX);
+    lector.exigirValido();
+    return pedido.second >= 1 && pedido.second <= UltimoMes && minimo <= pedido && pedido <= maximo;
+}
+
+ReglaCabecera reglaCabecera(const Registro &cabecera)
+{
+    using namespace RegCabecera;
+    LectorRegistro lector(cabecera, Total);
+    const qint32 ejercicio = lector.entero(EJERCICIO, 0, Anio);
+    const qint32 periodo = lector.entero(PERIODO, 0, Periodo);
+    const QString modelo = lector.texto(MODELO);
+    lector.entero(CSCO, 0, std::numeric_limits<qint32>::max());
+    lector.exigirValido();
+    if (ejercicio == 0)
+        return ReglaCabecera::Ejercicio;
+    if (periodo == 0)
+        return ReglaCabecera::Periodo;
+    if (!modeloDe(modelo))
+        return ReglaCabecera::Modelo;
+    return dentroDeLimites(cabecera) ? ReglaCabecera::Ninguna : ReglaCabecera::Fuera;
+}
+
+Regla430 reglaDatos430(const Registro &datos)
+{
+    using namespace RegValidar430;
+    LectorRegistro lector(datos, Total);
+    const bool rectifica = !lector.texto(RECTIFICA).isEmpty();
+    const qint64 base = lector.importe(BASEREC);
+    const qint64 cuota = lector.importe(CUOTAREC);
+    lector.exigirValido();
+    if (!rectifica)
+        return Regla430::Ninguna;
+    if (base == 0)
+        return Regla430::BaseRectificada;
+    return cuota == 0 ? Regla430::CuotaRectificada : Regla430::Ninguna;
+}
+
+Regla480 reglaDatos480(const Registro &datos)
+{
+    using namespace RegValidar480;
+    LectorRegistro lector(datos, Total);
+    const qint64 total = lector.importe(C70_TOT);
+    const qint64 bandas = lector.importe(C73_BA1) + lector.importe(C76_BA2);
+    lector.exigirValido();
+    return total == bandas ? Regla480::Ninguna : Regla480::TotalNoExento;
+}
 
 // EJERCICIO, PERIODICIDAD, PERIODO, MODELO, TIPOLOGIA from column 1 on.
 Registro camposComunes(const Sentencia &fila)
@@ -34,7 +97,7 @@ bool estaGuardada(const PConexion &conexion, const Registro &cabecera)
 
 qint32 cDeclaracion::dameResultado(Filas &filas, qint32 CSCO)
 {
-    Sentencia sentencia(Conexion::modelo(m_ruta),
+    Sentencia sentencia(Conexion::datos(m_ruta),
                         "SELECT CSDE, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, TIPOLOGIA, IMPORTE "
                         "FROM DECLARACIONES WHERE CSCO = ? ORDER BY EJERCICIO, PERIODO, MODELO");
     sentencia.con(CSCO);
@@ -57,7 +120,7 @@ bool cDeclaracion::EjerPerValidos(const Registro &cabecera)
 bool cDeclaracion::ObtenerUltimaDeclaracion(Registro &cabecera, qint32 &CSDE)
 {
     const qint32 declarante = cabecera.value(RegUltima::CSCO).toInt();
-    Sentencia sentencia(Conexion::modelo(m_ruta),
+    Sentencia sentencia(Conexion::datos(m_ruta),
                         "SELECT CSDE, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, TIPOLOGIA "
                         "FROM DECLARACIONES WHERE CSCO = ? "
                         "ORDER BY EJERCICIO DESC, PERIODO DESC, MODELO DESC LIMIT 1");
@@ -70,24 +133,25 @@ bool cDeclaracion::ObtenerUltimaDeclaracion(Registro &cabecera, qint32 &CSDE)
 
 qint16 cDeclaracion::ValidarDatosComunes(const Registro &cabecera)
 {
-    const qint16 codigo = reglaCabecera(cabecera);
-    return codigo == 0 && estaGuardada(Conexion::modelo(m_ruta), cabecera) ? CabeceraGuardada
-                                                                           : codigo;
+    const ReglaCabecera regla = reglaCabecera(cabecera);
+    const bool repetida
+        = regla == ReglaCabecera::Ninguna && estaGuardada(Conexion::datos(m_ruta), cabecera);
+    return static_cast<qint16>(repetida ? ReglaCabecera::Existe : regla);
 }
 
 void cDeclaracion::Cargar430(qint32 &CSDE, Registro &figuras)
 {
-    figuras = cargarFiguras(Conexion::modelo(m_ruta), modelo430(), CSDE);
+    figuras = cargarFiguras(Conexion::datos(m_ruta), modelo430(), CSDE);
 }
 
 void cDeclaracion::Cargar480(qint32 &CSDE, Registro &figuras)
 {
-    figuras = cargarFiguras(Conexion::modelo(m_ruta), modelo480(), CSDE);
+    figuras = cargarFiguras(Conexion::datos(m_ruta), modelo480(), CSDE);
 }
 
 QByteArray cDeclaracion::Huella(qint32 CSDE)
 {
-    const PConexion conexion = Conexion::modelo(m_ruta);
+    const PConexion conexion = Conexion::datos(m_ruta);
     const LecturaUnica lectura(conexion);
     Sentencia sentencia(conexion,
                         "SELECT CSCO, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, "
@@ -101,12 +165,12 @@ QByteArray cDeclaracion::Huella(qint32 CSDE)
 
 qint16 cDeclaracion::ValidarDatos430(const Registro &datos)
 {
-    return reglaDatos430(datos);
+    return static_cast<qint16>(reglaDatos430(datos));
 }
 
 qint16 cDeclaracion::ValidarDatos480(const Registro &datos)
 {
-    return reglaDatos480(datos);
+    return static_cast<qint16>(reglaDatos480(datos));
 }
 
 qint32 cDeclaracion::Guardar430(const Registro &datos)
@@ -125,7 +189,7 @@ void cDeclaracion::BorrarDatosNoComunes(qint32 CSDE, const QString &modelo)
     if (!tabla)
         throw std::invalid_argument("unknown model");
     m_borrado.reset();
-    auto transaccion = std::make_unique<Transaccion>(Conexion::modelo(m_ruta));
+    auto transaccion = std::make_unique<Transaccion>(Conexion::datos(m_ruta));
     if (Sentencia(transaccion->conexion(), tabla->borrar).con(CSDE).ejecutar() == 0)
         noEncontrado(u"CSDE"_s, CSDE);
     m_borrado = std::move(transaccion);

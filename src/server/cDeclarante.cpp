@@ -1,10 +1,8 @@
 #include "server/cDeclarante.h"
 
 #include "server/AlmacenDeclarantes.h"
-#include "server/ConjuntoDeclarantes.h"
 #include "server/LectorRegistro.h"
 #include "server/ValidacionDeclarante.h"
-#include "server/ValidacionImportar.h"
 
 #include <QHash>
 
@@ -21,10 +19,9 @@ std::string orderBy(quint8 orden)
     return orden == PorNombre ? "ORDER BY CLAVE, DNI" : "ORDER BY DNI";
 }
 
-QHash<qint64, QString> nombresProvincias(const PConexion &consulta, qint16 idioma)
+QHash<qint64, QString> nombresProvincias(const PConexion &lectura, qint16 idioma)
 {
-    Sentencia sentencia(consulta,
-                        "SELECT T05_PRO_ID, T05_PRO_CAS, T05_PRO_EUS FROM T05_PROVINCIAS");
+    Sentencia sentencia(lectura, "SELECT T05_PRO_ID, T05_PRO_CAS, T05_PRO_EUS FROM T05_PROVINCIAS");
     QHash<qint64, QString> nombres;
     while (sentencia.fila())
         nombres.insert(sentencia.entero(0),
@@ -36,7 +33,7 @@ QHash<qint64, QString> nombresProvincias(const PConexion &consulta, qint16 idiom
 
 void cDeclarante::CargarDeclarante(qint32 &CSCO, Registro &registro)
 {
-    Sentencia sentencia(Conexion::modelo(m_modelo), seleccionDeclarante("WHERE CSCO = ?"));
+    Sentencia sentencia(Conexion::datos(m_datos), seleccionDeclarante("WHERE CSCO = ?"));
     if (!sentencia.con(CSCO).fila())
         noEncontrado(u"CSCO"_s, CSCO);
     registro = registroDeclarante(sentencia);
@@ -44,7 +41,7 @@ void cDeclarante::CargarDeclarante(qint32 &CSCO, Registro &registro)
 
 QByteArray cDeclarante::Huella(qint32 CSCO)
 {
-    Sentencia sentencia(Conexion::modelo(m_modelo), seleccionDeclarante("WHERE CSCO = ?"));
+    Sentencia sentencia(Conexion::datos(m_datos), seleccionDeclarante("WHERE CSCO = ?"));
     if (!sentencia.con(CSCO).fila())
         return {};
     return huella(registroDeclarante(sentencia).first(RegDeclarante::NUM430));
@@ -52,7 +49,7 @@ QByteArray cDeclarante::Huella(qint32 CSCO)
 
 qint16 cDeclarante::GuardarDeclarante(const Registro &registro)
 {
-    Transaccion transaccion(Conexion::modelo(m_modelo));
+    Transaccion transaccion(Conexion::datos(m_datos));
     const qint16 resultado = guardarDeclarante(transaccion.conexion(), registro, Recientes::Contar);
     if (resultado == 0)
         transaccion.confirmar();
@@ -61,7 +58,7 @@ qint16 cDeclarante::GuardarDeclarante(const Registro &registro)
 
 void cDeclarante::BorrarDeclarante(qint32 CSCO)
 {
-    Transaccion transaccion(Conexion::modelo(m_modelo));
+    Transaccion transaccion(Conexion::datos(m_datos));
     Sentencia sentencia(transaccion.conexion(), "DELETE FROM DECLARANTES WHERE CSCO = ?");
     if (sentencia.con(CSCO).ejecutar() == 0)
         noEncontrado(u"CSCO"_s, CSCO);
@@ -75,26 +72,26 @@ qint16 cDeclarante::ValidarDatosDeclarante(const Registro &datos)
 
 qint32 cDeclarante::ObtenerCodigoDeclarante(const QString &DNI)
 {
-    Sentencia sentencia(Conexion::modelo(m_modelo), "SELECT CSCO FROM DECLARANTES WHERE DNI = ?");
+    Sentencia sentencia(Conexion::datos(m_datos), "SELECT CSCO FROM DECLARANTES WHERE DNI = ?");
     return sentencia.con(normalizado(DNI)).fila() ? sentencia.clave(0) : 0;
 }
 
 Filas cDeclarante::ValidarDatosImportar(const Registro &registro, qint16 idioma)
 {
-    return hallazgosImportar(Conexion::consulta(m_consulta), registro, idioma);
+    return hallazgosImportar(Conexion::lectura(m_lectura), registro, idioma);
 }
 
 Filas cDeclarante::GuardarConjunto(const Filas &registros, Existentes existentes, qint16 idioma)
 {
-    return guardarConjunto(Conexion::modelo(m_modelo), Conexion::consulta(m_consulta), registros,
+    return guardarConjunto(Conexion::datos(m_datos), Conexion::lectura(m_lectura), registros,
                            existentes, idioma);
 }
 
 qint32 cDeclarante::dameResultado(Filas &filas, quint8 orden, qint16 idioma)
 {
-    const auto provincias = nombresProvincias(Conexion::consulta(m_consulta), idioma);
+    const auto provincias = nombresProvincias(Conexion::lectura(m_lectura), idioma);
     Sentencia sentencia(
-        Conexion::modelo(m_modelo),
+        Conexion::datos(m_datos),
         "SELECT CSCO, DNI, NOMBRE, NOMMUN, CODPROV, NUM430, NUM480 FROM DECLARANTES "
             + orderBy(orden));
     Filas leidas;
@@ -121,13 +118,13 @@ qint32 cDeclarante::dameResultadoExportar(Filas &filas, quint8 orden)
 void cDeclarante::RecorrerExportar(quint8 orden,
                                    const std::function<bool(const Registro &)> &visitar)
 {
-    Sentencia sentencia(Conexion::modelo(m_modelo), seleccionDeclarante(orderBy(orden)));
+    Sentencia sentencia(Conexion::datos(m_datos), seleccionDeclarante(orderBy(orden)));
     while (sentencia.fila() && visitar(registroDeclarante(sentencia))) {}
 }
 
 void cDeclarante::ObtenerUltimosDeclarantes(Filas &filas)
 {
-    Sentencia sentencia(Conexion::modelo(m_modelo),
+    Sentencia sentencia(Conexion::datos(m_datos),
                         "SELECT CSCO, DNI, NOMBRE FROM DECLARANTES WHERE RECIENTE > 0 "
                         "ORDER BY RECIENTE DESC LIMIT 4");
     Filas leidas;
@@ -139,7 +136,7 @@ void cDeclarante::ObtenerUltimosDeclarantes(Filas &filas)
 
 bool cDeclarante::ObtListDecl430(Filas &filas, qint16 ejercicio, qint32 CSCO)
 {
-    Sentencia sentencia(Conexion::modelo(m_modelo),
+    Sentencia sentencia(Conexion::datos(m_datos),
                         "SELECT CSDE, PERIODO FROM DECLARACIONES WHERE CSCO = ? AND EJERCICIO = ? "
                         "AND MODELO = '430' ORDER BY PERIODO");
     sentencia.con(CSCO, ejercicio);

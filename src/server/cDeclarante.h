@@ -7,8 +7,8 @@ namespace servidor {
 class cDeclarante final : public SvrOstr::cDeclarante
 {
 public:
-    void mdbnameM(const QString &ruta) override { m_modelo = ruta; }
-    void mdbnameL(const QString &ruta) override { m_consulta = ruta; }
+    void mdbnameM(const QString &ruta) override { m_datos = ruta; }
+    void mdbnameL(const QString &ruta) override { m_lectura = ruta; }
 
     void CargarDeclarante(qint32 &CSCO, Registro &registro) override;
     QByteArray Huella(qint32 CSCO) override;
@@ -26,8 +26,8 @@ public:
     bool ObtListDecl430(Filas &filas, qint16 ejercicio, qint32 CSCO) override;
 
 private:
-    QString m_modelo;
-    QString m_consulta;
+    QString m_datos;
+    QString m_lectura;
 };
 
 } // namespace servidor

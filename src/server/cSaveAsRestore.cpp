@@ -1,9 +1,7 @@
 #include "server/cSaveAsRestore.h"
 
 #include "server/Comprobacion.h"
-#include "server/ErroresSqlite.h"
-#include "server/FicheroNuevo.h"
-#include "server/Ficheros.h"
+#include "server/FicherosBase.h"
 #include "server/Sentencia.h"
 
 #include <QDateTime>
@@ -47,7 +45,7 @@ void rotar(const QString &ruta, int anteriores)
 std::optional<SQLite::Database> abrirSiSirve(const QString &ruta)
 {
     try {
-        return abrirComprobada(ruta, FormatoModelo, Version::ActualOMenor);
+        return abrirComprobada(ruta, FormatoDatos, Version::ActualOMenor);
     } catch (const ErrorDatos &error) {
         switch (error.fallo()) {
         case Fallo::NoExiste:
@@ -89,8 +87,7 @@ int cSaveAsRestore::copiasAnteriores() const
     if (m_tabla != u"T08_GENERAL" || m_campo != u"T08_BACKUP_TVC")
         return CopiasPorOmision;
     try {
-        Sentencia sentencia(Conexion::consulta(m_lectura),
-                            "SELECT T08_BACKUP_TVC FROM T08_GENERAL");
+        Sentencia sentencia(Conexion::lectura(m_lectura), "SELECT T08_BACKUP_TVC FROM T08_GENERAL");
         return sentencia.fila() ? sentencia.clave(0) : CopiasPorOmision;
     } catch (const ErrorDatos &) {
         return CopiasPorOmision;
@@ -99,14 +96,14 @@ int cSaveAsRestore::copiasAnteriores() const
 
 void cSaveAsRestore::CrearBackup()
 {
-    const PConexion modelo = Conexion::modelo(origen());
+    const PConexion datos = Conexion::datos(origen());
     crearCarpeta(QFileInfo(destino()).path());
-    copiarFichero(modelo->base(), destino(), [&] { rotar(destino(), copiasAnteriores()); });
+    copiarFichero(datos->base(), destino(), [&] { rotar(destino(), copiasAnteriores()); });
 }
 
 bool cSaveAsRestore::CrearRestore()
 {
-    Formato formato = FormatoModelo;
+    Formato formato = FormatoDatos;
     formato.soloLectura = true;
     auto copia = abrirComprobada(origen(), formato, Version::ActualOMenor);
     Conexion::olvidar(destino());

@@ -1,18 +1,40 @@
 #pragma once
 
 #include "dataservice/SvrOstr.h"
+#include "server/Comprobacion.h"
+
+#include <QString>
+
+#include <span>
 
 namespace servidor {
+
+/// Takes a model database from schema `desde` to the next one.
+struct Paso
+{
+    qint32 desde;
+    const char *sql;
+};
+
+/// The steps of this program, in order. Schema 1 is the first, so that there is none yet.
+inline constexpr std::span<const Paso> PasosDatos{};
+
+/// Path of the copy kept of a database of schema `esquema` before it is brought up.
+QString copiaAnterior(const QString &ruta, qint32 esquema);
+
+/// Brings the file up to `formato` in one transaction, after keeping a copy of it beside it. Does
+/// nothing when it is there already. Throws ErrorDatos, and the file is as it was.
+void migrar(const QString &ruta, const Formato &formato, std::span<const Paso> pasos);
 
 class cTraspaso final : public SvrOstr::cTraspaso
 {
 public:
-    void mdbmod(const QString &ruta) override { m_modelo = ruta; }
+    void mdbmod(const QString &ruta) override { m_datos = ruta; }
     void mdbPath(const QString &carpeta) override { m_carpeta = carpeta; }
     bool Traspaso() override;
 
 private:
-    QString m_modelo;
+    QString m_datos;
     QString m_carpeta;
 };
 

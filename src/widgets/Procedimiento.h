@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/TextoFallo.h"
+#include "core/Textos.h"
 
 #include <utility>
 

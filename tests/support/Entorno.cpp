@@ -5,7 +5,7 @@
 #include "declarants/cDecResumen.h"
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"
-#include "server/Registro.h"
+#include "server/Servidor.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -72,6 +72,6 @@ void Entorno::pasarAEuskera(QObject &pantalla)
 ModeloPerdido::ModeloPerdido()
 {
     Rutas malas = m_buenas;
-    malas.modelo = malas.tablas + u"ninguna/OstrMod.mdb"_s;
+    malas.datos = malas.tablas + u"ninguna/OstrMod.mdb"_s;
     fijarRutas(malas);
 }

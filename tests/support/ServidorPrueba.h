@@ -3,7 +3,7 @@
 #include "dataservice/ErrorDatos.h"
 #include "dataservice/SvrKtComunLib.h"
 #include "dataservice/SvrOstr.h"
-#include "server/Registro.h"
+#include "server/Servidor.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -21,13 +21,13 @@ public:
     ServidorPrueba() { registrarServidor(); }
 
     QString carpeta() const { return m_carpeta.filePath(u"Tablas"_s); }
-    QString modelo() const { return carpeta() + u"/OstrMod.mdb"_s; }
-    QString consulta() const { return carpeta() + u"/OstrLec.mdb"_s; }
+    QString datos() const { return carpeta() + u"/OstrMod.mdb"_s; }
+    QString lectura() const { return carpeta() + u"/OstrLec.mdb"_s; }
 
     bool traspaso() const
     {
         auto objeto = servicio::crear<SvrOstr::cTraspaso>();
-        objeto->mdbmod(modelo());
+        objeto->mdbmod(datos());
         objeto->mdbPath(carpeta());
         return objeto->Traspaso();
     }
@@ -40,14 +40,14 @@ public:
     std::unique_ptr<SvrOstr::cDeclarante> declarantes() const
     {
         auto objeto = servicio::crear<SvrOstr::cDeclarante>();
-        objeto->mdbnameM(modelo());
-        objeto->mdbnameL(consulta());
+        objeto->mdbnameM(datos());
+        objeto->mdbnameL(lectura());
         return objeto;
     }
     std::unique_ptr<SvrOstr::cDeclaracion> declaraciones() const
     {
         auto objeto = servicio::crear<SvrOstr::cDeclaracion>();
-        objeto->mdbname(modelo());
+        objeto->mdbname(datos());
         return objeto;
     }
     /// Saves a new declarant; its key.

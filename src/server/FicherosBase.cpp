@@ -1,13 +1,16 @@
-#include "server/Ficheros.h"
+#include "server/FicherosBase.h"
 
 #include "dataservice/ErrorDatos.h"
+#include "server/Comprobacion.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <SQLiteCpp/Backup.h>
 #include <cerrno>
 #include <filesystem>
+#include <sqlite3.h>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -121,6 +124,62 @@ void crearCarpeta(const QString &carpeta)
 {
     if (!QDir().mkpath(carpeta))
         throw ErrorDatos(Fallo::SoloLectura, carpeta, u"cannot create folder"_s);
+}
+
+namespace {
+
+SQLite::Database abrirNueva(const QString &ruta)
+{
+    SQLite::Database base(ruta.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE,
+                          EsperaMs);
+    // Until it is in its place a crash just leaves rubbish to be removed: no journal, one sync.
+    base.exec("PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF");
+    return base;
+}
+
+void numerar(SQLite::Database &base, const Formato &formato)
+{
+    base.exec("PRAGMA application_id = " + std::to_string(formato.aplicacion));
+    base.exec("PRAGMA user_version = " + std::to_string(formato.esquema));
+}
+
+} // namespace
+
+void crearFichero(const QString &ruta, const Formato &formato,
+                  const std::function<void(SQLite::Database &)> &llenar)
+{
+    Provisional provisional(ruta);
+    conErrores(ruta, [&] {
+        auto base = abrirNueva(provisional.ruta());
+        base.exec("BEGIN");
+        numerar(base, formato);
+        llenar(base);
+        base.exec("COMMIT");
+    });
+    provisional.colocar();
+}
+
+void copiarFichero(SQLite::Database &origen, const QString &destino,
+                   const std::function<void()> &antes)
+{
+    Provisional provisional(destino);
+    conErrores(destino, [&] {
+        auto base = abrirNueva(provisional.ruta());
+        copiarContenido(origen, base, destino);
+    });
+    if (antes)
+        antes();
+    provisional.colocar();
+}
+
+void copiarContenido(SQLite::Database &origen, SQLite::Database &destino, const QString &ruta)
+{
+    conErrores(ruta, [&] {
+        SQLite::Backup copia(destino, origen);
+        const int resultado = copia.executeStep();
+        if (resultado != SQLITE_DONE) // "busy" and "locked" come back as results
+            throw SQLite::Exception("copy not finished", resultado);
+    });
 }
 
 } // namespace servidor

@@ -1,4 +1,4 @@
-#include "resources/Mensajes.h"
+#include "resources/TablaMensajes.h"
 
 #include <QFile>
 #include <QTextStream>

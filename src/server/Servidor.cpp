@@ -1,4 +1,4 @@
-#include "server/Registro.h"
+#include "server/Servidor.h"
 
 #include "server/cDatosGeneral.h"
 #include "server/cDeclaracion.h"
@@ -18,7 +18,7 @@ template <class T> void registrarClase()
 
 void registrarServidor(Dialogos *dialogos)
 {
-    Q_INIT_RESOURCE(consulta);
+    Q_INIT_RESOURCE(lectura);
     registrarClase<servidor::cDatosGeneral>();
     registrarClase<servidor::cDeclarante>();
     registrarClase<servidor::cDeclaracion>();

@@ -1,8 +1,9 @@
-#include "server/Consulta.h"
+#include "server/Esquemas.h"
 
 #include "dataservice/ErrorDatos.h"
+#include "server/AlmacenDeclaraciones.h"
 #include "server/Comprobacion.h"
-#include "server/FicheroNuevo.h"
+#include "server/FicherosBase.h"
 
 #include <QFile>
 #include <QStringList>
@@ -16,7 +17,74 @@ namespace servidor {
 
 namespace {
 
-constexpr const char *Tablas = R"(
+// CLAVE is the sort key of the name, RECIENTE the order of the last saves (0: never counted).
+// Keys are not used again after a deletion: a screen may still hold one.
+constexpr const char *TablasDatos = R"(
+CREATE TABLE DECLARANTES (
+    CSCO INTEGER PRIMARY KEY AUTOINCREMENT,
+    DNI TEXT NOT NULL UNIQUE,
+    NOMBRE TEXT NOT NULL,
+    CLAVE TEXT NOT NULL,
+    VIA TEXT NOT NULL,
+    DOMICILIO TEXT NOT NULL,
+    NUMERO INTEGER NOT NULL,
+    LETRA TEXT NOT NULL,
+    ESCALERA TEXT NOT NULL,
+    PISO TEXT NOT NULL,
+    MANO TEXT NOT NULL,
+    CODPROV INTEGER NOT NULL,
+    CODPOS TEXT NOT NULL,
+    CODMUN INTEGER NOT NULL,
+    NOMMUN TEXT NOT NULL,
+    TELEFONO TEXT NOT NULL,
+    NUM430 INTEGER NOT NULL DEFAULT 0,
+    NUM480 INTEGER NOT NULL DEFAULT 0,
+    RECIENTE INTEGER NOT NULL DEFAULT 0
+) STRICT;
+CREATE INDEX DECLARANTES_NOMBRE ON DECLARANTES (CLAVE, DNI);
+CREATE INDEX DECLARANTES_RECIENTE ON DECLARANTES (RECIENTE);
+
+CREATE TABLE DECLARACIONES (
+    CSDE INTEGER PRIMARY KEY AUTOINCREMENT,
+    CSCO INTEGER NOT NULL REFERENCES DECLARANTES (CSCO),
+    EJERCICIO INTEGER NOT NULL,
+    PERIODICIDAD INTEGER NOT NULL,
+    PERIODO INTEGER NOT NULL,
+    MODELO TEXT NOT NULL,
+    TIPOLOGIA INTEGER NOT NULL,
+    IMPORTE INTEGER NOT NULL,
+    UNIQUE (CSCO, EJERCICIO, PERIODO, MODELO)
+) STRICT;
+
+CREATE TRIGGER DECLARACION_ALTA AFTER INSERT ON DECLARACIONES BEGIN
+    UPDATE DECLARANTES SET NUM430 = NUM430 + (NEW.MODELO = '430'),
+                           NUM480 = NUM480 + (NEW.MODELO = '480') WHERE CSCO = NEW.CSCO;
+END;
+CREATE TRIGGER DECLARACION_BAJA AFTER DELETE ON DECLARACIONES BEGIN
+    UPDATE DECLARANTES SET NUM430 = NUM430 - (OLD.MODELO = '430'),
+                           NUM480 = NUM480 - (OLD.MODELO = '480') WHERE CSCO = OLD.CSCO;
+END;
+
+CREATE TABLE AJUSTES (
+    CLAVE TEXT PRIMARY KEY,
+    VALOR TEXT NOT NULL
+) STRICT, WITHOUT ROWID;
+)";
+
+} // namespace
+
+void crearDatos(const QString &ruta)
+{
+    crearFichero(ruta, FormatoDatos, [](SQLite::Database &base) {
+        base.exec(TablasDatos);
+        base.exec(modelo430().crear);
+        base.exec(modelo480().crear);
+    });
+}
+
+namespace {
+
+constexpr const char *TablasLectura = R"(
 CREATE TABLE T05_PROVINCIAS (
     T05_PRO_ID INTEGER PRIMARY KEY, T05_PRO_CAS TEXT NOT NULL, T05_PRO_EUS TEXT NOT NULL) STRICT;
 CREATE TABLE T06_MUNICIPIOS (T06_CODMUN INTEGER PRIMARY KEY, T06_NOMMUN TEXT NOT NULL) STRICT;
@@ -35,7 +103,7 @@ using Linea = QStringList;
 
 QList<Linea> leer(const QString &nombre, qsizetype campos)
 {
-    QFile fichero(u":/consulta/%1.txt"_s.arg(nombre));
+    QFile fichero(u":/lectura/%1.txt"_s.arg(nombre));
     if (!fichero.open(QIODevice::ReadOnly))
         throw ErrorDatos(Fallo::NoExiste, fichero.fileName());
     QList<Linea> lineas;
@@ -86,13 +154,13 @@ Linea general()
 
 } // namespace
 
-void prepararConsulta(const QString &ruta, const Formato &formato)
+void prepararLectura(const QString &ruta, const Formato &formato)
 {
     if (QFile::exists(ruta)
         && comprobarCabecera(ruta, formato, Version::ActualOMenor) == formato.esquema)
         return;
     crearFichero(ruta, formato, [](SQLite::Database &base) {
-        base.exec(Tablas);
+        base.exec(TablasLectura);
         insertar(base, "INSERT INTO T05_PROVINCIAS VALUES (?, ?, ?)", leer(u"provincias"_s, 3));
         insertar(base, "INSERT INTO T06_MUNICIPIOS VALUES (?, ?)", leer(u"municipios"_s, 2));
         insertar(base, "INSERT INTO T07_SIGLASVIA VALUES (?, ?, ?)", leer(u"siglasvia"_s, 3));
