@@ -28,18 +28,28 @@ struct Lista : PantallaAbierta<FrmDecLista>
     }
 
     QTableView *grid() const { return manos->control<QTableView>("flxDeclarantes"); }
-    QStringList nombres() const
+    QString celda(int fila, int columna) const
+    {
+        return grid()->model()->index(fila, columna).data().toString();
+    }
+    QStringList columna(int numero) const
     {
         QStringList lista;
         for (int i = 0; i < grid()->model()->rowCount(); ++i)
-            lista += grid()->model()->index(i, FilaDeclarante::NOMBRE).data().toString();
+            lista += celda(i, numero);
         return lista;
     }
+    QString nombres() const { return columna(FilaDeclarante::NOMBRE).join(u' '); }
     QString elegido() const
     {
         const auto filas = grid()->selectionModel()->selectedRows(FilaDeclarante::NOMBRE);
         return filas.isEmpty() ? QString() : filas.first().data().toString();
     }
+    QPoint lugar(int fila) const
+    {
+        return grid()->visualRect(grid()->model()->index(fila, 1)).center();
+    }
+    void teclear(const QString &texto) const { QTest::keyClicks(grid(), texto); }
     void cabecera(int columna) const
     {
         auto *h = grid()->horizontalHeader();
@@ -50,79 +60,163 @@ struct Lista : PantallaAbierta<FrmDecLista>
     qint32 zeta = 0, media = 0;
 };
 
-class tst_FrmDecLista : public QObject
+class TstFrmDecLista : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    /// Whole rows and headers, every value of a row being another.
     void columnas()
     {
-        Lista l;
+        Lista l(u"C"_s, false);
+        auto &d = unico::la<cDecDatos>();
+        d.MODO(u"A"_s);
+        d.DNI(u"A08000143"_s);
+        d.NOMBRE(u"ÑANDÚ"_s);
+        d.DOMICILIO(u"MAYOR"_s);
+        d.CambiarProvincia(u"48"_s, {});
+        d.CODPOS(u"48001"_s);
+        d.NOMMUN(u"BILBAO"_s);
+        d.TELEFONO(u"944000000"_s);
+        QCOMPARE(d.GuardarDeclarante(d.RegistroCompleto()), qint16(0));
+        const qint32 csco = d.ObtenerCodigoDeclarante(u"A08000143"_s);
+        for (quint8 mes = 1; mes <= 3; ++mes)
+            Entorno::altaDeclaracion(csco, 2026, mes);
+        Entorno::altaDeclaracion(csco, 2025, 12, u"480"_s);
+        const auto fila = [&l] {
+            QStringList celdas;
+            for (int i = 0; i < l.grid()->model()->columnCount(); ++i)
+                celdas += l.celda(0, i);
+            return celdas.join(u'|');
+        };
+        const auto titulos = [&l] {
+            QStringList textos;
+            for (int i = 1; i < 5; ++i)
+                textos += l.grid()->model()->headerData(i, Qt::Horizontal, 0).toString();
+            return textos.join(u'|');
+        };
+        l.abrir();
         QCOMPARE(l.pantalla->windowTitle(), u"Abrir Declarante"_s);
-        QCOMPARE(l.manos->texto("lblNumDecla"), u"3 declarantes seleccionados"_s);
-        const auto *modelo = l.grid()->model();
-        QCOMPARE(modelo->columnCount(), 7);
-        for (const int oculta : {0, 5, 6})
-            QVERIFY(l.grid()->isColumnHidden(oculta));
-        QCOMPARE(modelo->index(0, 4).data().toString(), u"VARLENDA"_s);
-        QCOMPARE(l.elegido(), u"ZETA"_s);
-        QCOMPARE(unico::la<cDecLista>().CSCO(), l.zeta);
+        QCOMPARE(l.manos->texto("lblNumDecla"), u"1 declarantes seleccionados"_s);
+        QVERIFY(!l.manos->control("lblEliminar")->isVisible());
+        for (int i = 0; i < 7; ++i)
+            QCOMPARE(l.grid()->isColumnHidden(i), i == 0 || i > 4);
+        QCOMPARE(titulos(), u"DNI|Razón social|Nombre del municipio|Nombre de provincia"_s);
+        QCOMPARE(fila(), u"%1|A08000143|ÑANDÚ|BILBAO|VIZCAYA|3|1"_s.arg(csco));
+        Entorno::pasarAEuskera(*l.pantalla);
+        QCOMPARE(titulos(), u"NA|Sozietatearen izena|Udalerriaren izena|Probintziaren izena"_s);
+        QCOMPARE(fila(), u"%1|A08000143|ÑANDÚ|BILBAO|BIZKAIA|3|1"_s.arg(csco));
     }
 
+    /// By name at first; the first row is selected after each load.
     void ordenar()
     {
         Lista l;
-        l.cabecera(FilaDeclarante::NOMBRE);
-        QCOMPARE(l.nombres(), QStringList({u"ALFA"_s, u"MEDIA"_s, u"ZETA"_s}));
-        QCOMPARE(l.elegido(), u"ZETA"_s);
-        auto *cabecera = l.grid()->horizontalHeader();
-        QCOMPARE(cabecera->sortIndicatorSection(), 2);
+        const auto comprobar = [&](const QString &nombres, int marca) {
+            const auto *cabecera = l.grid()->horizontalHeader();
+            QCOMPARE(l.nombres(), nombres);
+            QCOMPARE(l.elegido(), nombres.section(u' ', 0, 0));
+            QCOMPARE(cabecera->sortIndicatorSection(), marca);
+            QVERIFY(cabecera->isSortIndicatorShown());
+        };
+        comprobar(u"ALFA MEDIA ZETA"_s, 2);
+        QTest::keyClick(l.grid(), Qt::Key_End, Qt::ControlModifier);
+        QCOMPARE(unico::la<cDecLista>().CSCO(), l.zeta);
+        l.cabecera(FilaDeclarante::DNI);
+        comprobar(u"ZETA MEDIA ALFA"_s, 1);
         l.cabecera(FilaDeclarante::NOMMUN);
-        QCOMPARE(unico::la<cDecLista>().ORDEN(), cDecLista::PorNombre);
+        comprobar(u"ZETA MEDIA ALFA"_s, 1);
+        QTest::keyClick(l.grid(), Qt::Key_2, Qt::ControlModifier);
+        comprobar(u"ALFA MEDIA ZETA"_s, 2);
         QTest::keyClick(l.grid(), Qt::Key_1, Qt::ControlModifier);
-        QCOMPARE(l.nombres(), QStringList({u"ZETA"_s, u"MEDIA"_s, u"ALFA"_s}));
-        QCOMPARE(cabecera->sortIndicatorSection(), 1);
-        QVERIFY(cabecera->isSortIndicatorShown());
+        l.abrir();
+        comprobar(u"ALFA MEDIA ZETA"_s, 2);
     }
 
     void abrir()
     {
-        for (const char *manera : {"Enter", "double click", "cmdAceptar", "PicAce"}) {
+        for (const char *manera : {"Enter", "double click", "menu", "cmdAceptar", "PicAce"}) {
             Lista l;
-            QTest::keyClick(l.grid(), Qt::Key_Down);
+            QTest::mouseClick(l.grid()->viewport(), Qt::LeftButton, {}, l.lugar(1));
             QCOMPARE(unico::la<cDecLista>().CSCO(), l.media);
-            const QPoint fila = l.grid()->visualRect(l.grid()->model()->index(1, 1)).center();
-            QTest::mouseClick(l.grid()->viewport(), Qt::LeftButton, {}, fila);
             if (qstrcmp(manera, "Enter") == 0)
                 QTest::keyClick(l.grid(), Qt::Key_Return);
             else if (qstrcmp(manera, "double click") == 0)
-                QTest::mouseDClick(l.grid()->viewport(), Qt::LeftButton, {}, fila);
+                QTest::mouseDClick(l.grid()->viewport(), Qt::LeftButton, {}, l.lugar(1));
+            else if (qstrcmp(manera, "menu") == 0)
+                l.manos->elegirEnMenu(*l.grid(), l.lugar(1), "cmdAceptar");
             else
                 l.manos->pulsar(manera);
             QCOMPARE(l.siguiente, Pantalla::Resumen);
-            QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"A"_s);
-            QCOMPARE(unico::la<cDecResumen>().CSCO(), l.media);
-            QCOMPARE(unico::la<cDecResumen>().NOMBRE(), u"MEDIA"_s);
+            const auto &resumen = unico::la<cDecResumen>();
+            QCOMPARE(resumen.ENTRADA(), u"A"_s);
+            QCOMPARE(resumen.CSCO(), l.media);
+            QCOMPARE(resumen.DNI() + resumen.NOMBRE(), u"00000002WMEDIA"_s);
         }
     }
 
-    void buscar()
+    /// What is typed leaves the rows that have it in the name or the DNI.
+    void filtrar()
     {
         Lista l;
-        l.cabecera(FilaDeclarante::NOMBRE);
-        QTest::keyClicks(l.grid(), u"me"_s);
+        Entorno::altaDeclarante(u"00000003A"_s, u"CÍA. ÁNGEL MUÑOZ"_s);
+        l.pantalla->Actualizar();
         auto *caja = l.manos->control<QLineEdit>("txtBusqueda");
-        QVERIFY(caja->isVisible());
-        QCOMPARE(caja->text(), u"me"_s);
+        const auto buscar = [&](const QString &texto, const QString &nombres) {
+            if (caja->isVisible())
+                QTest::keyClick(l.grid(), Qt::Key_Escape);
+            l.teclear(texto);
+            QVERIFY(caja->isVisible());
+            QCOMPARE(caja->text(), texto);
+            QCOMPARE(l.nombres(), nombres);
+        };
+        l.cabecera(FilaDeclarante::DNI);
+        buscar(u"angel"_s, u"CÍA. ÁNGEL MUÑOZ"_s);
+        buscar(u"munoz"_s, {});
+        buscar(u"a. A"_s, u"CÍA. ÁNGEL MUÑOZ"_s);
+        buscar(u"0002w"_s, u"MEDIA"_s);
+        buscar(u"a"_s, u"ZETA MEDIA CÍA. ÁNGEL MUÑOZ ALFA"_s);
+        buscar(u"ta"_s, u"ZETA"_s);
+        QCOMPARE(l.manos->texto("lblNumDecla"), u"1/4 declarantes seleccionados"_s);
+        buscar(u"e"_s, u"ZETA MEDIA CÍA. ÁNGEL MUÑOZ"_s);
+        QTest::keyClick(l.grid(), Qt::Key_Down);
         QCOMPARE(l.elegido(), u"MEDIA"_s);
-        QTest::keyClick(l.grid(), Qt::Key_Escape);
+        l.cabecera(FilaDeclarante::NOMBRE);
+        QCOMPARE(l.nombres(), u"CÍA. ÁNGEL MUÑOZ MEDIA ZETA"_s);
+        l.teclear(u"d"_s);
+        QCOMPARE(l.elegido(), u"MEDIA"_s);
+        l.teclear(u"x"_s);
+        QCOMPARE(l.manos->texto("lblVacio"), u"Ningún declarante contiene «edx»."_s);
+        QVERIFY(l.manos->control("lblVacio")->isVisible());
+        QVERIFY(!l.manos->control("cmdAceptar")->isEnabled());
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(l.grid(), Qt::Key_Backspace);
         QVERIFY(!caja->isVisible());
+        QCOMPARE(l.columna(0).size(), 4);
         QVERIFY(l.pantalla->isVisible());
-        QTest::keyClicks(l.grid(), u"xx"_s);
+    }
+
+    /// The row of a declarant changed elsewhere, and no other; the choice stays.
+    void cambioDeOtraPantalla()
+    {
+        Lista l;
+        QTest::keyClick(l.grid(), Qt::Key_Down);
+        auto &d = unico::la<cDecDatos>();
+        d.CSCO(l.zeta);
+        d.CargarDeclarante(l.zeta);
+        d.NOMBRE(u"BETA"_s);
+        d.GuardarDeclarante(d.RegistroCompleto());
+        const qint32 nueva = Entorno::altaDeclarante(u"00000003A"_s, u"NUEVA"_s);
+        l.pantalla->ActualizarDeclarante(l.zeta);
+        QCOMPARE(l.nombres(), u"ALFA BETA MEDIA"_s);
+        l.pantalla->ActualizarDeclarante(nueva);
+        QCOMPARE(l.nombres(), u"ALFA BETA MEDIA NUEVA"_s);
+        QCOMPARE(l.manos->texto("lblNumDecla"), u"4 declarantes seleccionados"_s);
+        d.CSCO(l.zeta);
+        d.BorrarDeclarante();
+        l.pantalla->ActualizarDeclarante(l.zeta);
+        QCOMPARE(l.nombres(), u"ALFA MEDIA NUEVA"_s);
         QCOMPARE(l.elegido(), u"MEDIA"_s);
-        QTest::keyClick(l.grid(), Qt::Key_Backspace);
-        QTest::keyClick(l.grid(), Qt::Key_Backspace);
-        QVERIFY(!caja->isVisible());
     }
 
     void vacia()
@@ -139,7 +233,9 @@ private Q_SLOTS:
     {
         Lista l(u"E"_s);
         QCOMPARE(l.pantalla->windowTitle(), u"Eliminar Declarante"_s);
+        QVERIFY(l.manos->control("lblEliminar")->isVisible());
         QSignalSpy cambios(l.pantalla.get(), &PantallaBase::datosCambiados);
+        QSignalSpy dichos(l.pantalla.get(), &PantallaBase::dicho);
         QTest::keyClick(l.grid(), Qt::Key_Down);
         l.responderYPulsar(QMessageBox::No, "cmdAceptar");
         const auto vistos = l.mensajes.tomar();
@@ -148,26 +244,41 @@ private Q_SLOTS:
         QCOMPARE(vistos[0].texto,
                  u"¿Está seguro que desea eliminar el declarante: 00000002W - MEDIA?"_s);
         QCOMPARE(vistos[0].porDefecto, QMessageBox::No);
-        QCOMPARE(l.nombres().size(), 3);
+        QCOMPARE(l.nombres(), u"ALFA MEDIA ZETA"_s);
         QCOMPARE(cambios.count(), 0);
 
         l.grid()->setFocus();
-        l.mensajes.responder(QMessageBox::Yes);
-        QTest::keyClick(l.grid(), Qt::Key_Return);
-        QCOMPARE(l.nombres(), QStringList({u"ZETA"_s, u"ALFA"_s}));
-        QCOMPARE(l.elegido(), u"ALFA"_s);
-        QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 2);
-        QCOMPARE(cambios.count(), 1);
+        for (const Qt::Key tecla : {Qt::Key_Return, Qt::Key_Delete}) {
+            QApplication::setActiveWindow(l.pantalla.get());
+            l.mensajes.responder(QMessageBox::Yes);
+            QTest::keyClick(l.grid(), tecla);
+        }
+        QCOMPARE(l.nombres(), u"ZETA"_s);
+        QCOMPARE(l.elegido(), u"ZETA"_s);
+        QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 1);
+        QCOMPARE(cambios.count(), 2);
+        QCOMPARE(cambios.front().front().toInt(), l.media);
+        QCOMPARE(dichos.front().front().toString(), u"Declarante eliminado: 00000002W - MEDIA"_s);
     }
 
-    void conDeclaraciones()
+    /// Another copy of the program has filed a return, or deleted the declarant, since the list was
+    /// loaded.
+    void cambiadoEnOtraCopia()
     {
         Lista l(u"E"_s);
-        Entorno::altaDeclaracion(l.zeta, 2026, 12, u"480"_s);
-        l.pantalla->Actualizar();
+        Entorno::altaDeclaracion(l.media, 2026, 12, u"480"_s);
+        QTest::keyClick(l.grid(), Qt::Key_Down);
         l.responderYPulsar(QMessageBox::Ok, "cmdAceptar");
         QCOMPARE(l.mensajes.texto(), msj(Msj::AvisoTieneDeclaraciones));
-        QCOMPARE(l.nombres().size(), 3);
+        QCOMPARE(l.nombres(), u"ALFA MEDIA ZETA"_s);
+
+        QTest::keyClick(l.grid(), Qt::Key_End, Qt::ControlModifier);
+        unico::la<cDecDatos>().CSCO(l.zeta);
+        unico::la<cDecDatos>().BorrarDeclarante();
+        l.responderYPulsar(QMessageBox::Ok, "cmdAceptar");
+        QCOMPARE(l.mensajes.texto(),
+                 u"«00000001R - ZETA» ya no existe: se ha eliminado en otra copia del programa."_s);
+        QCOMPARE(l.nombres(), u"ALFA MEDIA"_s);
     }
 
     void falloAlBorrar()
@@ -175,13 +286,12 @@ private Q_SLOTS:
         Lista l(u"E"_s);
         {
             const ModeloPerdido perdido;
-            l.mensajes.responder(QMessageBox::Yes);
             l.responderYPulsar(QMessageBox::Ok, "cmdAceptar");
         }
-        QCOMPARE(l.mensajes.tomar().size(), 2);
-        QCOMPARE(l.nombres().size(), 3);
+        QVERIFY(l.mensajes.texto().contains(u"OstrMod.mdb"_s));
+        QCOMPARE(l.nombres(), u"ALFA MEDIA ZETA"_s);
         l.responderYPulsar(QMessageBox::Yes, "cmdAceptar");
-        QCOMPARE(l.nombres().size(), 2);
+        QCOMPARE(l.nombres(), u"MEDIA ZETA"_s);
     }
 
     void idioma()
@@ -191,8 +301,6 @@ private Q_SLOTS:
         Entorno::pasarAEuskera(*l.pantalla);
         QCOMPARE(l.pantalla->windowTitle(), u"Deuseztatu aitortzailea"_s);
         QCOMPARE(l.manos->texto("lblNumDecla"), u"3 aitortzaile hautatu d(ir)a"_s);
-        QCOMPARE(l.grid()->model()->headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(),
-                 u"Sozietatearen izena"_s);
         QCOMPARE(l.manos->texto("cmdAceptar").remove(u'&').trimmed(), u"Deuseztatu"_s);
         QCOMPARE(l.elegido(), u"MEDIA"_s);
     }
@@ -212,5 +320,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_FrmDecLista)
+QTEST_MAIN(TstFrmDecLista)
 #include "tst_frmdeclista.moc"

@@ -68,7 +68,8 @@ void Pantallas::mostrarNueva(const DatosPantalla &datos)
     nueva->quienAbre([this](Pantalla siguiente) { return abrir(siguiente); });
     connect(nueva, &PantallaBase::dicho, this, &Pantallas::dicho);
     connect(nueva, &PantallaBase::cambiaEdicion, this, &Pantallas::cambiadas);
-    connect(nueva, &PantallaBase::datosCambiados, this, [this, nueva] { avisarCambio(nueva); });
+    connect(nueva, &PantallaBase::datosCambiados, this,
+            [this, nueva](qint32 csco) { avisarCambio(nueva, csco); });
     connect(nueva, &QObject::destroyed, this, [this, nueva] { olvidar(nueva); });
     if (modal) {
         nueva->hacerModal();
@@ -144,12 +145,14 @@ void Pantallas::suspenderOtras()
     }
 }
 
-void Pantallas::avisarCambio(const PantallaBase *autora)
+void Pantallas::avisarCambio(const PantallaBase *autora, qint32 csco)
 {
     for (const Pantalla cual : m_abiertas.keys()) {
         auto *otra = pantalla(cual);
         if (otra && otra != autora && !otra->edita())
-            procedimiento(m_ventana, [otra] { otra->Actualizar(); });
+            procedimiento(m_ventana, [=] {
+                csco == 0 ? otra->Actualizar() : otra->ActualizarDeclarante(csco);
+            });
     }
     Q_EMIT datosCambiados();
 }

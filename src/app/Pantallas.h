@@ -40,7 +40,7 @@ private:
     void mostrarDelante(PantallaBase *abierta);
     void suspenderOtras();
     void olvidar(const PantallaBase *desaparecida);
-    void avisarCambio(const PantallaBase *autora);
+    void avisarCambio(const PantallaBase *autora, qint32 csco);
 
     QMdiArea *m_area;
     QWidget *m_ventana;

@@ -84,7 +84,8 @@ public:
     virtual qint32 dameResultado(Filas &filas, quint8 orden, qint16 idioma) = 0;
     /// RegDeclarante rows of every declarant, in the same orders.
     virtual qint32 dameResultadoExportar(Filas &filas, quint8 orden) = 0;
-    /// The same rows one after the other, none of them kept, until `visitar` returns false.
+    /// The same rows one after the other, none of them kept, until `visitar` returns false; `orden`
+    /// 0: as they are stored, which is the fastest.
     virtual void RecorrerExportar(quint8 orden,
                                   const std::function<bool(const Registro &)> &visitar)
         = 0;

@@ -1,11 +1,13 @@
 #include "declarants/FrmDecLista.h"
 
+#include "core/Busqueda.h"
 #include "core/CEntrada.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/cDecDatos.h"
 #include "declarants/cDecLista.h"
 #include "declarants/cDecResumen.h"
+#include "widgets/AccionesFilas.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Mensajes.h"
@@ -27,7 +29,8 @@ using Fila = DeclaranteListado;
 
 namespace {
 enum Columna { CSCO, DNI, NOMBRE, NOMMUN, NOMPROV, NUM430, NUM480 };
-}
+constexpr QColor Rojo(176, 32, 32);
+} // namespace
 
 static cDecLista &estado()
 {
@@ -42,26 +45,31 @@ static int columnaOrden()
 
 FrmDecLista::FrmDecLista(QWidget *padre)
     : PantallaBase(u"FrmDecLista"_s, padre)
+    , m_lblEliminar(nuevaEtiqueta(u"lblEliminar"_s, this))
     , m_lblOrdenar(nuevaEtiqueta(u"lblOrdenar"_s, this))
     , m_flxDeclarantes(new QTableView(this))
     , m_modelo(new ModeloFilas<Fila>(this))
-    , m_busqueda(new cUtilidadesGrid(m_flxDeclarantes))
+    , m_busqueda(new cUtilidadesGrid(m_flxDeclarantes,
+                                     [this](const QString &texto) { return filtrar(texto); }))
     , m_lblVacio(nuevaEtiqueta(u"lblVacio"_s, m_flxDeclarantes->viewport()))
     , m_lblBusqueda(nuevaEtiqueta(u"lblBusqueda"_s, this))
     , m_lblNumDecla(nuevaEtiqueta(u"lblNumDecla"_s, this))
     , m_botones(new BarraBotones(u"fraBotones"_s, this))
-    , m_cmdAceptar(m_botones->anadir(u"cmdAceptar"_s, u"PicAce"_s, Icono::Aceptar))
+    , m_cmdAceptar(m_botones->anadir(u"cmdAceptar"_s, u"PicAce"_s,
+                                     eliminando() ? Icono::Eliminar : Icono::Aceptar))
     , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar))
 {
     for (auto *etiqueta : {m_lblOrdenar, m_lblVacio, m_lblBusqueda})
         etiqueta->setWordWrap(true);
+    estado().ORDEN(cDecLista::PorNombre);
     Anadir_captions();
     prepararGrid();
     crearOrdenes();
+    ponerAspecto();
     disponer();
     alPulsar(m_cmdAceptar, [this] { aceptar(); });
     alPulsarSinConfirmar(m_cmdCancelar, [this] { cerrarA(Pantalla::Ninguna); });
-    procedimiento(this, [this] { PresentaDatos(); });
+    PresentaDatos();
 }
 
 void FrmDecLista::prepararGrid()
@@ -98,6 +106,26 @@ void FrmDecLista::crearOrdenes()
     }
 }
 
+/// A list from which declarants are deleted does not look like one from which they are opened.
+void FrmDecLista::ponerAspecto()
+{
+    const bool borra = eliminando();
+    ponerAcciones(m_flxDeclarantes, {{m_cmdAceptar, borra ? Qt::Key_Delete : QKeySequence()}});
+    m_lblEliminar->setVisible(borra);
+    if (!borra)
+        return;
+    QPalette banda = m_lblEliminar->palette();
+    banda.setColor(QPalette::Window, Rojo);
+    banda.setColor(QPalette::WindowText, Qt::white);
+    m_lblEliminar->setPalette(banda);
+    m_lblEliminar->setAutoFillBackground(true);
+    m_lblEliminar->setMargin(6);
+    QPalette filas = m_flxDeclarantes->palette();
+    filas.setColor(QPalette::Highlight, Rojo);
+    filas.setColor(QPalette::HighlightedText, Qt::white);
+    m_flxDeclarantes->setPalette(filas);
+}
+
 void FrmDecLista::disponer()
 {
     m_lblVacio->setAlignment(Qt::AlignCenter);
@@ -111,6 +139,7 @@ void FrmDecLista::disponer()
     auto *todo = new QVBoxLayout(this);
     todo->setContentsMargins(MargenPantalla);
     todo->setSpacing(8);
+    todo->addWidget(m_lblEliminar);
     todo->addWidget(m_lblOrdenar);
     todo->addWidget(m_flxDeclarantes, 1);
     todo->addWidget(m_lblBusqueda);
@@ -135,7 +164,7 @@ void FrmDecLista::Anadir_captions()
     setWindowTitle(msj(borra ? Msj::TituloEliminarDeclarante : Msj::TituloAbrirDeclarante));
     m_lblOrdenar->setText(msj(Msj::PistaOrdenar));
     m_lblBusqueda->setText(msj(Msj::PistaBusquedaLista));
-    m_lblVacio->setText(msj(Msj::SinDeclarantes));
+    m_lblEliminar->setText(msj(Msj::BandaEliminar));
     m_flxDeclarantes->setAccessibleName(msj(Msj::AccesibleListaDeclarantes));
     m_flxDeclarantes->setAccessibleDescription(msj(Msj::PistaBusquedaLista));
     m_modelo->columnas({
@@ -156,14 +185,32 @@ void FrmDecLista::Anadir_captions()
         msj(borra ? Msj::PistaEliminarSeleccionado : Msj::PistaAbrirSeleccionado));
 }
 
+/// The names of the provinces change with the language.
 void FrmDecLista::alCambiarIdioma()
 {
+    const qint32 csco = estado().CSCO();
     PresentaDatos();
+    seleccionarDeclarante(csco);
 }
 
 void FrmDecLista::Actualizar()
 {
     procedimiento(this, [this] { PresentaDatos(); });
+}
+
+/// Only its row: it may be new, gone, or in another place now.
+void FrmDecLista::ActualizarDeclarante(qint32 csco)
+{
+    const qint32 elegido = estado().CSCO();
+    auto ahora = cDecLista::CargarDeclarante(csco);
+    m_modelo->cambiar([&](QList<Fila> &todas) {
+        todas.removeIf([csco](const Fila &fila) { return fila.csco == csco; });
+        if (ahora)
+            estado().Colocar(todas, std::move(*ahora));
+        estado().NUMDECLASEL(static_cast<qint32>(todas.size()));
+    });
+    PresentaNumero();
+    seleccionarDeclarante(elegido);
 }
 
 void FrmDecLista::showEvent(QShowEvent *evento)
@@ -173,14 +220,11 @@ void FrmDecLista::showEvent(QShowEvent *evento)
         m_flxDeclarantes->setFocus(Qt::OtherFocusReason);
 }
 
-/// The declarant selected stays so; when it is gone, the one in its place, or the first.
 void FrmDecLista::CargarflxDeclarantes()
 {
-    const qint32 csco = estado().CSCO();
-    const int lugar = std::max(0, m_flxDeclarantes->currentIndex().row());
+    m_modelo->filas({}); // never two copies of a long list
     m_modelo->filas(estado().CargarDeclarantes());
-    const int fila = csco == 0 ? -1 : m_modelo->buscar(&Fila::csco, csco);
-    seleccionar(fila >= 0 ? fila : std::min(lugar, m_modelo->rowCount() - 1));
+    seleccionar(0);
 }
 
 void FrmDecLista::PresentaDatos()
@@ -188,19 +232,49 @@ void FrmDecLista::PresentaDatos()
     CargarflxDeclarantes();
     m_flxDeclarantes->horizontalHeader()->setSortIndicator(columnaOrden(), Qt::AscendingOrder);
     m_busqueda->columna(columnaOrden());
-    const qint32 numero = estado().NUMDECLASEL();
-    m_lblNumDecla->setText(QString::number(numero) + u' ' + msj(Msj::DeclarantesSeleccionados));
-    m_lblVacio->setVisible(numero == 0);
+    PresentaNumero();
+}
+
+void FrmDecLista::PresentaNumero()
+{
+    const int todos = estado().NUMDECLASEL();
+    const int visibles = m_modelo->rowCount();
+    const QString numero = m_busqueda->hayAlgunaCondicion() ? u"%1/%2"_s.arg(visibles).arg(todos)
+                                                            : QString::number(todos);
+    m_lblNumDecla->setText(numero + u' ' + msj(Msj::DeclarantesSeleccionados));
+    m_lblVacio->setVisible(visibles == 0);
+    m_lblVacio->setText(todos == 0 ? msj(Msj::SinDeclarantes)
+                                   : msj(Msj::NingunDeclaranteContiene, m_busqueda->texto()));
 }
 
 void FrmDecLista::ordenar(int columna)
 {
     if (columna == DNI || columna == NOMBRE) {
         estado().ORDEN(columna == DNI ? cDecLista::PorDni : cDecLista::PorNombre);
-        PresentaDatos();
+        m_modelo->cambiar([](QList<Fila> &todas) { estado().Ordenar(todas); });
+        m_busqueda->columna(columna);
+        seleccionar(0);
     }
     // the header has moved its marker on its own account, to whatever column was clicked
     m_flxDeclarantes->horizontalHeader()->setSortIndicator(columnaOrden(), Qt::AscendingOrder);
+}
+
+bool FrmDecLista::filtrar(const QString &texto)
+{
+    const qint32 elegido = estado().CSCO();
+    const QString plegado = busqueda::plegar(texto);
+    m_modelo->filtrar([plegado](const Fila &fila) {
+        return busqueda::contiene(fila.nombre, plegado) || busqueda::contiene(fila.dni, plegado);
+    });
+    PresentaNumero();
+    seleccionarDeclarante(elegido);
+    return m_modelo->rowCount() > 0;
+}
+
+/// The first row when that declarant is not shown.
+void FrmDecLista::seleccionarDeclarante(qint32 csco)
+{
+    seleccionar(std::max(0, m_modelo->buscar(&Fila::csco, csco)));
 }
 
 void FrmDecLista::seleccionar(int fila)
@@ -229,7 +303,7 @@ void FrmDecLista::aceptar()
     if (!fila)
         return;
     if (eliminando()) {
-        eliminar(Fila(*fila));
+        eliminar(fila->csco);
         return;
     }
     auto &resumen = unico::la<cDecResumen>();
@@ -238,29 +312,43 @@ void FrmDecLista::aceptar()
     cerrarA(Pantalla::Resumen);
 }
 
-void FrmDecLista::eliminar(const Fila &fila)
+/// What stands in the list may be old: the declarant is looked up again before the question.
+void FrmDecLista::eliminar(qint32 csco)
 {
+    const Fila listado = *filaActual();
+    ActualizarDeclarante(csco);
+    const auto *fila = filaActual();
+    if (!fila || fila->csco != csco)
+        return yaNoEsta(listado);
     const QString titulo = msj(Msj::TituloBorradoDeclarante);
-    if (fila.num430 != 0 || fila.num480 != 0) {
+    if (fila->num430 != 0 || fila->num480 != 0) {
         mensajes::aviso(this, titulo, msj(Msj::AvisoTieneDeclaraciones));
         return;
     }
-    if (!mensajes::pregunta(this, titulo,
-                            msj(Msj::PreguntaBorrarDeclarante, fila.dni, fila.nombre)))
+    const QString dni = fila->dni, nombre = fila->nombre;
+    if (!mensajes::pregunta(this, titulo, msj(Msj::PreguntaBorrarDeclarante, dni, nombre)))
         return;
     auto &datos = unico::la<cDecDatos>();
-    datos.CSCO(fila.csco);
+    datos.CSCO(csco);
     datos.BorrarDeclarante();
-    PresentaDatos();
+    decir(msj(Msj::DeclaranteEliminado, dni, nombre));
+    Q_EMIT datosCambiados(csco);
     unico::la<CEntrada>().InicializarContadores();
-    Q_EMIT datosCambiados();
+    PresentaDatos();
+}
+
+void FrmDecLista::yaNoEsta(const Fila &fila)
+{
+    mensajes::aviso(this, msj(Msj::TituloBorradoDeclarante),
+                    msj(Msj::EliminadoEnOtraCopia, fila.dni + u" - "_s + fila.nombre));
+    Q_EMIT datosCambiados(fila.csco);
 }
 
 /// Escape leaves the list, once the search box is empty.
 void FrmDecLista::keyPressEvent(QKeyEvent *evento)
 {
-    if (evento->key() == Qt::Key_Escape)
-        m_cmdCancelar->click();
+    if (evento->key() == Qt::Key_Escape && m_busqueda->hayAlgunaCondicion())
+        m_busqueda->OcultarTxtBusqueda();
     else
         PantallaBase::keyPressEvent(evento);
 }

@@ -19,6 +19,7 @@ public:
 
     void Anadir_captions() override;
     void Actualizar() override;
+    void ActualizarDeclarante(qint32 csco) override;
     void CargarflxDeclarantes();
     void PresentaDatos();
 
@@ -33,14 +34,20 @@ private:
     void prepararGrid();
     void crearOrdenes();
     void disponer();
+    void ponerAspecto();
     void ordenar(int columna);
+    bool filtrar(const QString &texto);
+    void PresentaNumero();
     void seleccionar(int fila);
+    void seleccionarDeclarante(qint32 csco);
     void alSeleccionar();
     const DeclaranteListado *filaActual() const; ///< null when no row is selected
     bool eliminando() const;
     void aceptar();
-    void eliminar(const DeclaranteListado &fila);
+    void eliminar(qint32 csco);
+    void yaNoEsta(const DeclaranteListado &fila);
 
+    QLabel *m_lblEliminar; ///< band over a list from which declarants are deleted
     QLabel *m_lblOrdenar;
     QTableView *m_flxDeclarantes;
     ModeloFilas<DeclaranteListado> *m_modelo;

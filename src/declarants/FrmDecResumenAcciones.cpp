@@ -187,7 +187,7 @@ void FrmDecResumen::eliminar()
     PresentaDatos();
     enfocarLista();
     unico::la<CEntrada>().InicializarContadores();
-    Q_EMIT datosCambiados();
+    Q_EMIT datosCambiados(cabecera().CSCO());
 }
 
 void FrmDecResumen::verDeclarante()

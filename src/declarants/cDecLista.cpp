@@ -2,24 +2,112 @@
 
 #include "core/Servicios.h"
 #include "core/Textos.h"
+#include "dataservice/ClaveOrden.h"
+#include "dataservice/ErrorDatos.h"
+#include "declarants/Listas.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
+#include <tuple>
+#include <vector>
+
+namespace {
+
+/// Makes rows of full records. Rows of one town share its name, so that a long list stays small.
+class Lector
+{
+public:
+    Lector()
+    {
+        for (const auto &provincia : cargarProvincias())
+            m_provincias.insert(provincia.codigo.toInt(), provincia.nombre);
+    }
+
+    DeclaranteListado leer(const Registro &registro)
+    {
+        using enum RegDeclarante::Campo;
+        return {registro[CSCO].toInt(),
+                registro[DNI].toString(),
+                registro[NOMBRE].toString(),
+                *m_municipios.insert(registro[NOMMUN].toString()),
+                m_provincias.value(registro[CODPROV].toInt()),
+                registro[NUM430].toInt(),
+                registro[NUM480].toInt()};
+    }
+
+private:
+    QHash<int, QString> m_provincias;
+    QSet<QString> m_municipios;
+};
+
+struct ConClave
+{
+    QString clave;
+    const DeclaranteListado *fila;
+
+    friend bool operator<(const ConClave &una, const ConClave &otra)
+    {
+        return std::tie(una.clave, una.fila->dni) < std::tie(otra.clave, otra.fila->dni);
+    }
+};
+
+} // namespace
 
 QList<DeclaranteListado> cDecLista::CargarDeclarantes()
 {
-    using enum FilaDeclarante::Columna;
-    auto servicio = servicioDeclarante();
-    servicio->mdbnameL(rutas().lectura);
-    Filas filas;
-    m_numdeclasel = servicio->dameResultado(filas, m_orden, desplazamientoIdioma());
     QList<DeclaranteListado> lista;
-    lista.reserve(filas.size());
-    for (const QVariant &fila : std::as_const(filas)) {
-        const auto celdas = fila.toList();
-        lista.append({celdas.value(CSCO).toInt(), celdas.value(DNI).toString(),
-                      celdas.value(NOMBRE).toString(), celdas.value(NOMMUN).toString(),
-                      celdas.value(NOMPROV).toString(), celdas.value(NUM430).toInt(),
-                      celdas.value(NUM480).toInt()});
-    }
+    Lector lector;
+    servicioDeclarante()->RecorrerExportar(0, [&](const Registro &registro) {
+        lista.append(lector.leer(registro));
+        return true;
+    });
+    Ordenar(lista);
+    m_numdeclasel = static_cast<qint32>(lista.size());
     return lista;
+}
+
+QString cDecLista::clave(const DeclaranteListado &fila) const
+{
+    return m_orden == PorNombre ? claveOrden(fila.nombre) : fila.dni;
+}
+
+void cDecLista::Ordenar(QList<DeclaranteListado> &lista) const
+{
+    std::vector<ConClave> claves;
+    claves.reserve(static_cast<size_t>(lista.size()));
+    for (const auto &fila : std::as_const(lista))
+        claves.push_back({clave(fila), &fila});
+    std::ranges::sort(claves, std::less<ConClave>());
+    QList<DeclaranteListado> ordenada;
+    ordenada.reserve(lista.size());
+    for (const auto &clave : claves)
+        ordenada.append(*clave.fila);
+    lista = std::move(ordenada);
+}
+
+void cDecLista::Colocar(QList<DeclaranteListado> &lista, DeclaranteListado fila) const
+{
+    const ConClave nueva{clave(fila), &fila};
+    const auto lugar = std::ranges::lower_bound(lista, nueva, std::less<ConClave>(),
+                                                [this](const DeclaranteListado &otra) {
+                                                    return ConClave{clave(otra), &otra};
+                                                });
+    lista.insert(lugar, std::move(fila));
+}
+
+std::optional<DeclaranteListado> cDecLista::CargarDeclarante(qint32 csco)
+{
+    Registro registro;
+    try {
+        servicioDeclarante()->CargarDeclarante(csco, registro);
+    } catch (const ErrorDatos &error) {
+        if (error.fallo() != Fallo::NoEncontrado)
+            throw;
+        return {};
+    }
+    return Lector().leer(registro);
 }
 
 QList<DeclaranteReciente> cDecLista::UltimosDeclarantes()

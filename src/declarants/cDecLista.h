@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 /// A declarant in a list. The counters are the returns really stored.
@@ -45,10 +47,18 @@ public:
 
     /// Every declarant, in the order ORDEN; sets NUMDECLASEL.
     QList<DeclaranteListado> CargarDeclarantes();
+    /// Puts rows already loaded into the order ORDEN.
+    void Ordenar(QList<DeclaranteListado> &lista) const;
+    /// Adds a row at its place in the order ORDEN.
+    void Colocar(QList<DeclaranteListado> &lista, DeclaranteListado fila) const;
+    /// One row as it is stored now; nothing when the declarant is not there any more.
+    static std::optional<DeclaranteListado> CargarDeclarante(qint32 csco);
     /// Up to four, the last saved first.
     static QList<DeclaranteReciente> UltimosDeclarantes();
 
 private:
+    QString clave(const DeclaranteListado &fila) const;
+
     qint32 m_csco = 0;
     qint32 m_numdeclasel = 0;
     QString m_modo = Modo::Consulta;

@@ -215,7 +215,6 @@ void frmDecDatos::aceptar()
             return;
         m_modificado = false;
         m_porEntregar = true;
-        Q_EMIT datosCambiados();
     }
     if (m_porEntregar)
         entregar();
@@ -239,6 +238,8 @@ void frmDecDatos::entregar()
     resumen.TomarDeclarante(datos.CSCO(), datos.DNI(), datos.NOMBRE());
     unico::la<CEntrada>().InicializarContadores();
     m_porEntregar = false;
+    decir(msj(Msj::DeclaranteGuardado, datos.DNI(), datos.NOMBRE()));
+    Q_EMIT datosCambiados(datos.CSCO());
 }
 
 void frmDecDatos::cancelar()

@@ -147,7 +147,7 @@ void PantallaDeclaracion::entregar(const QString &modo, qint32 csde)
         cabecera.CSDE(csde);
     cabecera.ENTRADA(Entrada::Vuelta);
     m_modificada = false;
-    Q_EMIT datosCambiados();
+    Q_EMIT datosCambiados(cabecera.CSCO());
     cerrarA(Pantalla::Resumen);
 }
 

@@ -16,6 +16,8 @@ constexpr quint8 PorNombre = 2;
 
 std::string orderBy(quint8 orden)
 {
+    if (orden == 0)
+        return {};
     return orden == PorNombre ? "ORDER BY CLAVE, DNI" : "ORDER BY DNI";
 }
 

@@ -42,8 +42,14 @@ public:
 
     void filas(QList<Fila> filas)
     {
+        cambiar([&](QList<Fila> &todas) { todas = std::move(filas); });
+    }
+
+    /// Lets `cambio` put the rows, shown or not, in another order, or change some of them.
+    template <class Cambio> void cambiar(Cambio &&cambio)
+    {
         beginResetModel();
-        m_filas = std::move(filas);
+        cambio(m_filas);
         presentarTodas();
         endResetModel();
     }

@@ -47,6 +47,8 @@ public:
     virtual void Anadir_captions() = 0;
     /// Shows the stored data again; after a save, deletion or restore elsewhere.
     virtual void Actualizar() {}
+    /// The same after a change of one declarant, or of its returns.
+    virtual void ActualizarDeclarante(qint32 /*csco*/) { Actualizar(); }
 
     /// Whether closing now would lose something: a change, or a text still only typed.
     bool perderia() const;
@@ -72,7 +74,7 @@ public:
 
 Q_SIGNALS:
     void mostrar(Pantalla cual);
-    void datosCambiados();
+    void datosCambiados(qint32 csco = 0); ///< of one declarant, or of its returns; 0: of many
     void cambiaEdicion();
     void dicho(const QString &texto, bool pasajera);
     void cerrada();

@@ -6,27 +6,11 @@
 #include <QKeyEvent>
 #include <QTableView>
 
-/// Capital without accent, so that "a" finds "Á". Ñ and Ç keep their own place.
-static QChar plegar(QChar c)
-{
-    const QChar mayuscula = c.toUpper();
-    if (mayuscula.unicode() < 0xC0 || mayuscula == u'Ñ' || mayuscula == u'Ç')
-        return mayuscula;
-    const QString partes = mayuscula.decomposition();
-    return partes.isEmpty() ? mayuscula : partes.front();
-}
-
-static QString plegar(QString texto)
-{
-    for (QChar &c : texto)
-        c = plegar(c);
-    return texto;
-}
-
-cUtilidadesGrid::cUtilidadesGrid(QTableView *Flex)
+cUtilidadesGrid::cUtilidadesGrid(QTableView *Flex, std::function<bool(const QString &)> filtrar)
     : QObject(Flex)
     , m_flex(Flex)
     , m_txtBusqueda(new CajaBusqueda(Flex))
+    , m_filtrar(std::move(filtrar))
 {
     m_flex->installEventFilter(this);
 }
@@ -34,7 +18,8 @@ cUtilidadesGrid::cUtilidadesGrid(QTableView *Flex)
 void cUtilidadesGrid::columna(int columna)
 {
     m_columna = columna;
-    OcultarTxtBusqueda();
+    if (hayAlgunaCondicion())
+        PosicionarTxtBusqueda();
 }
 
 void cUtilidadesGrid::PosicionarTxtBusqueda()
@@ -46,32 +31,27 @@ void cUtilidadesGrid::PosicionarTxtBusqueda()
 
 void cUtilidadesGrid::OcultarTxtBusqueda()
 {
+    const bool habia = hayAlgunaCondicion();
     m_txtBusqueda->vaciar();
+    if (habia)
+        m_filtrar({});
 }
 
 bool cUtilidadesGrid::hayAlgunaCondicion() const
 {
-    return !m_txtBusqueda->text().isEmpty();
+    return !texto().isEmpty();
+}
+
+QString cUtilidadesGrid::texto() const
+{
+    return m_txtBusqueda->text();
 }
 
 void cUtilidadesGrid::SeleccionarGrid(const QString &texto)
 {
-    const auto *modelo = m_flex->model();
-    const QString buscado = plegar(texto);
-    int contenido = -1;
-    for (int fila = 0; fila < modelo->rowCount(); ++fila) {
-        const QString celda = plegar(modelo->index(fila, m_columna).data().toString());
-        if (celda.startsWith(buscado)) {
-            m_flex->selectRow(fila);
-            return;
-        }
-        if (contenido < 0 && celda.contains(buscado))
-            contenido = fila;
-    }
-    if (contenido >= 0)
-        m_flex->selectRow(contenido);
-    // nothing found: the box says so, the selection stays
-    m_txtBusqueda->hallado(contenido >= 0);
+    m_txtBusqueda->setText(texto);
+    PosicionarTxtBusqueda();
+    m_txtBusqueda->hallado(m_filtrar(texto));
 }
 
 bool cUtilidadesGrid::tecla(QKeyEvent *evento)
@@ -89,14 +69,10 @@ bool cUtilidadesGrid::tecla(QKeyEvent *evento)
         texto += evento->text();
     else
         return false;
-    m_txtBusqueda->hallado(true);
-    m_txtBusqueda->setText(texto);
-    if (texto.isEmpty()) {
+    if (texto.isEmpty())
         OcultarTxtBusqueda();
-        return true;
-    }
-    PosicionarTxtBusqueda();
-    SeleccionarGrid(texto);
+    else
+        SeleccionarGrid(texto);
     return true;
 }
 
@@ -104,7 +80,5 @@ bool cUtilidadesGrid::eventFilter(QObject *objeto, QEvent *evento)
 {
     if (evento->type() == QEvent::KeyPress)
         return tecla(static_cast<QKeyEvent *>(evento));
-    if (evento->type() == QEvent::FocusOut)
-        OcultarTxtBusqueda();
     return QObject::eventFilter(objeto, evento);
 }

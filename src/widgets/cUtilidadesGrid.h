@@ -2,23 +2,29 @@
 
 #include <QObject>
 
+#include <functional>
+
 class CajaBusqueda;
 class QTableView;
 
-/// Type-to-search for a list grid: what is typed in the grid appears in a box laid over it and the
-/// first row whose sorted column begins so (or else contains it) is selected. Escape clears it.
+/// Type-to-search for a list grid: what is typed in the grid appears in a box laid over it and
+/// leaves only the rows that have it. Escape clears it.
 class cUtilidadesGrid : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit cUtilidadesGrid(QTableView *Flex);
+    /// `filtrar` shows only the rows that have a text, or all of them when it is empty; false when
+    /// there is none.
+    cUtilidadesGrid(QTableView *Flex, std::function<bool(const QString &)> filtrar);
 
-    /// The column searched; the box is laid over its header.
+    /// The column over whose header the box is laid.
     void columna(int columna);
     void PosicionarTxtBusqueda();
+    /// Empties the box; every row is shown again.
     void OcultarTxtBusqueda();
     bool hayAlgunaCondicion() const;
+    QString texto() const;
 
 protected:
     bool eventFilter(QObject *objeto, QEvent *evento) override;
@@ -29,5 +35,6 @@ private:
 
     QTableView *m_flex;
     CajaBusqueda *m_txtBusqueda;
+    std::function<bool(const QString &)> m_filtrar;
     int m_columna = 0;
 };

@@ -1,7 +1,11 @@
 #pragma once
 
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QTest>
-#include <QWidget>
+#include <QTimer>
 
 /// The hands of a person at a screen: everything by the controls' names, with clicks and keys.
 class Manos
@@ -41,6 +45,19 @@ public:
             QTest::keyClick(caja, Qt::Key_Delete);
         else
             QTest::keyClicks(caja, texto);
+    }
+
+    /// Opens the menu of a place with the right button and chooses the entry called `entrada`.
+    void elegirEnMenu(QAbstractScrollArea &zona, const QPoint &lugar, const char *entrada) const
+    {
+        QTimer::singleShot(0, &zona, [entrada] {
+            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            auto *accion = menu->findChild<QAction *>(QString::fromLatin1(entrada));
+            QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(accion).center());
+        });
+        QContextMenuEvent evento(QContextMenuEvent::Mouse, lugar,
+                                 zona.viewport()->mapToGlobal(lugar));
+        QApplication::sendEvent(zona.viewport(), &evento);
     }
 
     void tecla(Qt::Key tecla, Qt::KeyboardModifiers con = {}) const

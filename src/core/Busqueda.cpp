@@ -1,0 +1,43 @@
+#include "core/Busqueda.h"
+
+#include <algorithm>
+#include <array>
+
+namespace busqueda {
+
+static constexpr char16_t TotalLatinas = 0x250; ///< Latin letters, with accents or without
+
+static QChar mayusculaSinTilde(QChar c)
+{
+    const QChar mayuscula = c.toUpper();
+    if (mayuscula == u'Ñ' || mayuscula == u'Ç')
+        return mayuscula;
+    const QString partes = mayuscula.decomposition();
+    return partes.isEmpty() ? mayuscula : partes.front();
+}
+
+static QChar plegar(QChar c)
+{
+    static const auto latinas = [] {
+        std::array<QChar, TotalLatinas> tabla;
+        for (char16_t i = 0; i < TotalLatinas; ++i)
+            tabla[i] = mayusculaSinTilde(QChar(i));
+        return tabla;
+    }();
+    return c.unicode() < TotalLatinas ? latinas[c.unicode()] : mayusculaSinTilde(c);
+}
+
+QString plegar(QString texto)
+{
+    for (QChar &c : texto)
+        c = plegar(c);
+    return texto;
+}
+
+bool contiene(QStringView texto, QStringView plegado)
+{
+    const auto igual = [](QChar uno, QChar otro) { return plegar(uno) == otro; };
+    return std::ranges::search(texto, plegado, igual).begin() != texto.end() || plegado.isEmpty();
+}
+
+} // namespace busqueda
