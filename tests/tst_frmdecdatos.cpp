@@ -64,11 +64,85 @@ static void accesosDistintos(const Formulario &f)
     QCOMPARE(QSet<QString>(letras.begin(), letras.end()).size(), letras.size());
 }
 
-class tst_frmDecDatos : public QObject
+/// What a person sees of a box and does with it: its label, how much it takes, what is typed and
+/// what it shows then, and where Enter goes from there.
+struct Renglon
+{
+    const char *caja;
+    const char *etiqueta; ///< control with its label, when it has one
+    QString rotulo;
+    int ancho;
+    QString tecleado;
+    QString mostrado;
+    QString siguiente;
+};
+
+static const Renglon Renglones[] = {
+    {"txtdni", "lbldni", u"DNI-CIF:"_s, 9, u"00000001r"_s, u"00000001R"_s, u"txtnombre"_s},
+    {"txtnombre", "lblnombre", u"Razón Social:"_s, 40, u"la una"_s, u"LA UNA"_s, u"txtvia"_s},
+    {"txtvia", "lblvia", u"Vía"_s, 2, u"av"_s, u"AV"_s, u"txtdomicilio"_s},
+    {"txtdomicilio", "lbldomicilio", u"Domicilio"_s, 20, u"dos"_s, u"DOS"_s, u"txtnumero"_s},
+    {"txtnumero", "lblnumero", u"Nº"_s, 5, u"00033"_s, u"33"_s, u"txtletra"_s},
+    {"txtletra", "lblletra", u"Letra"_s, 2, u"d"_s, u"D"_s, u"txtescalera"_s},
+    {"txtescalera", "lblescalera", u"Esc."_s, 2, u"e5"_s, u"E5"_s, u"txtpiso"_s},
+    {"txtpiso", "lblpiso", u"Piso"_s, 2, u"6"_s, u"6"_s, u"txtmano"_s},
+    {"txtmano", "lblmano", u"Mano"_s, 3, u"izq"_s, u"IZQ"_s, u"txtcodprov"_s},
+    {"txtcodprov", nullptr, {}, 2, u"1"_s, u"01"_s, u"txtcodpos"_s},
+    {"txtcodpos", "lblcodpos", u"Cód. Postal:"_s, 5, u"1002"_s, u"01002"_s, u"txtnommun"_s},
+    {"txtnommun", "lblnommun", u"Nombre del municipio:"_s, 25, u"llodio"_s, u"LLODIO"_s,
+     u"txttelefono"_s},
+    {"txttelefono", "lbltelefono", u"Teléfono:"_s, 9, u"945111222"_s, u"945111222"_s,
+     u"cmdAceptar"_s},
+};
+
+class TstFrmDecDatos : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    /// From box to box with Enter, every value being another, and all of it stored and shown again.
+    void cadaCaja()
+    {
+        Formulario f;
+        f.manos->control("txtdni")->setFocus();
+        for (const auto &r : Renglones) {
+            QCOMPARE(f.manos->foco(), QString::fromLatin1(r.caja));
+            if (r.etiqueta)
+                QCOMPARE(f.manos->texto(r.etiqueta).remove(u'&'), r.rotulo);
+            QTest::keyClicks(f.manos->control(r.caja), QString(60, u'7'));
+            QCOMPARE(f.manos->texto(r.caja).size(), r.ancho);
+            f.manos->tecla(Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClicks(f.manos->control(r.caja), r.tecleado);
+            f.manos->tecla(Qt::Key_Return);
+            QCOMPARE(f.manos->texto(r.caja), r.mostrado);
+            QCOMPARE(f.manos->foco(), r.siguiente);
+        }
+        QCOMPARE(f.manos->texto("lblnomprov").remove(u'&'), u"Nombre de provincia:"_s);
+        QCOMPARE(f.manos->texto("lblnum430").remove(u'&'), u"Nº declaraciones contables:"_s);
+        QCOMPARE(f.manos->texto("lblnum480").remove(u'&'), u"NºDeclaraciones informativas:"_s);
+        QCOMPARE(f.manos->texto("txtviaaux"), u"AVENIDA"_s);
+        QCOMPARE(f.manos->texto("txtnomprov"), u"ÁLAVA"_s);
+        f.manos->tecla(Qt::Key_Return);
+        QCOMPARE(f.siguiente, Pantalla::Resumen);
+        const qint32 csco = registro().CSCO();
+        QVERIFY(csco > 0);
+        const QString guardado
+            = u"%1|00000001R|LA UNA|AV|DOS|33|D|E5|6|IZQ|01|01002||LLODIO|945111222"_s;
+        for (quint8 mes = 1; mes <= 2; ++mes)
+            Entorno::altaDeclaracion(csco, 2026, mes);
+        registro().CargarDeclarante(csco);
+        QStringList campos;
+        for (const QVariant &campo : registro().RegistroCompleto())
+            campos += campo.toString();
+        QCOMPARE(campos.join(u'|'), guardado.arg(csco) + u"|2|0"_s);
+        registro().MODO(u"C"_s);
+        f.abrir();
+        for (const auto &r : Renglones)
+            QCOMPARE(f.manos->texto(r.caja), r.mostrado);
+        QCOMPARE(f.manos->texto("txtnum430"), u"2"_s);
+        QCOMPARE(f.manos->texto("txtnum480"), QString());
+    }
+
     /// The last field typed is still being edited when the form is accepted.
     void nuevoGuarda()
     {
@@ -87,8 +161,7 @@ private Q_SLOTS:
             QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 1);
             registro().CargarDeclarante(csco);
             QCOMPARE(registro().TELEFONO(), u"943000000"_s);
-            QCOMPARE(registro().CODMUN(), u"001"_s);
-            QVERIFY(!registro().NOMMUN().isEmpty());
+            QCOMPARE(registro().CODMUN() + registro().NOMMUN(), u"001ABRENZUOLA"_s);
         }
     }
 
@@ -138,17 +211,79 @@ private Q_SLOTS:
         QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 0);
     }
 
+    /// Told once on leaving the box, and again when it is to be saved all the same.
     void dniRepetido()
     {
         Formulario f;
         Entorno::altaDeclarante();
+        const QString repetido = msj(Msj::ErrorAltaDniExiste);
+        f.manos->escribir("txtdni", u"12345678z"_s);
+        f.mensajes.responder(QMessageBox::Ok);
+        f.manos->tecla(Qt::Key_Tab);
+        QCOMPARE(f.mensajes.texto(), repetido);
+        QTRY_COMPARE(f.manos->foco(), u"txtdni"_s);
+        QApplication::setActiveWindow(f.pantalla.get());
         f.rellenar();
         f.responderYPulsar(QMessageBox::Ok, "cmdAceptar");
-        QCOMPARE(f.mensajes.texto(), msj(Msj::ErrorAltaDniExiste));
+        QCOMPARE(f.mensajes.texto(), repetido);
         QCOMPARE(registro().CSCO(), 0);
         f.manos->escribir("txtdni", u"00000001R"_s);
         f.manos->pulsar("cmdAceptar");
         QVERIFY(registro().ObtenerCodigoDeclarante(u"00000001R"_s) > 0);
+    }
+
+    /// A save over what another copy of the program has stored meanwhile.
+    void cambioAjeno_data()
+    {
+        QTest::addColumn<QMessageBox::StandardButton>("respuesta");
+        QTest::addColumn<QString>("guardado");
+        QTest::addColumn<QString>("enPantalla");
+        QTest::newRow("replaced") << QMessageBox::Yes << u"MIO|943000000"_s << u"MIO"_s;
+        QTest::newRow("kept") << QMessageBox::No << u"SUYO|943999999"_s << u"SUYO"_s;
+        QTest::newRow("neither") << QMessageBox::Cancel << u"SUYO|943999999"_s << u"MIO"_s;
+    }
+
+    void cambioAjeno()
+    {
+        QFETCH(QMessageBox::StandardButton, respuesta);
+        Formulario f(true);
+        f.manos->escribir("txtnombre", u"mio"_s);
+        cDecDatos otro;
+        const auto leer = [&] {
+            otro.CSCO(f.csco);
+            otro.CargarDeclarante(f.csco);
+            return otro.NOMBRE() + u'|' + otro.TELEFONO();
+        };
+        leer();
+        otro.NOMBRE(u"SUYO"_s);
+        otro.TELEFONO(u"943999999"_s);
+        QCOMPARE(otro.GuardarDeclarante(otro.RegistroCompleto()), qint16(0));
+        f.responderYPulsar(respuesta, "cmdAceptar");
+        const auto vistos = f.mensajes.tomar();
+        QCOMPARE(vistos.size(), 1);
+        QVERIFY2(vistos[0].texto.startsWith(
+                     u"Otra copia del programa ha cambiado «12345678Z - SEGUROS UNO»"),
+                 qPrintable(vistos[0].texto));
+        QCOMPARE(vistos[0].porDefecto, QMessageBox::Cancel);
+        QTEST(leer(), "guardado");
+        QTEST(f.manos->texto("txtnombre"), "enPantalla");
+        QCOMPARE(f.siguiente.has_value(), respuesta == QMessageBox::Yes);
+        QCOMPARE(f.pantalla->modificada(), respuesta == QMessageBox::Cancel);
+    }
+
+    void eliminadoEnOtraCopia()
+    {
+        Formulario f(true);
+        f.manos->escribir("txtnombre", u"mio"_s);
+        cDecDatos otro;
+        otro.CSCO(f.csco);
+        otro.BorrarDeclarante();
+        f.responderYPulsar(QMessageBox::Ok, "cmdAceptar");
+        QCOMPARE(f.mensajes.texto(), msj(Msj::EliminadoEnOtraCopia, u"12345678Z - SEGUROS UNO"_s));
+        QCOMPARE(f.manos->texto("txtnombre"), u"MIO"_s);
+        f.manos->pulsar("cmdCancelar");
+        QVERIFY(!f.pantalla->isVisible());
+        QVERIFY(!f.siguiente);
     }
 
     void cambioDeProvincia()
@@ -188,10 +323,35 @@ private Q_SLOTS:
             QCOMPARE(registro().CODPROV(), u"20"_s);
             f.manos->escribir(caja, antes);
         }
-        // a wrong code does not stand in the way out
-        f.manos->escribir("txtcodmun", u"999"_s);
-        f.manos->pulsar("cmdCancelar");
-        QVERIFY(!f.pantalla->isVisible());
+    }
+
+    /// The press that leaves the box reaches the form, which it has just disabled.
+    void laListaSigueAbierta()
+    {
+        Formulario f;
+        f.manos->escribir("txtcodprov", u"99"_s);
+        f.manos->pulsar("txtcodpos");
+        QVERIFY(f.lista("lstCodProv")->isVisible());
+        QTest::qWait(1);
+        f.manos->pulsar("txtcodpos");
+        QVERIFY(!f.lista("lstCodProv")->isVisible());
+    }
+
+    /// A wrong code does not stand in the way out.
+    void codigoDesconocidoDejaSalir()
+    {
+        for (const char *caja : {"txtcodprov", "txtcodmun"})
+            for (const char *salida : {"cmdCancelar", "Piccan", "access key", "frame"}) {
+                Formulario f;
+                f.manos->escribir(caja, u"999"_s);
+                if (qstrcmp(salida, "access key") == 0)
+                    f.manos->tecla(Qt::Key_C, Qt::AltModifier);
+                else if (qstrcmp(salida, "frame") == 0)
+                    f.pantalla->close();
+                else
+                    f.manos->pulsar(salida);
+                QTRY_VERIFY(!f.pantalla->isVisible());
+            }
     }
 
     void elegirEnLista()
@@ -327,11 +487,8 @@ private Q_SLOTS:
             u"txtdni txtnombre txtvia cmdVia txtdomicilio txtnumero txtletra txtescalera txtpiso "
             "txtmano txtcodprov cmdProvincia txtcodpos txtcodmun cmdMunicipio txttelefono "
             "cmdAceptar cmdCancelar"_s);
-        f.manos->control("txtvia")->setFocus();
-        f.manos->tecla(Qt::Key_Return);
-        QCOMPARE(f.manos->foco(), u"txtdomicilio"_s);
     }
 };
 
-QTEST_MAIN(tst_frmDecDatos)
+QTEST_MAIN(TstFrmDecDatos)
 #include "tst_frmdecdatos.moc"

@@ -56,7 +56,7 @@ QString presentar(Cual caja, const cDecDatos &datos)
     const auto &campo = campos::definicion(tabla[caja].campo);
     const QString guardado = campos::leer(campo.campo, datos);
     if (campo.clase == campos::Clase::Contador)
-        return textoImporte(guardado.toDouble() * 100).chopped(3);
+        return guardado == u"0" ? QString() : textoImporte(guardado.toDouble() * 100).chopped(3);
     if (campo.clase != campos::Clase::Numero && caja != CODMUN)
         return guardado;
     const int numero = guardado.toInt();

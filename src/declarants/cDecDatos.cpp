@@ -15,12 +15,20 @@ Filas cDecDatos::ValidarDatosImportar(const Registro &datos) const
     return servicio->ValidarDatosImportar(datos, desplazamientoIdioma());
 }
 
+static QString nombreProvincia(const QString &codigo)
+{
+    QString nombre;
+    servicioLectura()->ObtenerNombreProvincia(codigo, nombre, desplazamientoIdioma());
+    return nombre;
+}
+
 void cDecDatos::MODO(const QString &modo)
 {
     m_modo = modo;
     if (modo == Modo::Alta) {
         m_csco = 0;
         m = {};
+        m_cargado.olvidar();
     }
 }
 
@@ -33,30 +41,40 @@ void cDecDatos::CargarDeclarante(qint32 codigo)
 {
     using enum RegDeclarante::Campo;
     Registro r;
+    const QByteArray huella = servicioDeclarante()->Huella(codigo);
     servicioDeclarante()->CargarDeclarante(codigo, r);
-    m.dni = r.value(DNI).toString();
-    m.nombre = r.value(NOMBRE).toString();
-    m.via = r.value(VIA).toString();
-    m.domicilio = r.value(DOMICILIO).toString();
-    m.numero = r.value(NUMERO).toInt();
-    m.letra = r.value(LETRA).toString();
-    m.escalera = r.value(ESCALERA).toString();
-    m.piso = r.value(PISO).toString();
-    m.mano = r.value(MANO).toString();
-    m.codprov = conCeros(r.value(CODPROV).toString(), 2);
-    m.codpos = r.value(CODPOS).toString();
-    m.codmun = r.value(CODMUN).toString();
-    m.nommun = r.value(NOMMUN).toString();
-    m.telefono = r.value(TELEFONO).toString();
-    m.num430 = r.value(NUM430).toDouble();
-    m.num480 = r.value(NUM480).toDouble();
-    LeerNombreProvincia();
+    const QString codprov = conCeros(r.value(CODPROV).toString(), 2);
+    const QString nomprov = nombreProvincia(codprov);
+    m = {
+        .dni = r.value(DNI).toString(),
+        .nombre = r.value(NOMBRE).toString(),
+        .via = r.value(VIA).toString(),
+        .domicilio = r.value(DOMICILIO).toString(),
+        .numero = r.value(NUMERO).toInt(),
+        .letra = r.value(LETRA).toString(),
+        .escalera = r.value(ESCALERA).toString(),
+        .piso = r.value(PISO).toString(),
+        .mano = r.value(MANO).toString(),
+        .codprov = codprov,
+        .nomprov = nomprov,
+        .codpos = r.value(CODPOS).toString(),
+        .codmun = r.value(CODMUN).toString(),
+        .nommun = r.value(NOMMUN).toString(),
+        .telefono = r.value(TELEFONO).toString(),
+        .num430 = r.value(NUM430).toDouble(),
+        .num480 = r.value(NUM480).toDouble(),
+    };
+    m_cargado.tomar(huella);
 }
 
 void cDecDatos::LeerNombreProvincia()
 {
-    m.nomprov.clear();
-    servicioLectura()->ObtenerNombreProvincia(m.codprov, m.nomprov, desplazamientoIdioma());
+    m.nomprov = nombreProvincia(m.codprov);
+}
+
+EstadoCarga cDecDatos::CambioDesdeCarga() const
+{
+    return m_cargado.comparar(servicioDeclarante()->Huella(m_csco));
 }
 
 qint16 cDecDatos::ValidarDatosDeclarante(const Registro &datos) const
@@ -67,6 +85,13 @@ qint16 cDecDatos::ValidarDatosDeclarante(const Registro &datos) const
 qint32 cDecDatos::ObtenerCodigoDeclarante(const QString &dni) const
 {
     return servicioDeclarante()->ObtenerCodigoDeclarante(dni);
+}
+
+void cDecDatos::TomarGuardado()
+{
+    if (m_csco == 0)
+        m_csco = ObtenerCodigoDeclarante(m.dni);
+    m_cargado.tomar(servicioDeclarante()->Huella(m_csco));
 }
 
 qint16 cDecDatos::GuardarDeclarante(const Registro &datos) const

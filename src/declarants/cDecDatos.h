@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/MarcaCarga.h"
 #include "core/Modos.h"
 #include "dataservice/Registros.h"
 
@@ -61,12 +62,17 @@ public:
     void BorrarDeclarante() const;
     /// Fills DNI to NUM480 and NOMPROV; CSCO and MODO stay as they are.
     void CargarDeclarante(qint32 codigo);
+    /// Whether another copy of the program has changed the declarant since it was loaded.
+    EstadoCarga CambioDesdeCarga() const;
     /// 0, or the number of the first rule that a RegValidacion breaks (MensajesDeclarante.h).
     qint16 ValidarDatosDeclarante(const Registro &datos) const;
     /// Key stored under a DNI, 0 when there is none.
     qint32 ObtenerCodigoDeclarante(const QString &dni) const;
     /// Saves a RegDeclarante: 0 saved, 1 a new declarant's DNI exists, 2 another one has that DNI.
     qint16 GuardarDeclarante(const Registro &datos) const;
+
+    /// After a save: the record is what is stored, and a new one has its key.
+    void TomarGuardado();
 
     /// The record as the two arrays that the service takes.
     Registro RegistroCompleto() const;
@@ -93,4 +99,5 @@ private:
     QString m_modo;
     qint32 m_csco = 0;
     Datos m;
+    MarcaCarga m_cargado;
 };

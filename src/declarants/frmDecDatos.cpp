@@ -8,6 +8,7 @@
 #include "declarants/cDecResumen.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/CajaTexto.h"
+#include "widgets/CambioAjeno.h"
 #include "widgets/Disposicion.h"
 #include "widgets/SelectorLista.h"
 
@@ -41,8 +42,9 @@ frmDecDatos::frmDecDatos(QWidget *padre)
     alPulsar(m_cmdAceptar, [this] { aceptar(); });
     alPulsarSinConfirmar(m_cmdCancelar, [this] { cancelar(); });
     Anadir_captions();
-    procedimiento(this, [this] { cargarListas(); });
+    cargarListas();
     PresentaDatos();
+    m_nombre = registro().DNI() + u" - "_s + registro().NOMBRE();
 }
 
 void frmDecDatos::crearListas()
@@ -72,6 +74,7 @@ void frmDecDatos::conectarCajas()
         const auto campo = static_cast<Cual>(i);
         m_ficha->caja(campo)->alConfirmar = [this, campo] { return tomarCampo(campo); };
     }
+    m_ficha->caja(DNI)->alConfirmar = [this] { return tomarDni(); };
     m_ficha->caja(CODPROV)->alConfirmar = [this] { return tomarCodigoProvincia(); };
     m_ficha->caja(CODMUN)->alConfirmar = [this] { return tomarCodigoMunicipio(); };
 }
@@ -127,6 +130,19 @@ bool frmDecDatos::tomarCampo(Cual campo)
         m_modificado = true;
     PresentaDatos();
     return true;
+}
+
+/// An identifier that another declarant has is told at once, but stands in nobody's way.
+bool frmDecDatos::tomarDni()
+{
+    tomarCampo(DNI);
+    const QString dni = registro().DNI();
+    const qint32 otro = dni.isEmpty() ? 0 : registro().ObtenerCodigoDeclarante(dni);
+    if (otro == 0 || otro == registro().CSCO() || dni == m_dniRepetido)
+        return true;
+    m_dniRepetido = dni;
+    aviso(textoGuardarDeclarante(registro().CSCO() == 0 ? 1 : 2));
+    return false;
 }
 
 /// A code that is not in the table opens the list; none at all empties the province first.
@@ -206,30 +222,62 @@ qint16 frmDecDatos::GuardarDeclarante()
     return codigo;
 }
 
+bool frmDecDatos::modificada() const
+{
+    for (int i = 0; i < Total; ++i) {
+        const auto caja = static_cast<Cual>(i);
+        if (caja != VIAAUX && m_ficha->caja(caja)->text() != presentar(caja, registro()))
+            return true;
+    }
+    return m_modificado;
+}
+
 void frmDecDatos::aceptar()
 {
+    if (m_porEntregar)
+        entregar();
     if (!ValidarCampos())
         return;
     if (m_modificado) {
-        if (GuardarDeclarante() != 0)
+        if (!guardar())
             return;
-        m_modificado = false;
-        m_porEntregar = true;
-    }
-    if (m_porEntregar)
         entregar();
-    else
+    } else {
         unico::la<cDecResumen>().CSDE(0);
+    }
     cerrarA(Pantalla::Resumen);
 }
 
-/// What the summary is to show. After a failure in here accepting again does only this.
+/// Whether the record is stored now.
+bool frmDecDatos::guardar()
+{
+    const auto estado = registro().CambioDesdeCarga();
+    m_eliminado = estado == EstadoCarga::Eliminado;
+    switch (consultarGuardado(this, estado, m_nombre)) {
+    case Decision::Guardar:
+        break;
+    case Decision::Conservar:
+        registro().CargarDeclarante(registro().CSCO());
+        m_modificado = false;
+        PresentaDatos();
+        return false;
+    case Decision::Seguir:
+        return false;
+    }
+    if (GuardarDeclarante() != 0)
+        return false;
+    m_modificado = false;
+    m_porEntregar = true;
+    return true;
+}
+
+/// What the summary is to show. After a failure in here accepting again begins with this.
 void frmDecDatos::entregar()
 {
     auto &datos = registro();
     auto &resumen = unico::la<cDecResumen>();
+    datos.TomarGuardado();
     if (datos.MODO() == Modo::Alta) {
-        datos.CSCO(datos.ObtenerCodigoDeclarante(datos.DNI()));
         resumen.ENTRADA(Entrada::Abrir);
     } else {
         resumen.ENTRADA(Entrada::Vuelta);
@@ -249,7 +297,7 @@ void frmDecDatos::cancelar()
 
 Pantalla frmDecDatos::alCerrarMarco()
 {
-    if (registro().MODO() != Modo::Consulta)
+    if (registro().MODO() != Modo::Consulta || m_eliminado)
         return Pantalla::Ninguna;
     auto &resumen = unico::la<cDecResumen>();
     resumen.ENTRADA(Entrada::Vuelta);

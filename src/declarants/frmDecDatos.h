@@ -19,7 +19,7 @@ public:
     explicit frmDecDatos(QWidget *padre = nullptr);
 
     bool edita() const override { return true; }
-    bool modificada() const override { return m_modificado; }
+    bool modificada() const override;
     void Anadir_captions() override;
     /// Whether the record is valid; else the user is told and the field at fault has the focus.
     bool ValidarCampos();
@@ -52,6 +52,7 @@ private:
     QString nombreVia() const;
 
     bool tomarCampo(cajas::Cual campo);
+    bool tomarDni();
     bool tomarCodigoProvincia();
     bool tomarCodigoMunicipio();
     void tomarVia(const QString &codigo, const QString &nombre);
@@ -63,6 +64,7 @@ private:
     void cerrarLista(cajas::Cual enfocado);
 
     void aceptar();
+    bool guardar();
     void cancelar();
     void entregar();
 
@@ -73,4 +75,8 @@ private:
     std::array<Lista, TotalListas> m_listas{};
     bool m_modificado = false; ///< differs from what is stored
     bool m_porEntregar = false; ///< saved, but the summary does not know yet
+    bool m_eliminado = false; ///< another copy of the program has deleted the declarant
+    bool m_recienAbierta = false; ///< a list was opened by the event that is being handled
+    QString m_nombre; ///< whose data these are, as they were loaded
+    QString m_dniRepetido; ///< the last one of which the user was told
 };

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QPushButton>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -38,6 +39,8 @@ void frmDecDatos::abrirLista(const Lista &lista)
     lista.selector->abrir(cajas::presentar(lista.codigo, unico::la<cDecDatos>()));
     m_ficha->setEnabled(false);
     m_botones->setEnabled(false);
+    m_recienAbierta = true;
+    QTimer::singleShot(0, this, [this] { m_recienAbierta = false; });
 }
 
 void frmDecDatos::cerrarLista(cajas::Cual enfocado)
@@ -69,9 +72,11 @@ void frmDecDatos::keyPressEvent(QKeyEvent *evento)
         focusNextChild();
 }
 
-/// A click on the disabled form gives the list up.
+/// A click on the disabled form gives the list up, but not the one that opened it by leaving a box.
 void frmDecDatos::mousePressEvent(QMouseEvent *evento)
 {
+    if (m_recienAbierta)
+        return;
     if (const auto *lista = listaAbierta()) {
         lista->selector->hide();
         cerrarLista(lista->codigo);

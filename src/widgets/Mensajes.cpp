@@ -23,19 +23,22 @@ static QString sinAcceso(QString texto)
     return texto.remove(u'&');
 }
 
-static int mostrar(QWidget *padre, QMessageBox::Icon icono, const QString &titulo,
-                   const QString &texto, QMessageBox::StandardButtons botones)
+struct Boton
 {
-    QMessageBox caja(icono, sinAcceso(titulo), texto, botones, padre);
+    QMessageBox::StandardButton cual;
+    Msj texto;
+};
+
+/// The last of the buttons is the default and Escape.
+static int mostrar(QWidget *padre, QMessageBox::Icon icono, const QString &titulo,
+                   const QString &texto, std::initializer_list<Boton> botones)
+{
+    QMessageBox caja(icono, sinAcceso(titulo), texto, QMessageBox::NoButton, padre);
     caja.setTextFormat(Qt::PlainText);
-    if (auto *ok = caja.button(QMessageBox::Ok))
-        ok->setText(msj(Msj::BotonAceptar));
-    if (auto *si = caja.button(QMessageBox::Yes))
-        si->setText(msj(Msj::BotonSi));
-    if (auto *no = caja.button(QMessageBox::No)) {
-        no->setText(msj(Msj::BotonNo));
-        caja.setDefaultButton(QMessageBox::No);
-        caja.setEscapeButton(QMessageBox::No);
+    for (const auto &boton : botones) {
+        caja.addButton(boton.cual)->setText(msj(boton.texto));
+        caja.setDefaultButton(boton.cual);
+        caja.setEscapeButton(boton.cual);
     }
     if (observador())
         observador()(caja);
@@ -44,18 +47,34 @@ static int mostrar(QWidget *padre, QMessageBox::Icon icono, const QString &titul
 
 void aviso(QWidget *padre, const QString &titulo, const QString &texto)
 {
-    mostrar(padre, QMessageBox::Warning, titulo, texto, QMessageBox::Ok);
+    mostrar(padre, QMessageBox::Warning, titulo, texto, {{QMessageBox::Ok, Msj::BotonAceptar}});
 }
 
 void informacion(QWidget *padre, const QString &titulo, const QString &texto)
 {
-    mostrar(padre, QMessageBox::Information, titulo, texto, QMessageBox::Ok);
+    mostrar(padre, QMessageBox::Information, titulo, texto, {{QMessageBox::Ok, Msj::BotonAceptar}});
 }
 
 bool pregunta(QWidget *padre, const QString &titulo, const QString &texto)
 {
-    return mostrar(padre, QMessageBox::Question, titulo, texto, QMessageBox::Yes | QMessageBox::No)
+    return mostrar(padre, QMessageBox::Question, titulo, texto,
+                   {{QMessageBox::Yes, Msj::BotonSi}, {QMessageBox::No, Msj::BotonNo}})
         == QMessageBox::Yes;
+}
+
+Sustituir sustituir(QWidget *padre, const QString &titulo, const QString &texto)
+{
+    switch (mostrar(padre, QMessageBox::Question, titulo, texto,
+                    {{QMessageBox::Yes, Msj::BotonSustituir},
+                     {QMessageBox::No, Msj::BotonConservar},
+                     {QMessageBox::Cancel, Msj::BotonCancelar}})) {
+    case QMessageBox::Yes:
+        return Sustituir::Si;
+    case QMessageBox::No:
+        return Sustituir::No;
+    default:
+        return Sustituir::Cancelar;
+    }
 }
 
 } // namespace mensajes

@@ -17,6 +17,11 @@ void informacion(QWidget *padre, const QString &titulo, const QString &texto); /
 /// Yes or no, "No" being the default button and Escape; true for yes.
 bool pregunta(QWidget *padre, const QString &titulo, const QString &texto);
 
+/// Whether what is stored is to be replaced (Yes), kept (No), or neither for now, which is the
+/// default button and Escape.
+enum class Sustituir { Si, No, Cancelar };
+Sustituir sustituir(QWidget *padre, const QString &titulo, const QString &texto);
+
 /// Called with each box just before it opens; tests read and answer the real window through it.
 using Observador = std::function<void(QMessageBox &)>;
 void observar(Observador observador);
