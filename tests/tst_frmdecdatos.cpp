@@ -346,9 +346,10 @@ private Q_SLOTS:
                 f.manos->escribir(caja, u"999"_s);
                 if (qstrcmp(salida, "access key") == 0)
                     f.manos->tecla(Qt::Key_C, Qt::AltModifier);
-                else if (qstrcmp(salida, "frame") == 0)
+                else if (qstrcmp(salida, "frame") == 0) {
+                    f.mensajes.responder(QMessageBox::Yes);
                     f.pantalla->close();
-                else
+                } else
                     f.manos->pulsar(salida);
                 QTRY_VERIFY(!f.pantalla->isVisible());
             }
