@@ -288,6 +288,112 @@ private Q_SLOTS:
         QCOMPARE(servicioFilas().size(), 1);
     }
 
+    /// The mark stays as it is while a box refuses its text, whichever way it is pressed.
+    void laMarcaEsperaALasCasillas()
+    {
+        const auto m = manos();
+        m.pulsar("chkrect");
+        m.escribir("txtbrect", u"1.23.4"_s);
+        m_mensajes->responder(QMessageBox::Ok);
+        m.pulsar("chkrect");
+        QCOMPARE(m_mensajes->texto(), u"«1.23.4» no es un importe."_s);
+        QVERIFY(m.control<QAbstractButton>("chkrect")->isChecked());
+        QCOMPARE(unico::la<cDatos430>().RECTIFICA(), u"X"_s);
+        QCOMPARE(m.texto("txtbrect"), u"1.23.4"_s);
+        m.escribir("txtbrect", u"5"_s);
+        m.pulsar("chkrect");
+        QVERIFY(!m.control<QAbstractButton>("chkrect")->isChecked());
+        QCOMPARE(m.texto("txtbtot"), QString());
+    }
+
+    void loGuardadoSeDice()
+    {
+        for (const auto &[idioma, dicho] :
+             {std::pair{u"C"_s, u"Declaración guardada: 430 ENERO 2026: 40,00"_s},
+              {u"E"_s, u"Aitorpena gorde da: 430 URTARRILA 2026: 40,08"_s}}) {
+            unico::la<CEntrada>().IDI(idioma);
+            QSignalSpy dichos(m_pantalla.get(), &PantallaBase::dicho);
+            manos().escribir("txtbliq", idioma == u"C" ? u"500"_s : u"501"_s);
+            manos().pulsar("cmdAceptar");
+            QCOMPARE(dichos.count(), 1);
+            QCOMPARE(dichos[0][0].toString(), dicho);
+            abrir(u"C"_s, unico::la<cDecResumen>().CSDE());
+        }
+    }
+
+    void cambiadaEnOtraCopia_data()
+    {
+        QTest::addColumn<int>("respuesta");
+        QTest::addColumn<double>("guardada"); // base of the liquidation stored afterwards
+        QTest::addColumn<QString>("mostrada"); // and shown; none when the screen has closed
+        QTest::newRow("replace") << int(QMessageBox::Yes) << 700.0 << QString();
+        QTest::newRow("keep") << int(QMessageBox::No) << 900.0 << u"9,00"_s;
+        QTest::newRow("neither") << int(QMessageBox::Cancel) << 900.0 << u"7,00"_s;
+    }
+    void cambiadaEnOtraCopia()
+    {
+        QFETCH(int, respuesta);
+        QFETCH(double, guardada);
+        QFETCH(QString, mostrada);
+        const qint32 csde = guardarDistinta(m_csco, u"430"_s);
+        abrir(u"C"_s, csde);
+        Registro deOtra = figurasDistintas(u"430"_s);
+        deOtra[Reg430::BASELIQ] = 900.0;
+        servicioDeclaracion()->Guardar430(Registro{csde, m_csco, 2026, 1, 1, u"430"_s, 1} + deOtra);
+        manos().escribir("txtbliq", u"7"_s);
+        m_mensajes->responder(static_cast<QMessageBox::StandardButton>(respuesta));
+        manos().pulsar("cmdAceptar");
+        QVERIFY(m_mensajes->texto().contains(u"«430 ENERO 2026»"_s));
+        QCOMPARE(guardado()[Reg430::BASELIQ].toDouble(), guardada);
+        QCOMPARE(m_pantalla->isVisible(), !mostrada.isEmpty());
+        if (!mostrada.isEmpty())
+            QCOMPARE(manos().texto("txtbliq"), mostrada);
+    }
+
+    void guardadaOEliminadaEnOtraCopia()
+    {
+        manos().escribir("txtbliq", u"7"_s);
+        const qint32 csde = guardarDistinta(m_csco, u"430"_s);
+        QCOMPARE(avisoAlPulsar("cmdAceptar"),
+                 u"No se puede dar de alta la nueva declaración. Ya existe una declaración con ese "
+                 "ejercicio-periodo"_s);
+        QVERIFY(m_pantalla->isVisible());
+        QCOMPARE(manos().texto("txtbliq"), u"7,00"_s);
+
+        abrir(u"C"_s, csde);
+        auto servicio = servicioDeclaracion();
+        servicio->BorrarDatosNoComunes(csde, u"430"_s);
+        servicio->BorrarDeclaracion(csde);
+        QCOMPARE(avisoAlPulsar("cmdAceptar"),
+                 u"«430 ENERO 2026» ya no existe: se ha eliminado en "
+                 "otra copia del programa."_s);
+        QVERIFY(m_pantalla->isVisible() && servicioFilas().isEmpty());
+    }
+
+    /// Only what differs from what was loaded asks before it is lost.
+    void sinCambiosNoPregunta()
+    {
+        manos().escribir("txtbliq", u"7"_s);
+        manos().tecla(Qt::Key_Tab);
+        QVERIFY(m_pantalla->perderia());
+        manos().escribir("txtbliq", {});
+        manos().tecla(Qt::Key_Tab);
+        QVERIFY(!m_pantalla->perderia());
+        m_pantalla->close();
+        QVERIFY(!m_pantalla->isVisible());
+    }
+
+    /// However long the name, the form is as wide as ever.
+    void nombreLargo()
+    {
+        const int ancho = m_pantalla->sizeHint().width();
+        auto &cabecera = unico::la<cDecResumen>();
+        cabecera.TomarDeclarante(m_csco, u"12345678Z"_s, QString(300, u'W'));
+        abrir(u"A"_s);
+        QCOMPARE(m_pantalla->sizeHint().width(), ancho);
+        QVERIFY(m_pantalla->minimumSizeHint().width() <= ancho);
+    }
+
     void cancelarNoGuarda()
     {
         for (const char *como : {"cmdCancelar", "Piccan", "frame"}) {
@@ -297,8 +403,7 @@ private Q_SLOTS:
             if (qstrcmp(como, "frame") == 0) {
                 // the frame asks before the change is lost
                 for (const auto respuesta : {QMessageBox::No, QMessageBox::Yes}) {
-                    ConductorMensajes conductor;
-                    conductor.responder(respuesta);
+                    m_mensajes->responder(respuesta);
                     m_pantalla->close();
                     QCOMPARE(m_pantalla->isVisible(), respuesta == QMessageBox::No);
                 }

@@ -10,6 +10,7 @@
 #include "support/Manos.h"
 #include "support/Retrato.h"
 
+#include <QHeaderView>
 #include <QRegularExpression>
 #include <QTreeWidget>
 
@@ -302,6 +303,90 @@ private Q_SLOTS:
         QCOMPARE(manos().texto("txt81res"), u"700.007,41"_s);
     }
 
+    /// With one rate there is no second band to fill in; what is stored in it can be taken out.
+    void unSoloTipo()
+    {
+        avanzar(2);
+        const auto *caja = manos().control<QLineEdit>("txt76ba2");
+        const QString motivo
+            = u"El ejercicio 2026 tiene un solo tipo impositivo: la casilla 76 no se rellena."_s;
+        QVERIFY(caja->isReadOnly());
+        QCOMPARE(manos().texto("lblUnTipo"), motivo);
+        QCOMPARE(caja->toolTip(), motivo);
+        QVERIFY(!manos().control("lblDiferencia")->isVisible());
+        QCOMPARE(vueltaConTab(*m_pagina),
+                 u"txt73ba1 txt79ba3 txt80cu3 cmdanterior cmdAceptar cmdCancelar"_s);
+        manos().pulsar("picant");
+        registro().casilla(Casilla480::C76_BA2, 500);
+        avanzar(1);
+        caja = manos().control<QLineEdit>("txt76ba2");
+        QVERIFY(!caja->isReadOnly());
+        QVERIFY(manos().control("lblDiferencia")->isVisible());
+        manos().escribir("txt76ba2", {});
+        manos().tecla(Qt::Key_Tab);
+        QVERIFY(caja->isReadOnly());
+    }
+
+    /// The pages are as large as each other, and Enter leads on from the last box of each.
+    void lasPaginasSeSiguen()
+    {
+        const QSize tamano = m_pagina->sizeHint();
+        manos().control("txt32otr")->setFocus();
+        manos().tecla(Qt::Key_Return);
+        QCOMPARE(manos().foco(), u"cmdSiguiente"_s);
+        manos().tecla(Qt::Key_Return);
+        QCOMPARE(m_pagina->objectName(), u"FrmDatos480b"_s);
+        QCOMPARE(m_pagina->sizeHint(), tamano);
+        manos().control("txt68dec")->setFocus();
+        manos().tecla(Qt::Key_Return);
+        QCOMPARE(manos().foco(), u"cmdSiguiente"_s);
+        manos().tecla(Qt::Key_Return);
+        QCOMPARE(m_pagina->objectName(), u"FrmDatos480c"_s);
+        QCOMPARE(m_pagina->sizeHint(), tamano);
+        manos().control("txt80cu3")->setFocus();
+        manos().tecla(Qt::Key_Enter);
+        QCOMPARE(manos().foco(), u"cmdAceptar"_s);
+    }
+
+    /// Where there is more room than the page needs, a label stays beside its box.
+    void losRotulosSiguenJuntoASusCasillas()
+    {
+        m_pagina->resize(m_pagina->sizeHint() + QSize(900, 400));
+        QCoreApplication::processEvents();
+        int derecha = 0;
+        for (const auto *etiqueta : m_pagina->findChildren<QLabel *>())
+            if (etiqueta->text() == u"Enfermedad y asistencia sanit.")
+                derecha = etiqueta->mapTo(m_pagina.get(), QPoint()).x()
+                    + etiqueta->fontMetrics().horizontalAdvance(etiqueta->text());
+        const int caja = manos().control("txt07enf")->mapTo(m_pagina.get(), QPoint()).x();
+        QVERIFY2(derecha > 0 && caja - derecha < 120, qPrintable(QString::number(caja - derecha)));
+    }
+
+    void cambiadaEnOtraCopia()
+    {
+        const qint32 csde = guardarDistinta(m_csco, u"480"_s);
+        for (const auto &[respuesta, ajena, casilla01, pedidas] :
+             {std::tuple{QMessageBox::No, 900.0, 900.0, 0}, {QMessageBox::Yes, 901.0, 700.0, 1}}) {
+            abrirGuardada(csde);
+            Registro deOtra = figurasDistintas(u"480"_s);
+            deOtra[0] = ajena;
+            servicioDeclaracion()->Guardar480(Registro{csde, m_csco, 2026, 2, 12, u"480"_s, 2}
+                                              + deOtra);
+            manos().escribir("txt01vida", u"7"_s);
+            avanzar(2);
+            const double bandas
+                = registro().casilla(Casilla480::C70_TOT) - registro().casilla(Casilla480::C76_BA2);
+            manos().escribir("txt73ba1", textoImporte(bandas));
+            m_mensajes->responder(respuesta);
+            manos().pulsar("cmdAceptar");
+            QVERIFY(m_mensajes->texto().contains(u"«480 ANUAL 2026»"_s));
+            QCOMPARE(guardado(csde)[0].toDouble(), casilla01);
+            QCOMPARE(m_pedidas.size(), pedidas);
+            QCOMPARE(registro().casilla(Casilla480::C01_VIDA), casilla01);
+            QVERIFY(!registro().MODIFICADO());
+        }
+    }
+
     void totalQueNoCabeSeRechazaEnLaCasilla()
     {
         manos().escribir("txt01vida", u"9999999999999,99"_s);
@@ -366,6 +451,21 @@ private Q_SLOTS:
         }
     }
 
+    /// A page closed by its frame asks only when something typed would be lost.
+    void cerrarElMarcoDeUnaPagina()
+    {
+        avanzar(2);
+        QVERIFY(!m_pagina->perderia());
+        manos().escribir("txt80cu3", u"5"_s);
+        for (const auto respuesta : {QMessageBox::No, QMessageBox::Yes}) {
+            m_mensajes->responder(respuesta);
+            m_pagina->close();
+            QCOMPARE(m_pagina->isVisible(), respuesta == QMessageBox::No);
+        }
+        QCOMPARE(m_pedidas, QList{Pantalla::Resumen});
+        QVERIFY(declaraciones().isEmpty());
+    }
+
     /// Each month shows the totals of its return, rectification included.
     void listaDeMensuales()
     {
@@ -386,8 +486,19 @@ private Q_SLOTS:
         QCOMPARE(filas(),
                  u"ENERO 100,00 10,01|FEBRERO  |MARZO 300,00 30,03|ABRIL  |MAYO  |JUNIO  |"
                  "JULIO  |AGOSTO  |SEPTIEMBRE  |OCTUBRE  |NOVIEMBRE  |DICIEMBRE  "_s);
-        QVERIFY(manos().texto("lblTotales430").contains(u"400,00"_s));
-        QVERIFY(manos().texto("lblTotales430").contains(u"40,04"_s));
+        QCOMPARE(manos().texto("lblTotalBase"), u"400,00"_s);
+        QCOMPARE(manos().texto("lblTotalCuota"), u"40,04"_s);
+        // each under its column
+        const QList totales{manos().control("lblTotalBase"), manos().control("lblTotalCuota")};
+        for (int columna = 1; columna <= 2; ++columna) {
+            const int borde = lista->header()->sectionViewportPosition(columna)
+                + lista->header()->sectionSize(columna);
+            const auto *total = totales[columna - 1];
+            const QPoint derecha = total->mapTo(m_pagina.get(), total->rect().topRight());
+            QVERIFY(std::abs(derecha.x()
+                             - lista->viewport()->mapTo(m_pagina.get(), QPoint(borde, 0)).x())
+                    < 8);
+        }
         QVERIFY(manos().control("picCuotas")->accessibleDescription().contains(u"MARZO: 30,03"_s));
         Entorno::pasarAEuskera(*m_pagina);
         QVERIFY(filas().startsWith(u"URTARRILA 100,00 10,01|OTSAILA"_s));

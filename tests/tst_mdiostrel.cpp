@@ -454,6 +454,33 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_ventana->isVisible());
     }
 
+    /// The pages of a 480 follow each other where the user has put the frame.
+    void lasPaginasDel480SeQuedanEnSuSitio()
+    {
+        Entorno::altaDeclaracion(Entorno::altaDeclarante(), 2026, 12, u"480"_s);
+        elegir("mnuDeclarante", "mnuAbrirDeclarante");
+        auto *lista = pantalla("FrmDecLista")->findChild<QTableView *>(u"flxDeclarantes"_s);
+        const QPoint fila = lista->visualRect(lista->model()->index(0, 1)).center();
+        QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, fila);
+        QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, fila);
+        QTRY_COMPARE(pantallas(), QStringList(u"FrmDecResumen"_s));
+        auto *grid = pantalla("FrmDecResumen")->findChild<QTableView *>(u"flxDeclaraciones"_s);
+        const QPoint anual = grid->visualRect(grid->model()->index(0, 1)).center();
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, anual);
+        Manos(*pantalla("FrmDecResumen")).pulsar("cmdDatos");
+        QTRY_VERIFY(pantalla("FrmDatos480a"));
+        const QRect sitio(31, 17, pantalla("FrmDatos480a")->parentWidget()->width() + 40, 600);
+        pantalla("FrmDatos480a")->parentWidget()->setGeometry(sitio);
+        for (const char *pagina : {"FrmDatos480a", "FrmDatos480b"}) {
+            Manos(*pantalla(pagina)).pulsar("cmdSiguiente");
+            QTRY_VERIFY(!pantalla(pagina));
+            const QString siguiente
+                = qstrcmp(pagina, "FrmDatos480a") == 0 ? u"FrmDatos480b"_s : u"FrmDatos480c"_s;
+            QTRY_VERIFY(pantallas().contains(siguiente));
+            QCOMPARE(pantalla(siguiente.toLatin1().constData())->parentWidget()->geometry(), sitio);
+        }
+    }
+
     void losMarcosCabenEnLaVentana()
     {
         Entorno::altaDeclarante();

@@ -37,6 +37,16 @@ void MarcoInterior::mostrarEn(const QRect &libre, bool amplia)
     show();
 }
 
+void MarcoInterior::mostrarEnLugarDe(const QMdiSubWindow &otro)
+{
+    if (otro.isMaximized()) {
+        showMaximized();
+        return;
+    }
+    setGeometry(otro.geometry());
+    show();
+}
+
 void MarcoInterior::changeEvent(QEvent *evento)
 {
     QMdiSubWindow::changeEvent(evento);

@@ -15,6 +15,8 @@ public:
     /// Shows itself in the middle of `libre`: as large as its screen asks for, or nearly filling
     /// it when `amplia`. Where there is no room for it, it is maximised.
     void mostrarEn(const QRect &libre, bool amplia);
+    /// Shows itself where another frame stands, and as large.
+    void mostrarEnLugarDe(const QMdiSubWindow &otro);
 
 protected:
     void changeEvent(QEvent *evento) override;

@@ -82,9 +82,15 @@ void Pantallas::mostrarNueva(const DatosPantalla &datos)
 
 void Pantallas::enmarcar(PantallaBase *nueva, bool amplia)
 {
+    const auto *activo = m_area->activeSubWindow();
+    const auto *activa = activo ? qobject_cast<PantallaBase *>(activo->widget()) : nullptr;
     auto *marco = new MarcoInterior(nueva);
     m_area->addSubWindow(marco);
-    marco->mostrarEn(m_area->viewport()->rect(), amplia);
+    // the pages of one record follow each other at one place
+    if (nueva->edita() && activa && activa->edita())
+        marco->mostrarEnLugarDe(*activo);
+    else
+        marco->mostrarEn(m_area->viewport()->rect(), amplia);
 }
 
 void Pantallas::cerrar(Pantalla cual)

@@ -30,12 +30,9 @@ FrmDatos430::FrmDatos430(QWidget *padre)
     m_cmdCancelar = m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar);
     alPulsar(m_cmdAceptar, [this] { aceptar(); });
     alPulsarSinConfirmar(m_cmdCancelar, [this] { cerrarComoCancelar(); });
-    alPulsar(m_chkrect, [this] {
-        registro().MarcarRectificacion(m_chkrect->isChecked());
-        m_modificada = true;
-        registro().CalcularValores();
-        PresentaDatos();
-    });
+    m_adelante = m_cmdAceptar;
+    // what is typed is taken first: the mark stays as it is while a box refuses its text
+    alPulsarSinConfirmar(m_chkrect, [this] { alMarcar(); });
 
     if (registro().MODO() == Modo::Consulta)
         registro().CargarDeclaracion(registro().CSDE());
@@ -64,7 +61,7 @@ void FrmDatos430::disponer()
     auto *rejilla = new QGridLayout;
     rejilla->setHorizontalSpacing(12);
     rejilla->setVerticalSpacing(10);
-    rejilla->setColumnStretch(0, 1);
+    rejilla->setColumnStretch(4, 1);
     for (int i = 0; i < 3; ++i) {
         m_columnas[i] = new QLabel(this);
         m_columnas[i]->setAlignment(Qt::AlignRight);
@@ -160,10 +157,24 @@ qint32 FrmDatos430::GuardarDeclaracion()
     return registro().GuardarDeclaracion(registro().RegistroGuardar());
 }
 
+bool FrmDatos430::modificada() const
+{
+    return registro().Cambiada();
+}
+
+void FrmDatos430::alMarcar()
+{
+    const bool marcada = m_chkrect->isChecked();
+    m_chkrect->setChecked(!marcada);
+    if (!confirmarCajas())
+        return;
+    registro().MarcarRectificacion(marcada);
+    registro().CalcularValores();
+    PresentaDatos();
+}
+
 void FrmDatos430::aceptar()
 {
-    if (!ValidarCampos())
-        return;
-    if (const qint32 csde = GuardarDeclaracion(); csde > 0)
-        entregar(registro().MODO(), csde);
+    if (ValidarCampos())
+        guardarYVolver(registro(), registro().CUOTATOT(), [this] { return GuardarDeclaracion(); });
 }

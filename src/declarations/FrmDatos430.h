@@ -14,6 +14,7 @@ class FrmDatos430 : public PantallaDeclaracion
 public:
     explicit FrmDatos430(QWidget *padre = nullptr);
 
+    bool modificada() const override;
     void Anadir_captions() override;
 
 protected:
@@ -32,6 +33,7 @@ private:
     void disponer();
     bool ValidarCampos();
     qint32 GuardarDeclaracion();
+    void alMarcar();
     void aceptar();
 
     QLabel *m_columnas[3];

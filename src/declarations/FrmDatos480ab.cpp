@@ -19,7 +19,7 @@ PaginaClases::PaginaClases(const QString &nombre, Msj titulo, bool primera, Pant
     auto *rejilla = new QGridLayout;
     rejilla->setHorizontalSpacing(10);
     rejilla->setVerticalSpacing(5);
-    rejilla->setColumnStretch(0, 1);
+    rejilla->setColumnStretch(5, 1);
     for (int columna = 0; columna < 2; ++columna) {
         m_columnas[columna] = new QLabel(this);
         rejilla->addWidget(m_columnas[columna], 0, 2 + 2 * columna, Qt::AlignRight);

@@ -2,8 +2,11 @@
 
 #include "core/Importe.h"
 #include "core/Textos.h"
+#include "core/Unico.h"
+#include "declarants/cDecResumen.h"
 #include "declarations/PanelMensuales.h"
 #include "declarations/cDatos480.h"
+#include "widgets/Disposicion.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -48,16 +51,32 @@ static constexpr LugarTipo LugaresTipo[] = {
     {u"77", u"txt77ti2", 4, &cDatos480::C77_TI2},
 };
 
+/// Dark on amber, bold, under any theme.
+static void pintarAdvertencia(QLabel *etiqueta)
+{
+    QPalette colores = etiqueta->palette();
+    colores.setColor(QPalette::Window, QColor(255, 236, 179));
+    colores.setColor(QPalette::WindowText, QColor(92, 60, 0));
+    etiqueta->setPalette(colores);
+    etiqueta->setAutoFillBackground(true);
+    etiqueta->setMargin(6);
+    QFont negrita = etiqueta->font();
+    negrita.setBold(true);
+    etiqueta->setFont(negrita);
+}
+
 FrmDatos480c::FrmDatos480c(QWidget *padre)
     : Pantalla480(u"FrmDatos480c"_s, Msj::Titulo480c, Pantalla::Datos480b, Pantalla::Ninguna, padre)
-    , m_lblDiferencia(new QLabel(this))
+    , m_lblDiferencia(nuevaEtiqueta(u"lblDiferencia"_s, this))
+    , m_lblUnTipo(nuevaEtiqueta(u"lblUnTipo"_s, this))
     , m_mensuales(new PanelMensuales(this))
 {
     auto *rejilla = new QGridLayout;
     disponer(rejilla);
-    m_lblDiferencia->setObjectName(u"lblDiferencia"_s);
     m_lblDiferencia->setWordWrap(true);
+    pintarAdvertencia(m_lblDiferencia);
     m_cuerpo->addLayout(rejilla);
+    m_cuerpo->addWidget(m_lblUnTipo);
     m_cuerpo->addWidget(m_lblDiferencia);
     m_cuerpo->addWidget(m_mensuales, 1);
     alPulsar(m_cmdAceptar, [this] { aceptar(); });
@@ -71,7 +90,7 @@ void FrmDatos480c::disponer(QGridLayout *rejilla)
 {
     rejilla->setHorizontalSpacing(10);
     rejilla->setVerticalSpacing(6);
-    rejilla->setColumnStretch(0, 1);
+    rejilla->setColumnStretch(7, 1);
     const auto etiqueta = [&](Msj texto, int fila, int columna, Qt::Alignment lado) {
         m_etiquetas.append({new QLabel(this), texto});
         rejilla->addWidget(m_etiquetas.last().first, fila, columna, lado);
@@ -122,9 +141,28 @@ void FrmDatos480c::PresentaDatos()
         caja->mostrarImporte(r.casilla(cual));
     for (qsizetype i = 0; const auto &lugar : LugaresTipo)
         m_tipos[i++]->mostrar(textoTipo((r.*lugar.valor)()));
+    presentarAvisos();
+}
+
+/// A year with one rate has no second band: its box takes nothing, but what is stored in it can
+/// still be taken out.
+void FrmDatos480c::presentarAvisos()
+{
+    const auto &r = registro();
     const double diferencia = r.DiferenciaBases();
     m_lblDiferencia->setText(
         diferencia == 0 ? QString() : msj(Msj::DiferenciaCaja70, textoImporte(diferencia)));
+    m_lblDiferencia->setVisible(diferencia != 0);
+    const bool unTipo = r.C77_TI2() == 0 && r.casilla(C76_BA2) == 0;
+    const QString motivo = unTipo
+        ? msj(Msj::UnSoloTipo, QString::number(unico::la<cDecResumen>().EJERCICIO()))
+        : QString();
+    if (caja(C76_BA2)->isReadOnly() != unTipo)
+        caja(C76_BA2)->bloquear(unTipo);
+    caja(C76_BA2)->setToolTip(motivo);
+    caja(C76_BA2)->setAccessibleDescription(motivo);
+    m_lblUnTipo->setText(motivo);
+    m_lblUnTipo->setVisible(unTipo);
 }
 
 void FrmDatos480c::showEvent(QShowEvent *evento)
@@ -156,8 +194,6 @@ void FrmDatos480c::aceptar()
         cerrarComoCancelar();
         return;
     }
-    if (const qint32 csde = GuardarDeclaracion(); csde > 0) {
-        registro().MODIFICADO(false);
-        entregar(registro().MODO(), csde);
-    }
+    guardarYVolver(registro(), registro().casilla(C81_RES),
+                   [this] { return GuardarDeclaracion(); });
 }

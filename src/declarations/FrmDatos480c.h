@@ -30,11 +30,13 @@ private:
     CajaImporte *caja(Casilla480 cual) const;
     bool ValidarCampos();
     qint32 GuardarDeclaracion();
+    void presentarAvisos();
     void aceptar();
 
     QList<Casilla> m_casillas;
     QList<CajaImporte *> m_tipos;
     QList<std::pair<QLabel *, Msj>> m_etiquetas;
-    QLabel *m_lblDiferencia;
+    QLabel *m_lblDiferencia; ///< a warning: box 70 is not what the bands add up to
+    QLabel *m_lblUnTipo; ///< why box 76 is locked
     PanelMensuales *m_mensuales;
 };

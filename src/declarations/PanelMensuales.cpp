@@ -6,7 +6,9 @@
 #include "core/Unico.h"
 #include "declarants/cDecResumen.h"
 #include "declarations/GraficoCuotas.h"
+#include "widgets/Disposicion.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -36,7 +38,7 @@ PanelMensuales::PanelMensuales(QWidget *padre)
     , m_titulo(new QLabel(this))
     , m_lst430(new ListaMeses(this))
     , m_lblNo430(new QLabel(this))
-    , m_lblTotales(new QLabel(this))
+    , m_pie(new QWidget(this))
     , m_grafico(new GraficoCuotas(this))
 {
     m_lst430->setObjectName(u"lst430"_s);
@@ -49,8 +51,18 @@ PanelMensuales::PanelMensuales(QWidget *padre)
     for (const int columna : {1, 2})
         m_lst430->headerItem()->setTextAlignment(columna, Qt::AlignRight | Qt::AlignVCenter);
     m_lblNo430->setObjectName(u"lblNo430"_s);
-    m_lblTotales->setObjectName(u"lblTotales430"_s);
-    m_lblTotales->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    static constexpr QStringView totales[] = {u"lblTotales430", u"lblTotalBase", u"lblTotalCuota"};
+    for (int columna = 0; columna < 3; ++columna) {
+        m_totales[columna] = nuevaEtiqueta(totales[columna].toString(), m_pie);
+        m_totales[columna]->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        m_totales[columna]->setAlignment((columna == 0 ? Qt::AlignLeft : Qt::AlignRight)
+                                         | Qt::AlignVCenter);
+        QFont negrita = font();
+        negrita.setBold(true);
+        m_totales[columna]->setFont(negrita);
+    }
+    m_pie->setFixedHeight(fontMetrics().height() + 8);
+    m_lst430->viewport()->installEventFilter(this);
     m_grafico->setObjectName(u"picCuotas"_s);
 
     auto *rejilla = new QGridLayout(this);
@@ -59,7 +71,7 @@ PanelMensuales::PanelMensuales(QWidget *padre)
     rejilla->addWidget(m_titulo, 0, 0, 1, 2);
     rejilla->addWidget(m_lblNo430, 1, 0, 1, 2, Qt::AlignTop);
     rejilla->addWidget(m_lst430, 2, 0);
-    rejilla->addWidget(m_lblTotales, 3, 0);
+    rejilla->addWidget(m_pie, 3, 0);
     rejilla->addWidget(m_grafico, 2, 1, 2, 1);
     rejilla->setColumnStretch(0, 3);
     rejilla->setColumnStretch(1, 2);
@@ -68,7 +80,7 @@ PanelMensuales::PanelMensuales(QWidget *padre)
 void PanelMensuales::cargar(const cDatos480 &registro)
 {
     m_anno = registro.CargarMensuales();
-    for (QWidget *parte : QList<QWidget *>{m_lst430, m_lblTotales, m_grafico})
+    for (QWidget *parte : QList<QWidget *>{m_lst430, m_pie, m_grafico})
         parte->setVisible(m_anno.has_value());
     m_lblNo430->setVisible(!m_anno);
 }
@@ -94,8 +106,29 @@ void PanelMensuales::mostrar()
                 fila->setText(columna, textoImporte(columna == 1 ? datos->base : datos->cuota));
         }
     }
-    m_lblTotales->setText(msj(Msj::TotalAnualBase) + u": "_s + textoImporte(m_anno->base)
-                          + u"    "_s + msj(Msj::TotalAnualCuota) + u": "_s
-                          + textoImporte(m_anno->cuota));
+    m_totales[0]->setText(msj(Msj::Total));
+    m_totales[1]->setText(textoImporte(m_anno->base));
+    m_totales[1]->setAccessibleName(msj(Msj::TotalAnualBase));
+    m_totales[2]->setText(textoImporte(m_anno->cuota));
+    m_totales[2]->setAccessibleName(msj(Msj::TotalAnualCuota));
+    colocarTotales();
     m_grafico->mostrar(*m_anno, unico::la<cDecResumen>().EJERCICIO());
+}
+
+bool PanelMensuales::eventFilter(QObject *objeto, QEvent *evento)
+{
+    if (evento->type() == QEvent::Resize)
+        colocarTotales();
+    return QWidget::eventFilter(objeto, evento);
+}
+
+/// The three columns share the width of the list.
+void PanelMensuales::colocarTotales()
+{
+    // as far from the edges of a column as the figures of its cells
+    constexpr int margen = 3;
+    const int ancho = m_lst430->viewport()->width() / 3;
+    for (int columna = 0; columna < 3; ++columna)
+        m_totales[columna]->setGeometry(m_lst430->frameWidth() + columna * ancho + margen, 0,
+                                        ancho - 2 * margen, m_pie->height());
 }

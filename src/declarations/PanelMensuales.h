@@ -20,13 +20,18 @@ public:
     void cargar(const cDatos480 &registro);
     void Anadir_captions();
 
+protected:
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
+
 private:
     void mostrar();
+    void colocarTotales();
 
     QLabel *m_titulo;
     QTreeWidget *m_lst430;
     QLabel *m_lblNo430;
-    QLabel *m_lblTotales;
+    QWidget *m_pie;
+    QLabel *m_totales[3]; ///< caption, base and quota, under their columns
     GraficoCuotas *m_grafico;
     std::optional<Mensuales430> m_anno;
 };

@@ -25,18 +25,27 @@ Pantalla480::Pantalla480(const QString &nombre, Msj titulo, Pantalla anterior, P
     } else {
         m_cmdAceptar = m_botones->anadir(u"cmdAceptar"_s, u"PicAce"_s, Icono::Aceptar);
     }
+    m_adelante = m_cmdSiguiente ? m_cmdSiguiente : m_cmdAceptar;
     m_cmdCancelar = m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar);
     alPulsarSinConfirmar(m_cmdCancelar, [this] { cerrarComoCancelar(); });
+}
+
+bool Pantalla480::modificada() const
+{
+    return registro().Cambiada();
+}
+
+QSize Pantalla480::sizeHint() const
+{
+    // room for the second page's rows, and for the third one's columns
+    const QFontMetrics letra = fontMetrics();
+    const QSize comun(letra.averageCharWidth() * 126, letra.height() * 42);
+    return PantallaDeclaracion::sizeHint().expandedTo(comun);
 }
 
 cDatos480 &Pantalla480::registro()
 {
     return unico::la<cDatos480>();
-}
-
-bool Pantalla480::modificada() const
-{
-    return registro().MODIFICADO();
 }
 
 CajaImporte *Pantalla480::ponerCasilla(QGridLayout *rejilla, Casilla480 casilla, int fila,
@@ -84,4 +93,9 @@ void Pantalla480::Anadir_captions()
 qint32 Pantalla480::csdeRegistro() const
 {
     return registro().CSDE();
+}
+
+void Pantalla480::alConservar()
+{
+    registro().MODIFICADO(false);
 }

@@ -13,6 +13,8 @@ class Pantalla480 : public PantallaDeclaracion
 
 public:
     bool modificada() const override;
+    /// The same for the three pages.
+    QSize sizeHint() const override;
 
 protected:
     /// `anterior` and `siguiente`: the pages beside this one, Pantalla::Ninguna where there is
@@ -29,6 +31,7 @@ protected:
                        int columna);
     void Anadir_captions() override;
     qint32 csdeRegistro() const override;
+    void alConservar() override;
 
     QPushButton *m_cmdAceptar = nullptr; ///< on the last page
 

@@ -1,17 +1,47 @@
 #include "declarations/PantallaDeclaracion.h"
 
+#include "core/Importe.h"
 #include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
+#include "declarants/MensajesDeclarante.h"
 #include "declarants/cDecResumen.h"
 #include "widgets/CajaTexto.h"
 #include "widgets/Disposicion.h"
 
 #include <QFrame>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
+
+/// A label that takes the room that is left, and ends in an ellipsis where that is too little; the
+/// whole text is its tip then.
+class EtiquetaBreve : public QLabel
+{
+public:
+    EtiquetaBreve(const QString &nombre, QWidget *padre)
+        : QLabel(padre)
+    {
+        setObjectName(nombre);
+        setTextFormat(Qt::PlainText);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter pintor(this);
+        const QString breve = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+        style()->drawItemText(&pintor, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),
+                              isEnabled(), breve, foregroundRole());
+        setToolTip(breve == text() ? QString() : text());
+    }
+};
 
 /// Head of every entry screen: whose return it is, and its exercise and period. Nothing in it can
 /// be changed.
@@ -45,7 +75,7 @@ static CajaTexto *cajaCabecera(const QString &nombre, int cifras, QWidget *padre
 PantallaDeclaracion::Cabecera::Cabecera(QWidget *padre)
     : QWidget(padre)
     , m_lbldni(nuevaEtiqueta(u"lbldni"_s, this))
-    , m_lblnombre(nuevaEtiqueta(u"lblnombre"_s, this))
+    , m_lblnombre(new EtiquetaBreve(u"lblnombre"_s, this))
     , m_lblejer(nuevaEtiqueta(u"lblejer"_s, this))
     , m_txtejer(cajaCabecera(u"txtejer"_s, 4, this))
     , m_lblper(nuevaEtiqueta(u"lblper"_s, this))
@@ -126,7 +156,6 @@ bool PantallaDeclaracion::tomar(const std::function<bool()> &cambio)
     bool tomado = false;
     procedimiento(this, [&] {
         tomado = cambio();
-        m_modificada = m_modificada || tomado;
         if (tomado)
             PresentaDatos();
         else
@@ -140,15 +169,44 @@ void PantallaDeclaracion::cerrarComoCancelar()
     cerrarA(alCerrarMarco());
 }
 
-void PantallaDeclaracion::entregar(const QString &modo, qint32 csde)
+QString PantallaDeclaracion::nombreDeclaracion()
 {
+    const auto &c = unico::la<cDecResumen>();
+    return c.MODELO() + u' ' + textoPeriodo(c.PERIODICIDAD(), c.PERIODO()) + u' '
+        + QString::number(c.EJERCICIO());
+}
+
+/// Why a save was refused: another copy of the program has stored or deleted it meanwhile.
+static QString motivoRechazo(bool nueva, const QString &nombre)
+{
+    const auto &cabecera = unico::la<cDecResumen>();
+    const qint16 codigo = nueva ? cabecera.ValidarDatosComunes(cabecera.Cabecera()) : qint16(0);
+    return codigo == 0 ? msj(Msj::EliminadoEnOtraCopia, nombre) : textoCabecera(codigo);
+}
+
+void PantallaDeclaracion::entregar(bool nueva, qint32 csde, double importe)
+{
+    if (csde < 1) {
+        aviso(motivoRechazo(nueva, nombreDeclaracion()));
+        return;
+    }
     auto &cabecera = unico::la<cDecResumen>();
-    if (modo == Modo::Alta)
+    if (nueva)
         cabecera.CSDE(csde);
     cabecera.ENTRADA(Entrada::Vuelta);
-    m_modificada = false;
+    decir(msj(Msj::DeclaracionGuardada, nombreDeclaracion() + u": "_s + textoImporte(importe)));
     Q_EMIT datosCambiados(cabecera.CSCO());
     cerrarA(Pantalla::Resumen);
+}
+
+void PantallaDeclaracion::keyPressEvent(QKeyEvent *evento)
+{
+    const auto enBoton = [this] { return qobject_cast<QPushButton *>(focusWidget()) != nullptr; };
+    const bool desdeBoton = enBoton();
+    PantallaBase::keyPressEvent(evento);
+    const bool intro = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
+    if (intro && !desdeBoton && enBoton())
+        m_adelante->setFocus(Qt::TabFocusReason);
 }
 
 Pantalla PantallaDeclaracion::alCerrarMarco()

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "core/Modos.h"
 #include "declarations/RegistroDeclaracion.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/CajaImporte.h"
+#include "widgets/CambioAjeno.h"
 #include "widgets/PantallaBase.h"
 
 class QVBoxLayout;
@@ -17,7 +19,6 @@ public:
     PantallaDeclaracion(const QString &nombre, QWidget *padre);
 
     bool edita() const override { return true; }
-    bool modificada() const override { return m_modificada; }
     void Anadir_captions() override;
 
 protected:
@@ -44,18 +45,48 @@ protected:
     CajaImporte *cajaCalculada(const QString &nombre);
     CajaImporte *cajaTipo(const QString &nombre);
 
+    /// Saves by `guardar` (the return's key, below 1 when it was refused) and goes back to the
+    /// summary. What another copy of the program has stored meanwhile is replaced only when the
+    /// user says so; kept, it is shown in place of what was typed. A refusal is told, and the
+    /// screen stays.
+    template <class Declaracion>
+    void guardarYVolver(Declaracion &registro, double importe,
+                        const std::function<qint32()> &guardar)
+    {
+        switch (consultarGuardado(this, registro.CambioDesdeCarga(), nombreDeclaracion())) {
+        case Decision::Guardar: {
+            const bool nueva = registro.MODO() == Modo::Alta;
+            const qint32 csde = guardar();
+            if (csde > 0)
+                registro.TomarGuardado(csde);
+            entregar(nueva, csde, importe);
+            break;
+        }
+        case Decision::Conservar:
+            registro.CargarDeclaracion(registro.CSDE());
+            alConservar();
+            PresentaDatos();
+            break;
+        case Decision::Seguir:
+            break;
+        }
+    }
+    /// What is stored has been loaded again.
+    virtual void alConservar() {}
     void cerrarComoCancelar();
-    /// What a save leaves in the summary's header: the new return's key when there was none before.
-    void entregar(const QString &modo, qint32 csde);
     Pantalla alCerrarMarco() override;
+    void keyPressEvent(QKeyEvent *evento) override;
 
     QVBoxLayout *m_cuerpo; ///< between head and foot
     BarraBotones *m_botones;
-    bool m_modificada = false; ///< differs from what is stored
+    QPushButton *m_adelante = nullptr; ///< where Enter leads after the last box
 
 private:
     class Cabecera;
 
+    /// "430 ENERO 2026".
+    static QString nombreDeclaracion();
+    void entregar(bool nueva, qint32 csde, double importe);
     bool tomar(const std::function<bool()> &cambio);
 
     Cabecera *m_cabecera;

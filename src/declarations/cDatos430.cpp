@@ -12,7 +12,8 @@ void cDatos430::MODO(const QString &modo)
     if (modo == Modo::Alta) {
         Figuras nuevas;
         nuevas.tipoliq = nuevas.tipotot = redondearTipo(CalcularTipo());
-        m = nuevas;
+        m = m_inicial = nuevas;
+        m_cargado.olvidar();
     }
     m_modo = modo;
 }
@@ -60,6 +61,7 @@ void cDatos430::CUOTATOT(double centimos)
 void cDatos430::CargarDeclaracion(qint32 codigo)
 {
     Registro r;
+    const QByteArray huella = servicioDeclaracion()->Huella(codigo);
     servicioDeclaracion()->Cargar430(codigo, r);
     m.rectifica = r.value(Reg430::RECTIFICA).toString();
     m.baseliq = r.value(Reg430::BASELIQ).toDouble();
@@ -70,11 +72,26 @@ void cDatos430::CargarDeclaracion(qint32 codigo)
     m.basetot = r.value(Reg430::BASETOT).toDouble();
     m.tipotot = r.value(Reg430::TIPOTOT).toFloat();
     m.cuotatot = r.value(Reg430::CUOTATOT).toDouble();
+    m_inicial = m;
+    m_cargado.tomar(huella);
 }
 
 qint16 cDatos430::ValidarDatos430(const Registro &datos) const
 {
     return servicio::crear<SvrOstr::cDeclaracion>()->ValidarDatos430(datos);
+}
+
+void cDatos430::TomarGuardado(qint32 csde)
+{
+    m_modo = Modo::Consulta;
+    CSDE(csde);
+    m_inicial = m;
+    m_cargado.olvidar();
+}
+
+EstadoCarga cDatos430::CambioDesdeCarga() const
+{
+    return m_cargado.comparar(servicioDeclaracion()->Huella(CSDE()));
 }
 
 qint32 cDatos430::GuardarDeclaracion(const Registro &datos) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/MarcaCarga.h"
 #include "core/Modos.h"
 #include "dataservice/Registros.h"
 
@@ -38,8 +39,12 @@ public:
     /// The service's code for a RegValidar430: 0 valid, 1 and 2 rectification without base or
     /// quota.
     qint16 ValidarDatos430(const Registro &datos) const;
+    /// Whether another copy of the program has changed the return since it was loaded.
+    EstadoCarga CambioDesdeCarga() const;
     /// Saves a header and figures record: the return's key, below 1 when it was refused.
     qint32 GuardarDeclaracion(const Registro &datos) const;
+    /// After a save: the record is the stored return `csde`.
+    void TomarGuardado(qint32 csde);
     /// Rate of the header's exercise and period, unrounded.
     float CalcularTipo() const;
 
@@ -47,6 +52,8 @@ public:
     void CalcularValores();
     /// Whether every computed figure fits its box.
     bool cabe() const;
+    /// Whether the figures are not those that were loaded, or a new return was begun with.
+    bool Cambiada() const { return m != m_inicial; }
     /// Sets or clears the rectification mark; clearing empties its two boxes.
     void MarcarRectificacion(bool marcada);
 
@@ -57,6 +64,8 @@ public:
 private:
     struct Figuras
     {
+        bool operator==(const Figuras &) const = default;
+
         QString rectifica;
         double baseliq = 0;
         float tipoliq = 0;
@@ -71,4 +80,6 @@ private:
 
     QString m_modo;
     Figuras m;
+    MarcaCarga m_cargado;
+    Figuras m_inicial; ///< when it was loaded or begun
 };

@@ -34,8 +34,10 @@ void cDatos480::MODO(const QString &modo)
         Figuras nuevas;
         nuevas.tipo1 = redondearTipo(tipos.value(0).toFloat());
         nuevas.tipo2 = tipos.size() == 2 ? redondearTipo(tipos.value(1).toFloat()) : 0;
-        nuevas.modificado = true;
-        m = nuevas;
+        m = m_inicial = nuevas;
+        m_cargado.olvidar();
+        m_csde = 0;
+        m_modificado = true;
     }
     m_modo = modo;
 }
@@ -58,17 +60,34 @@ void cDatos480::C77_TI2(float tipo)
 void cDatos480::CargarDeclaracion(qint32 codigo)
 {
     Registro r;
+    const QByteArray huella = servicioDeclaracion()->Huella(codigo);
     servicioDeclaracion()->Cargar480(codigo, r);
     paraCadaCasilla(
         [&](int posicion, Casilla480 casilla) { en(casilla) = r.value(posicion).toDouble(); });
     m.tipo1 = r.value(Reg480::C74_TI1).toFloat();
     m.tipo2 = r.value(Reg480::C77_TI2).toFloat();
     casilla(C71_TOT, CalcularC71());
+    m_inicial = m;
+    m_cargado.tomar(huella);
 }
 
 qint16 cDatos480::ValidarDatos480(const Registro &datos) const
 {
     return servicio::crear<SvrOstr::cDeclaracion>()->ValidarDatos480(datos);
+}
+
+void cDatos480::TomarGuardado(qint32 csde)
+{
+    m_modo = Modo::Consulta;
+    CSDE(csde);
+    m_modificado = false;
+    m_inicial = m;
+    m_cargado.olvidar();
+}
+
+EstadoCarga cDatos480::CambioDesdeCarga() const
+{
+    return m_cargado.comparar(servicioDeclaracion()->Huella(CSDE()));
 }
 
 qint32 cDatos480::GuardarDeclaracion(const Registro &datos) const
@@ -156,5 +175,5 @@ Registro cDatos480::RegistroGuardar() const
     paraCadaCasilla([&](int posicion, Casilla480 cual) { figuras[posicion] = casilla(cual); });
     figuras[Reg480::C74_TI1] = m.tipo1;
     figuras[Reg480::C77_TI2] = m.tipo2;
-    return cabeceraGuardar(m.csde) + figuras;
+    return cabeceraGuardar(m_csde) + figuras;
 }

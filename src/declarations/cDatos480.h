@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/MarcaCarga.h"
 #include "core/Modos.h"
 #include "declarations/Clases480.h"
 
@@ -29,10 +30,10 @@ public:
     /// "A" until the first page has loaded the return.
     QString ENTRADA() const { return m_entrada; }
     void ENTRADA(const QString &entrada) { m_entrada = entrada; }
-    qint32 CSDE() const { return m.csde; } ///< 0 while not saved
-    void CSDE(qint32 codigo) { m.csde = codigo; }
-    bool MODIFICADO() const { return m.modificado; } ///< differs from what is stored
-    void MODIFICADO(bool modificado) { m.modificado = modificado; }
+    qint32 CSDE() const { return m_csde; } ///< 0 while not saved
+    void CSDE(qint32 codigo) { m_csde = codigo; }
+    bool MODIFICADO() const { return m_modificado; } ///< differs from what is stored
+    void MODIFICADO(bool modificado) { m_modificado = modificado; }
 
     /// Amount of a box, in cents; the writer rounds to whole cents.
     double casilla(Casilla480 cual) const { return m.casillas.at(static_cast<size_t>(cual)); }
@@ -46,8 +47,12 @@ public:
     void CargarDeclaracion(qint32 codigo);
     /// The service's code for a RegValidar480: 0 valid, 2 box 70 is not 73 + 76.
     qint16 ValidarDatos480(const Registro &datos) const;
+    /// Whether another copy of the program has changed the return since it was loaded.
+    EstadoCarga CambioDesdeCarga() const;
     /// Saves a header and figures record: the return's key, below 1 when it was refused.
     qint32 GuardarDeclaracion(const Registro &datos) const;
+    /// After a save: the record is the stored return `csde`.
+    void TomarGuardado(qint32 csde);
     /// Totals, quotas and result from the boxes entered.
     void CalcularValores();
     /// Unrounded sum of the exempt bases.
@@ -63,6 +68,8 @@ public:
     double DiferenciaBases() const;
     /// Whether every computed figure fits its box.
     bool cabe() const;
+    /// Whether the figures are not those that were loaded, or a new return was begun with.
+    bool Cambiada() const { return m != m_inicial; }
 
     Registro RegistroValidar() const;
     Registro RegistroGuardar() const;
@@ -70,11 +77,11 @@ public:
 private:
     struct Figuras
     {
+        bool operator==(const Figuras &) const = default;
+
         std::array<double, UltimaCasilla480 + 1> casillas{};
         float tipo1 = 0;
         float tipo2 = 0;
-        qint32 csde = 0;
-        bool modificado = false;
     };
 
     double sumaColumna(int columna) const;
@@ -82,5 +89,9 @@ private:
 
     QString m_modo;
     QString m_entrada;
+    qint32 m_csde = 0;
+    bool m_modificado = false;
     Figuras m;
+    MarcaCarga m_cargado;
+    Figuras m_inicial; ///< when it was loaded or begun
 };
