@@ -8,10 +8,15 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QComboBox>
 #include <QDate>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QPrintPreviewWidget>
+#include <QScreen>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -158,9 +163,14 @@ private Q_SLOTS:
         Opciones o(u"480"_s);
         int paginas = 0;
         QStringList visibles;
+        QSize tamano;
+        auto zoom = QPrintPreviewWidget::CustomZoom;
         QTimer::singleShot(0, o.pantalla.get(), [&] {
             auto *dialogo = QApplication::activeModalWidget();
-            paginas = dialogo->findChild<QPrintPreviewWidget *>()->pageCount();
+            const auto *vista = dialogo->findChild<QPrintPreviewWidget *>();
+            paginas = vista->pageCount();
+            zoom = vista->zoomMode();
+            tamano = dialogo->size();
             for (const QAction *accion : dialogo->findChildren<QAction *>())
                 if (accion->isVisible())
                     visibles << accion->text();
@@ -168,31 +178,135 @@ private Q_SLOTS:
         });
         o.manos->pulsar("btnVistaPrevia");
         QCOMPARE(paginas, 2);
+        QCOMPARE(zoom, QPrintPreviewWidget::FitToWidth);
+        const QSize libre = o.pantalla->screen()->availableSize();
+        QVERIFY(tamano.width() > libre.width() * 0.8 && tamano.height() > libre.height() * 0.8);
         QVERIFY(visibles.contains(u"Zoom in") && !visibles.contains(u"Print"));
         QVERIFY(o.pantalla->isVisible());
     }
 
+    void queSeImprimeYDonde()
+    {
+        Opciones o(u"430"_s);
+        QCOMPARE(o.manos->texto("lblDeclaracion"),
+                 u"430 ENERO 2026\nA58818501 - ASEGURADORA UNO, S.A."_s);
+        if (!SalidaImpresora::hayImpresoras())
+            QCOMPARE(o.manos->texto("lblImpresora"), u"Impresora: ninguna"_s);
+        Entorno::pasarAEuskera(*o.pantalla);
+        QVERIFY(o.manos->texto("lblDeclaracion").startsWith(u"430 URTARRILA 2026"_s));
+        QCOMPARE(Opciones(u"480"_s).manos->texto("lblDeclaracion").section(u'\n', 0, 0),
+                 u"480 ANUAL 2026"_s);
+    }
+
+    /// Saves as `elegido` in the real file dialogue and answers to what is told; what was proposed.
+    static QString guardarComo(Opciones &o, const QString &elegido,
+                               const QList<QMessageBox::StandardButton> &respuestas)
+    {
+        QString propuesto;
+        ficheros::observar([&](QFileDialog &dialogo) {
+            propuesto = dialogo.selectedFiles().value(0);
+            dialogo.selectFile(elegido);
+            QTimer::singleShot(0, &dialogo,
+                               [&dialogo] { static_cast<QDialog &>(dialogo).accept(); });
+        });
+        for (const auto respuesta : respuestas)
+            o.mensajes.responder(respuesta);
+        o.manos->pulsar("btnGuardarPdf");
+        return propuesto;
+    }
+
     void guardarPdf()
     {
+        QString anterior;
+        const QTemporaryDir salida;
         for (const bool unoSolo : {true, false}) {
             Opciones o(u"430"_s);
-            QDir carpeta(o.entorno.ruta(u"salida"_s));
+            QDir carpeta(salida.filePath(unoSolo ? u"uno"_s : u"dos"_s));
             QVERIFY(carpeta.mkpath(u"."_s));
             o.boton("chkUnPdf")->setChecked(unoSolo);
-            QString propuesto;
-            ficheros::observar([&](QFileDialog &dialogo) {
-                propuesto = QFileInfo(dialogo.selectedFiles().value(0)).fileName();
-                dialogo.selectFile(carpeta.filePath(u"x_AD-IT.pdf"_s));
-                QTimer::singleShot(0, &dialogo,
-                                   [&dialogo] { static_cast<QDialog &>(dialogo).accept(); });
-            });
-            o.responderYPulsar(QMessageBox::Ok, "btnGuardarPdf");
-            QCOMPARE(propuesto, u"430_2026-01_A58818501_AD-IT.pdf"_s);
+            const QString propuesto
+                = guardarComo(o, carpeta.filePath(u"x_AD-IT.pdf"_s), {QMessageBox::Ok});
+            QCOMPARE(QFileInfo(propuesto).fileName(), u"430_2026-01_A58818501_AD-IT.pdf"_s);
+            // the folder of the session's last one is proposed
+            if (!anterior.isEmpty())
+                QCOMPARE(QFileInfo(propuesto).path(), anterior);
+            anterior = carpeta.path();
             QCOMPARE(carpeta.entryList(QDir::Files).join(u' '),
                      unoSolo ? u"x_AD-IT.pdf"_s : u"x_AD.pdf x_IT.pdf"_s);
-            QVERIFY(o.pantalla->isVisible());
+            const auto dicho = o.mensajes.tomar();
+            QCOMPARE(dicho.size(), 1);
+            QCOMPARE(dicho[0].icono, QMessageBox::Information);
+            QVERIFY(dicho[0].texto.contains(unoSolo ? u"x_AD-IT.pdf"_s : u"x_IT.pdf"_s));
+            QVERIFY(!o.pantalla->isVisible());
+            QCOMPARE(o.siguiente, Pantalla::Resumen);
         }
     }
+
+    /// What was saved can be opened, or its folder.
+    void abrirLoGuardado()
+    {
+        QDesktopServices::setUrlHandler(u"file"_s, this, "anotarAbierto");
+        for (const auto &[boton, abierto] :
+             {std::pair{QMessageBox::Open, u"salida/y.pdf"_s}, {QMessageBox::Apply, u"salida"_s}}) {
+            Opciones o(u"430"_s);
+            QVERIFY(QDir().mkpath(o.entorno.ruta(u"salida"_s)));
+            m_abierto.clear();
+            guardarComo(o, o.entorno.ruta(u"salida/y.pdf"_s), {boton});
+            QCOMPARE(m_abierto, o.entorno.ruta(abierto));
+        }
+        QDesktopServices::unsetUrlHandler(u"file"_s);
+    }
+
+    /// The program's own database is refused before anything is asked or written.
+    void elFicheroPropioSeRechaza()
+    {
+        Opciones o(u"430"_s);
+        QFile modelo(rutas().datos);
+        QVERIFY(modelo.open(QIODevice::ReadOnly));
+        const QByteArray antes = modelo.readAll();
+        guardarComo(o, rutas().datos, {QMessageBox::Ok});
+        QVERIFY(o.mensajes.texto().contains(u"OstrMod.mdb"_s));
+        modelo.seek(0);
+        QCOMPARE(modelo.readAll(), antes);
+        QVERIFY(o.pantalla->isVisible());
+    }
+
+    /// "Print to file" in the printer's options: two copies are two files.
+    void imprimirEnFicheros()
+    {
+        Opciones o(u"430"_s);
+        QVERIFY(QDir().mkpath(o.entorno.ruta(u"salida"_s)));
+        const QString elegido = o.entorno.ruta(u"salida/z.pdf"_s);
+        bool elegible = false;
+        QTimer::singleShot(0, o.pantalla.get(), [&] {
+            auto *dialogo = QApplication::activeModalWidget();
+            auto *impresoras = dialogo->findChild<QComboBox *>(u"printers"_s);
+            auto *fichero = dialogo->findChild<QLineEdit *>(u"filename"_s);
+            elegible = impresoras && fichero && qobject_cast<QDialog *>(dialogo);
+            if (elegible) {
+                impresoras->setCurrentIndex(impresoras->count() - 1);
+                fichero->setText(elegido);
+                qobject_cast<QDialog *>(dialogo)->accept();
+            } else {
+                dialogo->close();
+            }
+        });
+        o.manos->pulsar("btnOpcionesImpresora");
+        if (!elegible)
+            QSKIP("the printer dialogue of this platform is another one");
+        QVERIFY(o.manos->texto("lblImpresora").contains(u"z.pdf"_s));
+        o.responderYPulsar(QMessageBox::Ok, "btnAceptar");
+        QVERIFY(o.mensajes.texto().contains(u"z_IT.pdf"_s));
+        QCOMPARE(QDir(o.entorno.ruta(u"salida"_s)).entryList(QDir::Files).join(u' '),
+                 u"z_AD.pdf z_IT.pdf"_s);
+        QVERIFY(!o.pantalla->isVisible());
+    }
+
+public Q_SLOTS:
+    void anotarAbierto(const QUrl &direccion) { m_abierto = direccion.toLocalFile(); }
+
+private:
+    QString m_abierto;
 };
 
 QTEST_MAIN(TstImpresoPantalla)

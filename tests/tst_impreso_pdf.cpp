@@ -1,3 +1,4 @@
+#include "core/Rutas.h"
 #include "printing/DocumentoPdf.h"
 #include "printing/TrabajoImpresion.h"
 #include "support/ValoresPrueba.h"
@@ -8,6 +9,7 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -15,13 +17,29 @@
 #include <ctime>
 
 #ifdef Q_OS_UNIX
+#include <cerrno>
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #endif
 
 using namespace Qt::StringLiterals;
+
+#ifdef Q_OS_UNIX
+/// Takes the place of the system's: fails as a broken disk does while the switch is on.
+static bool SincronizacionRota = false;
+extern "C" int fsync(int descriptor)
+{
+    if (SincronizacionRota) {
+        errno = EIO;
+        return -1;
+    }
+    return static_cast<int>(syscall(SYS_fsync, descriptor));
+}
+#endif
 
 /// Largest difference of a channel between two pixels.
 static int diferencia(QRgb a, QRgb b)
@@ -115,6 +133,12 @@ private Q_SLOTS:
         QVERIFY(bytes.contains("<rdf:li>Ostrel de seguros</rdf:li>"));
         QVERIFY(bytes.contains("<rdf:li>eu</rdf:li><rdf:li>es</rdf:li>"));
         QVERIFY(bytes.contains(">Modelo de prueba</rdf:li>"));
+        const QString datos = ejecutar(u"pdfinfo"_s, {guardado(u"i.pdf"_s, bytes)});
+        if (!datos.isEmpty()) {
+            static const QRegularExpression autor(u"Author: +Ostrel de seguros\n"_s);
+            QVERIFY2(datos.contains(autor) && datos.contains(u"Modelo de prueba"_s),
+                     qPrintable(datos));
+        }
         if (QStandardPaths::findExecutable(u"pdffonts"_s).isEmpty())
             QSKIP("pdffonts (poppler-utils) is not installed");
         const QString fuentes = ejecutar(u"pdffonts"_s, {guardado(u"f.pdf"_s, bytes)});
@@ -176,6 +200,41 @@ private Q_SLOTS:
         const double parte = static_cast<double>(distintos) / (hecha.width() * hecha.height());
         QVERIFY2(parte < 0.002, qPrintable(QString::number(parte)));
     }
+
+#ifdef Q_OS_UNIX
+    /// A sync that fails is told, and the file is the old one.
+    void sincronizacionQueFalla()
+    {
+        const QString ruta = guardado(u"s.pdf"_s, "antes");
+        SincronizacionRota = true;
+        const QString motivo = guardarPdf(ruta, "nuevo");
+        SincronizacionRota = false;
+        QVERIFY2(motivo.startsWith(u"Error del disco"_s), qPrintable(motivo));
+        QFile fichero(ruta);
+        QVERIFY(fichero.open(QIODevice::ReadOnly));
+        QCOMPARE(fichero.readAll(), QByteArray("antes"));
+    }
+
+    /// Neither a database under any name nor what is no file is written.
+    void rutasQueNoSeEscriben()
+    {
+        QVERIFY(QDir(m_carpeta.path()).mkpath(u"Tablas"_s));
+        fijarRutas(Rutas::desde(m_carpeta.path()));
+        const QString base = rutas().datos;
+        QFile modelo(base);
+        QVERIFY(modelo.open(QIODevice::WriteOnly));
+        modelo.write("datos");
+        modelo.close();
+        const QString enlace = m_carpeta.filePath(u"enlace.pdf"_s);
+        const QString tuberia = m_carpeta.filePath(u"tuberia.pdf"_s);
+        QVERIFY(QFile::link(base, enlace));
+        QCOMPARE(mkfifo(QFile::encodeName(tuberia).constData(), 0600), 0);
+        for (const QString &ruta : {base, enlace, tuberia, m_carpeta.path()})
+            QVERIFY2(!guardarPdf(ruta, "pdf").isEmpty(), qPrintable(ruta));
+        QVERIFY(modelo.open(QIODevice::ReadOnly));
+        QCOMPARE(modelo.readAll(), QByteArray("datos"));
+    }
+#endif
 
     void guardadosQueFallan()
     {

@@ -152,7 +152,7 @@ private Q_SLOTS:
         QVERIFY(comienzos[1] > 10000);
         // all in one
         const QByteArray junto = trabajo.pdf(trabajo.copias());
-        QCOMPARE(junto.count("%%EOF"), 1);
+        QCOMPARE(junto.count("/Type /Catalog"), 1);
         QVERIFY(junto.contains("/Count 2"));
         unico::la<cImOf>().PedirBorrador();
         QCOMPARE(TrabajoImpresion(unico::la<cImOf>()).copias(), QStringList{u"BO"_s});

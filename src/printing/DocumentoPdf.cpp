@@ -1,5 +1,6 @@
 #include "printing/DocumentoPdf.h"
 
+#include "core/RutasPropias.h"
 #include "core/Textos.h"
 #include "printing/TrabajoImpresion.h"
 
@@ -8,8 +9,18 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QPdfWriter>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QStorageInfo>
+
+#include <cerrno>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#else
+#include <io.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -32,6 +43,33 @@ static QByteArray propiedades(const QString &titulo)
         .toUtf8();
 }
 
+/// The same bytes with an author in the document's dictionary, which QPdfWriter has no setter for
+/// either: a new version of that dictionary after the end, as the format lets one be changed.
+static QByteArray conAutor(QByteArray pdf, const QString &autor)
+{
+    static const QRegularExpression final(
+        u"/Size (\\d+)\\s+/Info (\\d+) 0 R\\s+/Root (\\d+) 0 R\\s*>>\\s*startxref\\s+(\\d+)\\s+%%EOF\\s*$"_s);
+    const auto m = final.match(QString::fromLatin1(pdf.last(std::min<qsizetype>(pdf.size(), 400))));
+    const QByteArray cabeza = m.captured(2).toLatin1() + " 0 obj\n<<";
+    const auto desde = pdf.indexOf('\n' + cabeza) + 1;
+    const auto hasta = pdf.indexOf("endobj", desde);
+    if (!m.hasMatch() || desde == 0 || hasta < 0)
+        return pdf;
+    QByteArray diccionario = pdf.mid(desde, hasta - desde);
+    QByteArray texto("\xfe\xff");
+    for (const QChar c : autor)
+        texto += static_cast<char>(c.unicode() >> 8), texto += static_cast<char>(c.unicode() & 255);
+    diccionario.insert(cabeza.size(), "\n/Author <" + texto.toHex() + '>');
+    const auto lugar = pdf.size();
+    pdf += diccionario + "endobj\n";
+    const auto tabla = pdf.size();
+    return pdf + "xref\n" + m.captured(2).toLatin1() + " 1\n"
+        + QByteArray::number(lugar).rightJustified(10, '0') + " 00000 n \ntrailer\n<<\n/Size "
+        + m.captured(1).toLatin1() + "\n/Info " + m.captured(2).toLatin1() + " 0 R\n/Root "
+        + m.captured(3).toLatin1() + " 0 R\n/Prev " + m.captured(4).toLatin1() + "\n>>\nstartxref\n"
+        + QByteArray::number(tabla) + "\n%%EOF\n";
+}
+
 QByteArray documentoPdf(const QString &titulo,
                         const std::function<bool(QPagedPaintDevice &)> &dibujar)
 {
@@ -42,7 +80,9 @@ QByteArray documentoPdf(const QString &titulo,
     escritor.setTitle(titulo);
     escritor.setCreator(AutorDocumento.toString());
     escritor.setDocumentXmpMetadata(propiedades(titulo));
-    return dibujar(escritor) ? memoria.data() : QByteArray();
+    if (!dibujar(escritor))
+        return {};
+    return conAutor(memoria.data(), AutorDocumento.toString());
 }
 
 static QString motivo(Msj cual, const QString &ruta)
@@ -50,20 +90,61 @@ static QString motivo(Msj cual, const QString &ruta)
     return msj(cual, QDir::toNativeSeparators(ruta));
 }
 
+/// Puts what was written on the disk for good; where that cannot be asked for, it is not missed.
+static bool sincronizado(int descriptor)
+{
+#ifdef Q_OS_UNIX
+    return ::fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP;
+#else
+    return ::_commit(descriptor) == 0;
+#endif
+}
+
+/// Whether the file is whole under its name; asked where its folder could not be made safe.
+static bool estaEnDisco(const QString &ruta, const QByteArray &contenido)
+{
+    QFile escrito(ruta);
+    return escrito.open(QIODevice::ReadOnly) && escrito.readAll() == contenido;
+}
+
+static bool carpetaSincronizada([[maybe_unused]] const QString &carpeta)
+{
+#ifdef Q_OS_UNIX
+    const int descriptor = ::open(QFile::encodeName(carpeta).constData(), O_RDONLY | O_CLOEXEC);
+    const bool bien = descriptor >= 0 && sincronizado(descriptor);
+    if (descriptor >= 0)
+        ::close(descriptor);
+    return bien;
+#else
+    return true;
+#endif
+}
+
 QString guardarPdf(const QString &ruta, const QByteArray &contenido)
 {
+    if (const QString rechazo = motivoRutaRechazada(ruta); !rechazo.isEmpty())
+        return rechazo;
     const QString carpeta = QFileInfo(ruta).absolutePath();
     if (!QFileInfo::exists(carpeta))
         return motivo(Msj::FalloNoExiste, carpeta);
     QSaveFile fichero(ruta);
     if (!fichero.open(QIODevice::WriteOnly))
         return motivo(Msj::FalloSoloLectura, ruta);
-    const bool escrito = fichero.write(contenido) == contenido.size() && fichero.commit();
-    if (escrito)
+    const bool escrito = fichero.write(contenido) == contenido.size() && fichero.flush()
+        && sincronizado(fichero.handle()) && fichero.commit();
+    if (escrito && (carpetaSincronizada(carpeta) || estaEnDisco(ruta, contenido)))
         return {};
     const bool sinEspacio = fichero.error() == QFileDevice::ResourceError
         || QStorageInfo(carpeta).bytesAvailable() < contenido.size();
     return motivo(sinEspacio ? Msj::FalloSinEspacio : Msj::FalloLecturaEscritura, ruta);
+}
+
+QString motivoRutasRechazadas(const QStringList &rutas)
+{
+    for (const QString &ruta : rutas)
+        if (const QString rechazo = motivoRutaRechazada(ruta); !rechazo.isEmpty())
+            return rechazo;
+    return {};
 }
 
 QStringList rutasPdf(const QString &ruta, const QStringList &copias, bool unoSolo)
@@ -82,6 +163,8 @@ QStringList rutasPdf(const QString &ruta, const QStringList &copias, bool unoSol
 
 QString guardarPdfs(TrabajoImpresion &trabajo, const QStringList &rutas)
 {
+    if (const QString rechazo = motivoRutasRechazadas(rutas); !rechazo.isEmpty())
+        return rechazo;
     const QStringList copias = trabajo.copias();
     QList<QByteArray> documentos;
     for (qsizetype i = 0; i < rutas.size(); ++i) {

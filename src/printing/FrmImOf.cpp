@@ -12,12 +12,14 @@
 #include "printing/cImOf.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/CajaFecha.h"
+#include "widgets/Disposicion.h"
 #include "widgets/Mensajes.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QDate>
 #include <QGroupBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -41,6 +43,8 @@ template <class Control> static Control *crear(const QString &nombre, QWidget *p
 
 FrmImOf::FrmImOf(QWidget *padre)
     : PantallaBase(u"FrmImOf"_s, padre)
+    , m_lblDeclaracion(nuevaEtiqueta(u"lblDeclaracion"_s, this))
+    , m_lblImpresora(nuevaEtiqueta(u"lblImpresora"_s, this))
     , m_frameTipo(crear<QGroupBox>(u"frameTipoImpreso"_s, this))
     , m_opt(new QButtonGroup(this))
     , m_fraDestinatario(crear<QGroupBox>(u"fraDestinatario"_s, this))
@@ -92,9 +96,15 @@ void FrmImOf::disponer()
     m_btnCancelar = pie->anadir(u"btnCancelar"_s, u"Piccan"_s, Icono::Cancelar);
 
     auto *todo = new QVBoxLayout(this);
+    agrandarLetra(m_lblDeclaracion, 1.1);
+    m_lblDeclaracion->setWordWrap(true);
+    todo->addWidget(m_lblDeclaracion);
     todo->addWidget(m_frameTipo);
     todo->addWidget(m_fraDestinatario);
     todo->addWidget(m_fraFecha);
+    // the name of a file may be long: it never widens the screen
+    m_lblImpresora->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    todo->addWidget(m_lblImpresora);
     todo->addWidget(salidas);
     todo->addWidget(m_chkUnPdf);
     todo->addStretch(1);
@@ -136,6 +146,20 @@ void FrmImOf::Anadir_captions()
     m_btnCancelar->setText(msj(Msj::BotonCancelar));
     m_btnAceptar->setToolTip(msj(Msj::PistaImprimirCopias));
     m_btnCancelar->setToolTip(msj(Msj::PistaCerrarSinImprimir));
+    mostrarQue();
+}
+
+/// Which return of whom, and where to.
+void FrmImOf::mostrarQue()
+{
+    const auto &cabecera = unico::la<cDecResumen>();
+    const int periodicidad
+        = peticion().MODELO() == Modelo480 ? PeriodicidadAnual : PeriodicidadMensual;
+    m_lblDeclaracion->setText(u"%1 %2 %3\n%4 - %5"_s.arg(
+        peticion().MODELO(), textoPeriodo(periodicidad, cabecera.PERIODO()),
+        QString::number(cabecera.EJERCICIO()), cabecera.DNI(), cabecera.NOMBRE()));
+    m_lblImpresora->setText(msj(Msj::ImpresoraElegida, m_salida.nombre()));
+    m_lblImpresora->setToolTip(m_salida.nombre());
 }
 
 void FrmImOf::cargarPeticion()
@@ -180,7 +204,10 @@ void FrmImOf::conectar()
             [this](bool marcada) { alMarcar(marcada, &cImOf::COPIAINT); });
     connect(m_chkAdministracion, &QCheckBox::toggled, this,
             [this](bool marcada) { alMarcar(marcada, &cImOf::COPIAADM); });
-    alPulsar(m_btnOpciones, [this] { m_salida.opciones(this); });
+    alPulsar(m_btnOpciones, [this] {
+        m_salida.opciones(this);
+        mostrarQue();
+    });
     alPulsar(m_btnVistaPrevia, [this] { vistaPrevia(); });
     alPulsar(m_btnGuardarPdf, [this] { guardarPdf(); });
     alPulsar(m_btnAceptar, [this] { imprimir(); });
@@ -207,16 +234,22 @@ bool FrmImOf::ValidarFecha()
 
 void FrmImOf::imprimir()
 {
-    if (!SalidaImpresora::hayImpresoras()) {
+    const bool aFichero = !m_salida.ficheros(copiasPedidas(peticion())).isEmpty();
+    if (!aFichero && !SalidaImpresora::hayImpresoras()) {
         mensajes::informacion(this, windowTitle(), msj(Msj::SinImpresoras));
         return;
     }
     if (!ValidarFecha())
         return;
+    TrabajoImpresion trabajo(peticion());
+    if (aFichero) {
+        if (guardarCopiasEn(this, trabajo, m_salida.ficheros(trabajo.copias())))
+            cerrarA(alCerrarMarco());
+        return;
+    }
     bool impreso = false;
     {
         const PunteroOcupado puntero;
-        TrabajoImpresion trabajo(peticion());
         impreso = m_salida.imprimir(trabajo);
     }
     if (impreso)
@@ -238,7 +271,8 @@ void FrmImOf::guardarPdf()
     if (!ValidarFecha())
         return;
     TrabajoImpresion trabajo(peticion());
-    guardarCopias(this, trabajo, m_chkUnPdf->isChecked());
+    if (guardarCopias(this, trabajo, m_chkUnPdf->isChecked()))
+        cerrarA(alCerrarMarco());
 }
 
 Pantalla FrmImOf::alCerrarMarco()

@@ -7,6 +7,7 @@ class CajaFecha;
 class QButtonGroup;
 class QCheckBox;
 class QGroupBox;
+class QLabel;
 class QRadioButton;
 class cImOf;
 
@@ -34,11 +35,14 @@ private:
 
     void alMarcar(bool marcada, void (cImOf::*propiedad)(const QString &));
     bool ValidarFecha();
+    void mostrarQue();
     void imprimir();
     void vistaPrevia();
     void guardarPdf();
 
     SalidaImpresora m_salida;
+    QLabel *m_lblDeclaracion;
+    QLabel *m_lblImpresora;
     QGroupBox *m_frameTipo;
     QButtonGroup *m_opt;
     QGroupBox *m_fraDestinatario;

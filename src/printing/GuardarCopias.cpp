@@ -7,8 +7,10 @@
 #include "widgets/Mensajes.h"
 #include "widgets/Procedimiento.h"
 
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QUrl>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -23,26 +25,66 @@ static bool aceptaSobrescribir(QWidget *pantalla, const QStringList &rutas)
                               msj(Msj::PreguntaSobreescribir));
 }
 
-void guardarCopias(QWidget *pantalla, TrabajoImpresion &trabajo, bool unoSolo)
+/// Where the last PDF of the session went.
+static QString &ultimaCarpeta()
+{
+    static QString carpeta = QDir::homePath();
+    return carpeta;
+}
+
+static void abrir(QWidget *pantalla, const QString &ruta)
+{
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(ruta)))
+        mensajes::aviso(pantalla, msj(Msj::GuardarPdf),
+                        msj(Msj::PdfNoSeAbre, QDir::toNativeSeparators(ruta)));
+}
+
+/// Tells what was saved, and opens it or its folder when the user wishes so.
+static void ofrecer(QWidget *pantalla, const QStringList &rutas)
+{
+    QStringList legibles;
+    for (const QString &ruta : rutas)
+        legibles += QDir::toNativeSeparators(ruta);
+    switch (mensajes::guardado(pantalla, msj(Msj::GuardarPdf),
+                               msj(Msj::PdfGuardado, legibles.join(u"\n"_s)))) {
+    case mensajes::Abrir::Fichero:
+        for (const QString &ruta : rutas)
+            abrir(pantalla, ruta);
+        break;
+    case mensajes::Abrir::Carpeta:
+        abrir(pantalla, QFileInfo(rutas.first()).absolutePath());
+        break;
+    case mensajes::Abrir::Nada:
+        break;
+    }
+}
+
+bool guardarCopias(QWidget *pantalla, TrabajoImpresion &trabajo, bool unoSolo)
 {
     const QStringList copias = trabajo.copias();
-    const QString titulo = msj(Msj::GuardarPdf);
-    const QString propuesta = QDir::home().filePath(trabajo.nombreFichero(copias));
+    const QDir carpeta(ultimaCarpeta());
+    const QString propuesta
+        = (carpeta.exists() ? carpeta : QDir::home()).filePath(trabajo.nombreFichero(copias));
     const QString elegida
-        = ficheros::guardar(pantalla, titulo, propuesta, msj(Msj::FiltroPdf), false);
-    if (elegida.isEmpty())
-        return;
-    const QStringList rutas = rutasPdf(elegida, copias, unoSolo);
-    if (!aceptaSobrescribir(pantalla, rutas))
-        return;
+        = ficheros::guardar(pantalla, msj(Msj::GuardarPdf), propuesta, msj(Msj::FiltroPdf), false);
+    return !elegida.isEmpty()
+        && guardarCopiasEn(pantalla, trabajo, rutasPdf(elegida, copias, unoSolo));
+}
 
-    QString motivo;
-    {
+bool guardarCopiasEn(QWidget *pantalla, TrabajoImpresion &trabajo, const QStringList &rutas)
+{
+    QString motivo = motivoRutasRechazadas(rutas);
+    if (motivo.isEmpty()) {
+        if (!aceptaSobrescribir(pantalla, rutas))
+            return false;
         const PunteroOcupado puntero;
         motivo = guardarPdfs(trabajo, rutas);
     }
-    if (motivo.isEmpty())
-        mensajes::informacion(pantalla, titulo, msj(Msj::PdfGuardado, rutas.join(u"\n"_s)));
-    else
-        mensajes::aviso(pantalla, titulo, motivo);
+    if (!motivo.isEmpty()) {
+        mensajes::aviso(pantalla, msj(Msj::GuardarPdf), motivo);
+        return false;
+    }
+    ultimaCarpeta() = QFileInfo(rutas.first()).absolutePath();
+    ofrecer(pantalla, rutas);
+    return true;
 }

@@ -183,7 +183,7 @@ constexpr Parte Partes[] = {
 
 void dibujar430(QPainter &pintor, const ValoresImpreso &impreso, QStringView copia)
 {
-    dibujarPartes(pintor, Partes, impreso, copia);
+    dibujarPartes(pintor, Partes, impreso, copia, BajoLaMarca::Papel);
 }
 
 } // namespace impreso

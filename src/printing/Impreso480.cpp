@@ -228,7 +228,7 @@ constexpr Parte Partes[] = {
 
 void dibujar480(QPainter &pintor, const ValoresImpreso &impreso, QStringView copia)
 {
-    dibujarPartes(pintor, Partes, impreso, copia);
+    dibujarPartes(pintor, Partes, impreso, copia, BajoLaMarca::Cifras);
 }
 
 } // namespace impreso

@@ -154,20 +154,24 @@ void hueco(Lienzo &lienzo, const Caja &caja, const Par &etiqueta)
 
 namespace {
 
+/// How much of the mark's colour covers what is under it.
+constexpr QRgb Opacidad = 0x58000000;
+constexpr QRgb OpacidadClara = 0x28000000;
+
 struct Marca
 {
     QStringView copia;
     QStringView euskera;
     QStringView castellano;
-    QRgb color; ///< translucent
+    QRgb color;
     double puntos;
 };
 
 constexpr Marca Marcas[] = {
     {CopiaAdministracion, u"ADMINISTRAZIOARENTZAKO ALEA", u"EJEMPLAR PARA LA ADMINISTRACIÓN",
-     0x581f4e8c, 12},
-    {CopiaInteresado, u"INTERESDUNARENTZAKO ALEA", u"EJEMPLAR PARA EL INTERESADO", 0x581c7a3e, 12},
-    {CopiaBorrador, u"ZIRRIBORROA", u"BORRADOR", 0x58b02318, 21},
+     0x1f4e8c, 12},
+    {CopiaInteresado, u"INTERESDUNARENTZAKO ALEA", u"EJEMPLAR PARA EL INTERESADO", 0x1c7a3e, 12},
+    {CopiaBorrador, u"ZIRRIBORROA", u"BORRADOR", 0xb02318, 21},
 };
 
 void sello(QPainter &pintor, const QRectF &lugar, const QColor &color)
@@ -182,14 +186,16 @@ void sello(QPainter &pintor, const QRectF &lugar, const QColor &color)
 } // namespace
 
 /// Stamps the mark of a copy at its place on the page, translucent, over what is there.
-static void dibujarMarca(Lienzo &lienzo, QStringView copia)
+static void dibujarMarca(Lienzo &lienzo, QStringView copia, BajoLaMarca bajo)
 {
     const auto marca = std::ranges::find(Marcas, copia, &Marca::copia);
     if (marca == std::end(Marcas))
         return;
+    const QRgb color
+        = (bajo == BajoLaMarca::Cifras ? OpacidadClara : Opacidad) | (marca->color & 0x00ffffff);
     lienzo.seccion(0);
-    sello(lienzo.pintor(), CajaMarca.rect(), QColor::fromRgba(marca->color));
-    lienzo.letra({Letra::Arial, marca->puntos, true, marca->color});
+    sello(lienzo.pintor(), CajaMarca.rect(), QColor::fromRgba(color));
+    lienzo.letra({Letra::Arial, marca->puntos, true, color});
     const Caja dentro = CajaMarca.dentro(4, 3.5);
     const double mitad = dentro.alto / 2;
     lienzo.texto({dentro.x, dentro.y, dentro.ancho, mitad}, marca->euskera.toString(),
@@ -199,14 +205,14 @@ static void dibujarMarca(Lienzo &lienzo, QStringView copia)
 }
 
 void dibujarPartes(QPainter &pintor, std::span<const Parte> partes, const ValoresImpreso &impreso,
-                   QStringView copia)
+                   QStringView copia, BajoLaMarca bajo)
 {
     Lienzo lienzo(pintor);
     for (const Parte &parte : partes) {
         lienzo.seccion(parte.arriba);
         parte.dibujar(lienzo, impreso);
     }
-    dibujarMarca(lienzo, copia);
+    dibujarMarca(lienzo, copia, bajo);
 }
 
 } // namespace impreso

@@ -66,8 +66,10 @@ struct Parte
     void (*dibujar)(Lienzo &, const ValoresImpreso &);
 };
 
-/// Draws the parts of a form on one page and stamps the mark of `copia` (cImOf.h) over them.
+/// Draws the parts of a form on one page and stamps the mark of `copia` (cImOf.h) over them,
+/// lighter where it lies over figures.
+enum class BajoLaMarca { Papel, Cifras };
 void dibujarPartes(QPainter &pintor, std::span<const Parte> partes, const ValoresImpreso &impreso,
-                   QStringView copia);
+                   QStringView copia, BajoLaMarca bajo);
 
 } // namespace impreso

@@ -1,14 +1,17 @@
 #include "printing/SalidaImpresora.h"
 
 #include "core/Textos.h"
+#include "printing/DocumentoPdf.h"
 #include "printing/TrabajoImpresion.h"
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QDir>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -35,7 +38,15 @@ bool SalidaImpresora::elegir(const QString &nombre)
 
 QString SalidaImpresora::nombre() const
 {
-    return m_impresora->printerName();
+    if (!m_impresora->outputFileName().isEmpty())
+        return QDir::toNativeSeparators(m_impresora->outputFileName());
+    return hayImpresoras() ? m_impresora->printerName() : msj(Msj::NingunaImpresora);
+}
+
+QStringList SalidaImpresora::ficheros(const QStringList &copias) const
+{
+    const QString elegido = m_impresora->outputFileName();
+    return elegido.isEmpty() ? QStringList() : rutasPdf(elegido, copias, false);
 }
 
 void SalidaImpresora::preparar(const TrabajoImpresion &trabajo)
@@ -53,14 +64,28 @@ void SalidaImpresora::opciones(QWidget *padre)
     dialogo.exec();
 }
 
-/// Printing from the preview would make one document of all the copies, and the forms have one page
-/// shape only. The dialogue's actions can only be told apart by their texts.
-static void ocultarOrdenesAjenas(QPrintPreviewDialog &dialogo)
+/// The action with this text of Qt's, which has no other name.
+static QAction *accion(const QPrintPreviewDialog &dialogo, const char *texto)
 {
-    for (const char *texto : {"Print", "Page setup", "Portrait", "Landscape"})
-        for (QAction *accion : dialogo.findChildren<QAction *>())
-            if (accion->text() == QCoreApplication::translate("QPrintPreviewDialog", texto))
-                accion->setVisible(false);
+    const QString traducido = QCoreApplication::translate("QPrintPreviewDialog", texto);
+    for (QAction *accion : dialogo.findChildren<QAction *>())
+        if (accion->text() == traducido)
+            return accion;
+    return nullptr;
+}
+
+/// Printing from the preview would make one document of all the copies, and the forms have one page
+/// shape only. A page is read at the width of a window that takes most of the screen.
+static void prepararVistaPrevia(QPrintPreviewDialog &dialogo)
+{
+    for (const char *ajena : {"Print", "Page setup", "Portrait", "Landscape"})
+        if (QAction *orden = accion(dialogo, ajena))
+            orden->setVisible(false);
+    const QRect libre = dialogo.screen()->availableGeometry();
+    dialogo.resize(libre.size() * 0.9);
+    dialogo.move(libre.center() - dialogo.rect().center());
+    if (QAction *ancho = accion(dialogo, "Fit width"))
+        ancho->trigger();
 }
 
 void SalidaImpresora::vistaPrevia(QWidget *padre, TrabajoImpresion &trabajo)
@@ -69,7 +94,7 @@ void SalidaImpresora::vistaPrevia(QWidget *padre, TrabajoImpresion &trabajo)
     QPrintPreviewDialog dialogo(m_impresora.get(), padre);
     dialogo.setObjectName(u"vistaPrevia"_s);
     dialogo.setWindowTitle(msj(Msj::VistaPrevia));
-    ocultarOrdenesAjenas(dialogo);
+    prepararVistaPrevia(dialogo);
     QObject::connect(&dialogo, &QPrintPreviewDialog::paintRequested, &dialogo,
                      [&](QPrinter *impresora) { trabajo.paginas(*impresora, trabajo.copias()); });
     dialogo.exec();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -22,7 +22,11 @@ public:
 
     /// Chooses an installed printer by name; false when there is none called so.
     bool elegir(const QString &nombre);
+    /// What is printed on, for the user: the printer, the file chosen in its place, or "none".
     QString nombre() const;
+    /// The files that are printed to where the printer's options say so, one a copy; none for a
+    /// printer of paper.
+    QStringList ficheros(const QStringList &copias) const;
 
     /// The platform's printer dialogue.
     void opciones(QWidget *padre);

@@ -62,6 +62,21 @@ bool pregunta(QWidget *padre, const QString &titulo, const QString &texto)
         == QMessageBox::Yes;
 }
 
+Abrir guardado(QWidget *padre, const QString &titulo, const QString &texto)
+{
+    switch (mostrar(padre, QMessageBox::Information, titulo, texto,
+                    {{QMessageBox::Open, Msj::BotonAbrirPdf},
+                     {QMessageBox::Apply, Msj::BotonAbrirCarpeta},
+                     {QMessageBox::Ok, Msj::BotonAceptar}})) {
+    case QMessageBox::Open:
+        return Abrir::Fichero;
+    case QMessageBox::Apply:
+        return Abrir::Carpeta;
+    default:
+        return Abrir::Nada;
+    }
+}
+
 Sustituir sustituir(QWidget *padre, const QString &titulo, const QString &texto)
 {
     switch (mostrar(padre, QMessageBox::Question, titulo, texto,

@@ -17,6 +17,10 @@ void informacion(QWidget *padre, const QString &titulo, const QString &texto); /
 /// Yes or no, "No" being the default button and Escape; true for yes.
 bool pregunta(QWidget *padre, const QString &titulo, const QString &texto);
 
+/// Tells that a file was saved: the user may open it, or its folder.
+enum class Abrir { Nada, Fichero, Carpeta };
+Abrir guardado(QWidget *padre, const QString &titulo, const QString &texto);
+
 /// Whether what is stored is to be replaced (Yes), kept (No), or neither for now, which is the
 /// default button and Escape.
 enum class Sustituir { Si, No, Cancelar };
