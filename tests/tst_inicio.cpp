@@ -31,6 +31,7 @@ public:
     void mdbmod(const QString &) override {}
     void mdbPath(const QString &) override {}
     bool Traspaso() override { return true; }
+    void Comprobar() override {}
 };
 
 } // namespace

@@ -64,6 +64,17 @@ private Q_SLOTS:
         QCOMPARE(tipos, anuales);
     }
 
+    /// More rates than an annual return has bands are told, none is dropped.
+    void tiposDeMas()
+    {
+        SQLite::Database(m_servidor->lectura().toStdString(), SQLite::OPEN_READWRITE)
+            .exec("INSERT INTO T09_TIPOS VALUES (202703, 900), (202707, 915)");
+        const auto objeto = m_servidor->generales(m_servidor->lectura());
+        Registro tipos{1.0F};
+        QCOMPARE(falloDe([&] { objeto->ObtenerTipoAnual(tipos, 2027); }), Fallo::TiposDeMas);
+        QCOMPARE(tipos, Registro{1.0F});
+    }
+
     void nombres()
     {
         const auto objeto = m_servidor->generales(m_servidor->lectura());

@@ -58,11 +58,11 @@ private Q_SLOTS:
             objeto->ValidarDatosComunes({2026, 1, 3, 2002, 1, 2030, 12, u"430"_s, m_declarante}),
             5);
         QCOMPARE(falloDe([&] { objeto->Guardar430(ServidorPrueba::datos430(999, 2026, 1, 1.0)); }),
-                 Fallo::NoEncontrado);
+                 Fallo::SinDeclarante);
         QCOMPARE(falloDe([&] {
                      objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2026, 3, 1.0, 999));
                  }),
-                 Fallo::NoEncontrado);
+                 Fallo::SinDeclaracion);
     }
 
     /// Another mark after each change of a figure, the same while nothing changed.
@@ -162,13 +162,13 @@ private Q_SLOTS:
 
         const auto objeto = m_servidor->declaraciones();
         QCOMPARE(falloDe([&] { objeto->BorrarDatosNoComunes(clave, u"430"_s); }),
-                 Fallo::NoEncontrado);
+                 Fallo::SinDeclaracion);
         QVERIFY_EXCEPTION_THROWN(objeto->BorrarDeclaracion(clave), std::logic_error);
         objeto->BorrarDatosNoComunes(clave, u"480"_s);
         objeto->BorrarDeclaracion(clave);
         QCOMPARE(importes(), QVariantList());
         QCOMPARE(contadores(), (QVariantList{0.0, 0.0}));
-        QCOMPARE(falloDe([&] { objeto->Cargar480(clave, figuras); }), Fallo::NoEncontrado);
+        QCOMPARE(falloDe([&] { objeto->Cargar480(clave, figuras); }), Fallo::SinDeclaracion);
     }
 
 private:

@@ -49,6 +49,12 @@ private Q_SLOTS:
         QCOMPARE(objeto->GuardarDeclarante(registro), 2);
         registro[RegDeclarante::CSCO] = ana;
         QCOMPARE(objeto->GuardarDeclarante(registro), 0);
+        Registro sinDni = registro;
+        sinDni[RegDeclarante::DNI] = u"  "_s;
+        QCOMPARE(objeto->GuardarDeclarante(sinDni), 3);
+        Registro cuatroCifras = registro;
+        cuatroCifras[RegDeclarante::CODMUN] = u"1001"_s;
+        QCOMPARE(objeto->GuardarDeclarante(cuatroCifras), 3);
         Filas filas;
         QCOMPARE(objeto->dameResultado(filas, 2, 0), 2);
         QCOMPARE(columna(filas, FilaDeclarante::NOMBRE), (QVariantList{u"EVA"_s, u"OTRA"_s}));
@@ -107,10 +113,10 @@ private Q_SLOTS:
         declaraciones->BorrarDeclaracion(CSDE);
         objeto->BorrarDeclarante(clave);
         QCOMPARE(objeto->ObtenerCodigoDeclarante(u"12345678Z"_s), 0);
-        QCOMPARE(falloDe([&] { objeto->BorrarDeclarante(clave); }), Fallo::NoEncontrado);
+        QCOMPARE(falloDe([&] { objeto->BorrarDeclarante(clave); }), Fallo::SinDeclarante);
         Registro registro{1};
         qint32 otra = clave;
-        QCOMPARE(falloDe([&] { objeto->CargarDeclarante(otra, registro); }), Fallo::NoEncontrado);
+        QCOMPARE(falloDe([&] { objeto->CargarDeclarante(otra, registro); }), Fallo::SinDeclarante);
         QCOMPARE(registro, Registro{1});
     }
 

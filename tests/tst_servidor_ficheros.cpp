@@ -10,15 +10,19 @@
 #include <QtEndian>
 
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <filesystem>
+#include <sqlite3.h>
 
 #ifdef Q_OS_LINUX
 #include <csignal>
 #include <sys/fsuid.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
 
 using namespace Qt::StringLiterals;
-#endif
 
 namespace {
 
@@ -52,15 +56,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("caso");
         QTest::addColumn<bool>("esDatos");
         QTest::addColumn<Fallo>("fallo");
-        const std::initializer_list<std::pair<const char *, Fallo>> casos{
-            {"empty", Fallo::Danada},   {"truncated", Fallo::Danada}, {"short", Fallo::Danada},
-            {"text", Fallo::Danada},    {"random", Fallo::Danada},    {"damaged", Fallo::Danada},
-            {"foreign", Fallo::Ajena},  {"unnamed", Fallo::Ajena},    {"swapped", Fallo::Ajena},
-            {"newer", Fallo::MasNueva},
-        };
+        for (const char *caso : {"empty", "truncated", "short", "text", "random", "damaged"})
+            QTest::addRow("%s", caso) << QString::fromUtf8(caso) << true << Fallo::Danada;
         for (const bool esDatos : {true, false})
-            for (const auto &[caso, fallo] : casos)
-                QTest::addRow("%s %s", caso, esDatos ? "model" : "lookup")
+            for (const auto &[caso, fallo] : {std::pair{"foreign", Fallo::Ajena},
+                                              {"unnamed", Fallo::Ajena},
+                                              {"swapped", Fallo::Ajena},
+                                              {"newer", Fallo::MasNueva}})
+                QTest::addRow("%s %s", caso, esDatos ? "data" : "lookup")
                     << QString::fromUtf8(caso) << esDatos << fallo;
     }
     void rechazados()
@@ -76,15 +79,185 @@ private Q_SLOTS:
         QString objeto;
         try {
             m_servidor->traspaso();
+            m_servidor->comprobar();
         } catch (const ErrorDatos &error) {
             objeto = error.objeto();
             QCOMPARE(error.fallo(), fallo);
         }
         QCOMPARE(objeto, ruta);
         QVERIFY(falloDe([&] { usar(); }));
+        if (esDatos) // found by the first write too, where nobody has looked before
+            QCOMPARE(falloDe([&] { m_servidor->alta(u"00000000T"_s, u"EVA"_s); }), fallo);
         QCOMPARE(bytes(ruta), malo);
         QVERIFY(QFile::exists(otra));
         QCOMPARE(QDir(m_servidor->carpeta()).entryList(QDir::Files).size(), 2);
+    }
+
+    /// What is made from our own texts is made again when it is not what they say.
+    void lecturaSeRenueva()
+    {
+        const QString ruta = m_servidor->lectura();
+        const QByteArray buena = bytes(ruta);
+        const auto leida = [&] {
+            QVERIFY(!m_servidor->traspaso());
+            const auto objeto = m_servidor->generales(ruta);
+            QCOMPARE(objeto->ObtenerTipoImpositivo(2026, 1), 8.0F);
+            QCOMPARE(objeto->URLAct(), u"https://www.varlenda.example/ostrel/version"_s);
+        };
+        for (const char *caso : {"empty", "truncated", "short", "text", "random", "damaged"}) {
+            escribir(ruta, estropeado(QString::fromUtf8(caso), buena, {}));
+            leida();
+        }
+        for (const char *sql :
+             {"UPDATE T09_TIPOS SET T09_TIPO = 60 WHERE T09_TIPO = 800", "DELETE FROM T08_GENERAL",
+              "DROP TABLE T07_SIGLASVIA", "PRAGMA user_version = 0",
+              "INSERT INTO T09_TIPOS VALUES (202207, 1)"}) {
+            escribir(ruta, buena);
+            otroPrograma(ruta).exec(sql);
+            leida();
+        }
+        const auto escrita = QFileInfo(ruta).lastModified();
+        leida();
+        QCOMPARE(QFileInfo(ruta).lastModified(), escrita);
+    }
+
+    /// A link to a place that is not there stays a link: a share may be mounted later.
+    void enlaceRoto()
+    {
+        for (const QString &ruta : {m_servidor->datos(), m_servidor->lectura()}) {
+            const QByteArray bueno = bytes(ruta);
+            QVERIFY(QFile::remove(ruta) && QFile::link(u"/no/hay/nada.mdb"_s, ruta));
+            QCOMPARE(falloDe([&] { m_servidor->traspaso(); }), Fallo::EnlaceRoto);
+            QCOMPARE(QFileInfo(ruta).symLinkTarget(), u"/no/hay/nada.mdb"_s);
+            QVERIFY(QFile::remove(ruta));
+            escribir(ruta, bueno);
+        }
+    }
+
+    /// The journal of a crash is played back into its own file, and into no other one.
+    void diarioDeUnCorte()
+    {
+        const QString ruta = m_servidor->datos();
+        const QString diario = ruta + u"-journal"_s;
+        copiador(true)->CrearBackup();
+        const QByteArray copia = bytes(copiasCarpeta() + u"/OstrMod_bak.mdb"_s);
+        for (int i = 0; i < 3; ++i)
+            m_servidor->alta(u"D%1"_s.arg(i), u"N"_s);
+        QByteArray cortado;
+        QByteArray suDiario;
+        {
+            auto otro = otroPrograma(ruta);
+            otro.exec("PRAGMA cache_size = 2; BEGIN");
+            otro.exec("UPDATE DECLARANTES SET NOMBRE = 'A MEDIAS'");
+            otro.exec(
+                "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 900)"
+                " INSERT INTO DECLARANTES (DNI, NOMBRE, CLAVE, VIA, DOMICILIO, NUMERO, LETRA,"
+                " ESCALERA, PISO, MANO, CODPROV, CODPOS, CODMUN, NOMMUN, TELEFONO)"
+                " SELECT 'X' || i, 'N', 'N', '', '', 0, '', '', '', '', 20, '', 1, '', ''"
+                " FROM n");
+            cortado = bytes(ruta);
+            suDiario = bytes(diario);
+        }
+        const auto preparar = [&](const QByteArray &base) {
+            escribir(ruta, base);
+            escribir(diario, suDiario);
+            return falloDe([&] { m_servidor->traspaso(); });
+        };
+        const auto nombres = [&] {
+            Filas filas;
+            m_servidor->declarantes()->dameResultado(filas, 1, 0);
+            return QVariant(columna(filas, FilaDeclarante::NOMBRE)).toStringList().join(u' ');
+        };
+        const auto apartados = [&] {
+            return QDir(m_servidor->carpeta()).entryList({u"*-journal.*"_s}, QDir::Files).size();
+        };
+        QCOMPARE(preparar(cortado), std::nullopt);
+        QCOMPARE(nombres(), u"ANA N N N"_s);
+        QVERIFY(apartados() == 0 && !QFile::exists(diario));
+        QCOMPARE(preparar(copia), std::nullopt);
+        QCOMPARE(nombres(), u"ANA"_s);
+        QVERIFY(apartados() == 1 && !QFile::exists(diario));
+        QByteArray mala = copia;
+        mala.replace(4096, 4096, QByteArray(4096, 'z'));
+        QCOMPARE(preparar(mala), Fallo::Danada);
+        QCOMPARE(bytes(ruta), mala);
+        QCOMPARE(bytes(diario), suDiario);
+    }
+
+    /// While another program writes its journal is no leftover.
+    void diarioDeOtroPrograma()
+    {
+        auto otro = otroPrograma(m_servidor->datos());
+        otro.exec("BEGIN IMMEDIATE; UPDATE DECLARANTES SET NOMBRE = 'OTRA'");
+        QVERIFY(!m_servidor->traspaso());
+        otro.exec("COMMIT");
+        Filas filas;
+        m_servidor->declarantes()->dameResultado(filas, 1, 0);
+        QCOMPARE(columna(filas, FilaDeclarante::NOMBRE), QVariantList{u"OTRA"_s});
+    }
+
+    /// Started at the same moment on an empty folder, each keeps what it saves.
+    void variosALaVez()
+    {
+#ifdef Q_OS_LINUX
+        const ServidorPrueba nuevo;
+        constexpr int Programas = 12;
+        for (int i = 0; i < Programas; ++i)
+            if (::fork() == 0) {
+                bool bien = false;
+                for (int intento = 0; intento < 40 && !bien; ++intento)
+                    bien = falloDe([&] {
+                               nuevo.traspaso();
+                               nuevo.alta(u"D%1"_s.arg(i), u"N"_s);
+                           }).value_or(Fallo::NoExiste)
+                        != Fallo::EnUso;
+                ::_exit(0);
+            }
+        for (int i = 0; i < Programas; ++i)
+            QVERIFY(::wait(nullptr) > 0);
+        QCOMPARE(nuevo.generales(nuevo.datos())->NumeroDeclarantes(), Programas);
+        QCOMPARE(QDir(nuevo.carpeta()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+#else
+        QSKIP("needs processes that split");
+#endif
+    }
+
+    /// The journal is gone and the save in the file; only the folder could not be synced.
+    void ultimaSincronizacion()
+    {
+        auto *sistema = sqlite3_vfs_find(nullptr);
+        sqlite3_vfs averiado = *sistema;
+        averiado.zName = "broken";
+        averiado.xDelete = [](sqlite3_vfs *, const char *nombre, int sincronizar) {
+            const int resultado
+                = sqlite3_vfs_find("unix")->xDelete(sqlite3_vfs_find("unix"), nombre, 0);
+            return resultado == SQLITE_OK && sincronizar ? SQLITE_IOERR_DIR_FSYNC : resultado;
+        };
+        QCOMPARE(sqlite3_vfs_register(&averiado, 1), SQLITE_OK);
+        const auto vuelta = qScopeGuard([&] {
+            sqlite3_vfs_unregister(&averiado);
+            sqlite3_vfs_register(sistema, 1);
+        });
+        const ServidorPrueba nuevo;
+        QVERIFY(!nuevo.traspaso());
+        QCOMPARE(falloDe([&] { nuevo.alta(u"12345678Z"_s, u"ANA"_s); }), std::nullopt);
+        QCOMPARE(nuevo.generales(nuevo.datos())->NumeroDeclarantes(), 1);
+    }
+
+    /// Each kind of error by what it is.
+    void motivos()
+    {
+        const auto guardar = [&] { m_servidor->alta(u"00000000T"_s, u"EVA"_s); };
+        const auto hecho = [&](const char *sql) { otroPrograma(m_servidor->datos()).exec(sql); };
+        hecho("CREATE TRIGGER T BEFORE INSERT ON DECLARANTES BEGIN SELECT RAISE(ABORT, 'no'); END");
+        QCOMPARE(falloDe(guardar), Fallo::Restriccion);
+        hecho("DROP TABLE DECLARANTES");
+        QCOMPARE(falloDe(guardar), Fallo::Incompleta);
+        otroPrograma(m_servidor->lectura()).exec("DELETE FROM T08_GENERAL");
+        Registro limites;
+        const auto general = m_servidor->generales(m_servidor->lectura());
+        QCOMPARE(falloDe([&] { general->DameEjerPerMinMax(limites); }), Fallo::Incompleta);
+        QCOMPARE(falloDe([&] { general->URLAct(); }), Fallo::Incompleta);
     }
 
     void faltante()
@@ -94,20 +267,6 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(m_servidor->datos()));
         QVERIFY(!m_servidor->traspaso());
         QCOMPARE(m_servidor->generales(m_servidor->datos())->NumeroDeclarantes(), 0);
-    }
-
-    void consultaAnteriorSeRenueva()
-    {
-        using namespace servidor;
-        const QString ruta = m_servidor->lectura();
-        otroPrograma(ruta).exec("UPDATE T08_GENERAL SET T08_URLACT = 'old'");
-        prepararLectura(ruta);
-        QCOMPARE(m_servidor->generales(ruta)->URLAct(), u"old"_s);
-        const Formato nuevo{FormatoLectura.aplicacion, FormatoLectura.esquema + 1, true};
-        prepararLectura(ruta, nuevo);
-        QCOMPARE(comprobarCabecera(ruta, nuevo, Version::Actual), nuevo.esquema);
-        auto base = otroPrograma(ruta);
-        QVERIFY(base.execAndGet("SELECT T08_URLACT FROM T08_GENERAL").getString() != "old");
     }
 
     void bloqueado()
@@ -141,6 +300,13 @@ private Q_SLOTS:
         QCOMPARE(m_servidor->declarantes()->dameResultado(filas, 1, 0), 1);
         QCOMPARE(falloDe([&] { m_servidor->alta(u"00000000T"_s, u"EVA"_s); }), Fallo::SoloLectura);
         QCOMPARE(m_servidor->declarantes()->dameResultado(filas, 1, 0), 1);
+        // made writable again, it is written without more ado
+        ::setfsuid(static_cast<uid_t>(yo));
+        ::chmod(carpeta.constData(), 0777);
+        ::chmod(QFile::encodeName(m_servidor->datos()).constData(), 0666);
+        ::setfsuid(65534);
+        QCOMPARE(falloDe([&] { m_servidor->alta(u"00000000T"_s, u"EVA"_s); }), std::nullopt);
+        QCOMPARE(m_servidor->declarantes()->dameResultado(filas, 1, 0), 2);
 #else
         QSKIP("needs the modes of a POSIX file system");
 #endif

@@ -61,6 +61,7 @@ private Q_SLOTS:
         caso("all zero", CODPOS, "00000", 8);
         caso("municipality code", CODMUN, "", 9);
         caso("municipality 000", CODMUN, "000", 9);
+        caso("municipality of four figures", CODMUN, "0001", 9);
         caso("municipality name", NOMMUN, "", 10);
         caso("eight figures", TELEFONO, "94312345", 11);
         caso("no telephone", TELEFONO, "", 12);
@@ -131,6 +132,8 @@ private Q_SLOTS:
         QTest::newRow("month before") << 2002 << 2 << m430 << 4;
         QTest::newRow("month after") << 2030 << 11 << m430 << 4;
         QTest::newRow("month 13") << 2026 << 13 << m430 << 4;
+        QTest::newRow("before Christ") << -1 << 5 << m430 << 4;
+        QTest::newRow("annual in May") << 2026 << 5 << u"480"_s << 2;
     }
     void cabecera()
     {
@@ -138,7 +141,8 @@ private Q_SLOTS:
         QFETCH(int, periodo);
         QFETCH(QString, modelo);
         QFETCH(int, codigo);
-        Registro datos{ejercicio, 1, periodo, 2002, 3, 2030, 10};
+        const int periodicidad = modelo == u"480" ? 2 : 1;
+        Registro datos{ejercicio, periodicidad, periodo, 2002, 3, 2030, 10};
         const auto objeto = m_servidor.declaraciones();
         QCOMPARE(objeto->EjerPerValidos(datos), codigo == 0 || codigo == 3);
         datos += QVariantList{modelo, 1};

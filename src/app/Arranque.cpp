@@ -56,7 +56,7 @@ std::unique_ptr<MDIOstrel> Arranque::iniciar()
     const auto sesion = prepararSesion();
     if (sesion.terminar)
         return nullptr;
-    contarFallos(sesion.fallos);
+    contarFallos(sesion.textos());
     if (sesion.primeraVez())
         elegirIdioma();
     mostrarInicio();

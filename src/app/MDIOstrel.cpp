@@ -6,6 +6,7 @@
 #include "app/Recientes.h"
 #include "app/Version.h"
 #include "core/CEntrada.h"
+#include "core/Sesion.h"
 #include "core/Unico.h"
 #include "declarants/cDecDatos.h"
 #include "declarants/cDecLista.h"
@@ -174,6 +175,8 @@ void MDIOstrel::alCambiarDatos()
 
 void MDIOstrel::actualizarEstados()
 {
+    if (completarSesion())
+        CambiarIdioma();
     Situacion situacion;
     situacion.editando = m_pantallas->editando();
     try {

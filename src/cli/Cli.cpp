@@ -67,7 +67,7 @@ static Resultado enSesion(const Orden &orden, const Argumentos &argumentos)
         return rechazado(msj(Msj::CliCarpetaNoExiste, rutas().programa));
     const InicioSesion inicio = iniciarSesion();
     if (inicio.terminar || !inicio.fallos.isEmpty())
-        return rechazado(inicio.fallos.join(u'\n'));
+        return rechazado(inicio.textos().join(u'\n'));
     try {
         return orden.ejecutar(argumentos);
     } catch (...) {

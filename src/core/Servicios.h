@@ -1,7 +1,10 @@
 #pragma once
 
 #include "core/Rutas.h"
+#include "dataservice/ErrorDatos.h"
 #include "dataservice/SvrOstr.h"
+
+#include <utility>
 
 /// New service objects with the session's database paths set. Each is for one call.
 
@@ -31,4 +34,19 @@ inline std::unique_ptr<SvrOstr::cDeclaracion> servicioDeclaracion()
     auto servicio = servicio::crear<SvrOstr::cDeclaracion>();
     servicio->mdbname(rutas().datos);
     return servicio;
+}
+
+/// Runs a call about one declarant or return; when that is not stored any more, the failure tells
+/// it by `nombre`.
+template <class F> decltype(auto) nombrando(const QString &nombre, F &&f)
+{
+    try {
+        return std::forward<F>(f)();
+    } catch (const ErrorDatos &error) {
+        const bool falta
+            = error.fallo() == Fallo::SinDeclarante || error.fallo() == Fallo::SinDeclaracion;
+        if (!falta || !error.objeto().isEmpty())
+            throw;
+        throw ErrorDatos(error.fallo(), nombre);
+    }
 }

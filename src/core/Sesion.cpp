@@ -7,18 +7,39 @@
 
 #include <functional>
 
-/// Runs a step; a failure is noted once, however many steps it spoils.
+static bool pendiente = false; // the settings could not be read yet
+
+/// Runs a step; what it fails with is kept.
 static bool intentar(InicioSesion &inicio, const std::function<void()> &paso)
 {
     try {
         paso();
         return true;
     } catch (...) {
-        const QString fallo = textoFalloActual();
-        if (!inicio.fallos.contains(fallo))
-            inicio.fallos.append(fallo);
+        inicio.fallos.append(std::current_exception());
         return false;
     }
+}
+
+QStringList InicioSesion::textos() const
+{
+    QStringList frases;
+    for (const auto &fallo : fallos)
+        try {
+            std::rethrow_exception(fallo);
+        } catch (...) {
+            frases += textoFalloActual();
+        }
+    frases.removeDuplicates(); // one file spoils several steps
+    return frases;
+}
+
+static std::unique_ptr<SvrOstr::cTraspaso> servicioTraspaso()
+{
+    auto traspaso = servicio::crear<SvrOstr::cTraspaso>();
+    traspaso->mdbmod(rutas().datos);
+    traspaso->mdbPath(rutas().tablas);
+    return traspaso;
 }
 
 bool InicioSesion::primeraVez() const
@@ -29,12 +50,7 @@ bool InicioSesion::primeraVez() const
 InicioSesion iniciarSesion()
 {
     InicioSesion inicio;
-    intentar(inicio, [&] {
-        auto traspaso = servicio::crear<SvrOstr::cTraspaso>();
-        traspaso->mdbmod(rutas().datos);
-        traspaso->mdbPath(rutas().tablas);
-        inicio.terminar = traspaso->Traspaso();
-    });
+    intentar(inicio, [&] { inicio.terminar = servicioTraspaso()->Traspaso(); });
     if (!inicio.terminar)
         leerSesion(inicio);
     return inicio;
@@ -47,4 +63,20 @@ void leerSesion(InicioSesion &inicio)
     intentar(inicio, [&] { entrada.LeerEjercicioPeriodoMinMax(); });
     inicio.ajustesLeidos = intentar(inicio, [&] { entrada.LeerIdioma(); });
     entrada.AplicarIdioma();
+    pendiente = !inicio.ajustesLeidos;
+}
+
+bool completarSesion()
+{
+    if (!pendiente)
+        return false;
+    const Idioma antes = idiomaSesion();
+    InicioSesion inicio;
+    leerSesion(inicio);
+    return !pendiente && idiomaSesion() != antes;
+}
+
+void comprobarDatos()
+{
+    servicioTraspaso()->Comprobar();
 }

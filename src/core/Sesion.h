@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QList>
 #include <QStringList>
+
+#include <exception>
 
 /// Preparation of the session's data, the same for the window and the command line. The paths
 /// (Rutas.h) must be set.
@@ -8,7 +11,10 @@ struct InicioSesion
 {
     bool terminar = false; ///< the data service asks the program to end, without a message
     bool ajustesLeidos = false; ///< the stored settings could be read
-    QStringList fallos; ///< what could not be done, each a sentence for the user
+    QList<std::exception_ptr> fallos; ///< what could not be done
+
+    /// The same, each a sentence for the user in the language of the moment.
+    QStringList textos() const;
 
     /// No language was ever chosen.
     bool primeraVez() const;
@@ -20,3 +26,12 @@ InicioSesion iniciarSesion();
 
 /// Reads the session's state again: counters, bounds, language. Part of the above.
 void leerSesion(InicioSesion &inicio);
+
+/// Settings that could not be read at the start (the database was locked) are read now. True when
+/// the language has changed by that, so that the screens have to be told; nothing happens when they
+/// are known already or still cannot be read.
+bool completarSesion();
+
+/// Lets the data service look through the whole database, once a process: for after the window is
+/// shown. Throws ErrorDatos.
+void comprobarDatos();

@@ -65,8 +65,20 @@ static Msj mensajeDe(Fallo fallo)
         return Msj::FalloSoloLectura;
     case Fallo::LecturaEscritura:
         return Msj::FalloLecturaEscritura;
-    case Fallo::NoEncontrado:
-        return Msj::FalloNoEncontrado;
+    case Fallo::EnlaceRoto:
+        return Msj::FalloEnlaceRoto;
+    case Fallo::Lectura:
+        return Msj::FalloLectura;
+    case Fallo::Incompleta:
+        return Msj::FalloIncompleta;
+    case Fallo::Restriccion:
+        return Msj::FalloRestriccion;
+    case Fallo::TiposDeMas:
+        return Msj::FalloTiposDeMas;
+    case Fallo::SinDeclarante:
+        return Msj::FalloSinDeclarante;
+    case Fallo::SinDeclaracion:
+        return Msj::FalloSinDeclaracion;
     case Fallo::TieneDeclaraciones:
         return Msj::AvisoTieneDeclaraciones;
     }
@@ -75,7 +87,12 @@ static Msj mensajeDe(Fallo fallo)
 
 QString textoFallo(const ErrorDatos &error)
 {
-    return msj(mensajeDe(error.fallo()), QDir::toNativeSeparators(error.objeto()));
+    const bool deUnaFila
+        = error.fallo() == Fallo::SinDeclarante || error.fallo() == Fallo::SinDeclaracion;
+    const QString objeto = !deUnaFila ? QDir::toNativeSeparators(error.objeto())
+        : error.objeto().isEmpty()    ? QString()
+                                      : u" «%1»"_s.arg(error.objeto());
+    return msj(mensajeDe(error.fallo()), objeto);
 }
 
 QString textoFallo(const std::exception &error)

@@ -32,8 +32,10 @@ bool cFecha::EsFecha(const QString &texto) const
 
 qint32 cFecha::StringToLong(const QString &texto) const
 {
-    static const QRegularExpression diaPrimero(u"^(?<d>\\d{1,2})/(?<m>\\d{1,2})/(?<a>\\d{4})$"_s);
-    static const QRegularExpression annoPrimero(u"^(?<a>\\d{4})/(?<m>\\d{1,2})/(?<d>\\d{1,2})$"_s);
+    static const QRegularExpression diaPrimero(
+        u"\\A(?<d>\\d{1,2})/(?<m>\\d{1,2})/(?<a>\\d{4})\\z"_s);
+    static const QRegularExpression annoPrimero(
+        u"\\A(?<a>\\d{4})/(?<m>\\d{1,2})/(?<d>\\d{1,2})\\z"_s);
     const auto partes = (castellano() ? diaPrimero : annoPrimero).match(texto);
     const QDate fecha(partes.captured(u"a").toInt(), partes.captured(u"m").toInt(),
                       partes.captured(u"d").toInt());

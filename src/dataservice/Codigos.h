@@ -61,7 +61,7 @@ enum class Regla : qint16 {
 };
 
 /// What GuardarDeclarante answers.
-enum class Guardado : qint16 { Hecho, AltaDniExiste, CambioDniExiste };
+enum class Guardado : qint16 { Hecho, AltaDniExiste, CambioDniExiste, NoValido };
 
 /// What is wrong with the header of a new return (ValidarDatosComunes).
 enum class ReglaCabecera : qint16 { Ninguna, Ejercicio, Periodo, Modelo, Fuera, Existe };

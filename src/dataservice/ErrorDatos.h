@@ -17,7 +17,13 @@ enum class Fallo {
     SinEspacio, ///< no room left on the disk
     SoloLectura, ///< the file or its folder cannot be written
     LecturaEscritura, ///< the disk failed
-    NoEncontrado, ///< the row asked for is not there (any more)
+    EnlaceRoto, ///< a link that leads nowhere stands in its place
+    Lectura, ///< it cannot be read: no permission, or the disk failed
+    Incompleta, ///< a table, or a row that has to be there, is missing
+    Restriccion, ///< a row breaks a rule of the database
+    TiposDeMas, ///< more rates in a year than a return has bands; `objeto` is the year
+    SinDeclarante, ///< the declarant is not stored (any more); `objeto` its name, where known
+    SinDeclaracion, ///< the same of a return
     TieneDeclaraciones, ///< the declarant to delete still has returns
 };
 

@@ -37,12 +37,12 @@ public:
     /// Name of province `codigo` ("20"); empty when there is none.
     virtual void ObtenerNombreProvincia(const QString &codigo, QString &nombre, qint16 idioma) = 0;
     virtual void ObtenerNombreMunicipio(const QString &codigo, QString &nombre) = 0;
-    /// Rows (code, name) for a pick list; `sql` is one of the texts in ListasSql.h.
+    /// Rows (code, name) for a pick list; `sql` is one of ListasSql, below.
     virtual void CargarProvincias(const QString &sql, Filas &filas) = 0;
     virtual void CargarMunicipios(const QString &sql, Filas &filas) = 0;
     virtual void CargarVias(const QString &sql, Filas &filas) = 0;
     /// The rates (percent) in force during a year, in time order: one (0 before the first
-    /// rate known), or two when it changed.
+    /// rate known), or two when it changed. Throws ErrorDatos (Fallo::TiposDeMas) for more.
     virtual void ObtenerTipoAnual(Registro &tipos, qint16 ejercicio) = 0;
     /// The rate (percent) of a month; 0 before the first rate known.
     virtual float ObtenerTipoImpositivo(qint16 ejercicio, quint8 periodo) = 0;
@@ -63,10 +63,10 @@ public:
     /// changed, empty when it is not there. To be asked for right after loading and before saving.
     virtual QByteArray Huella(qint32 CSCO) = 0;
     /// Inserts (CSCO 0) or updates a RegDeclarante: 0 saved, 1 a new one's DNI exists already,
-    /// 2 another declarant has that DNI. Texts are stored trimmed and in upper case; the counters
-    /// of the record are ignored.
+    /// 2 another declarant has that DNI, 3 no DNI or a code of too many figures. Texts are stored
+    /// trimmed and in upper case; the counters of the record are ignored.
     virtual qint16 GuardarDeclarante(const Registro &registro) = 0;
-    /// Throws ErrorDatos (Fallo::EnUso) while the declarant has returns.
+    /// Throws ErrorDatos (Fallo::TieneDeclaraciones) while the declarant has returns.
     virtual void BorrarDeclarante(qint32 CSCO) = 0;
     /// First broken rule (1 to 12) of a RegValidacion, 0 when valid. Needs no database.
     virtual qint16 ValidarDatosDeclarante(const Registro &datos) = 0;
@@ -125,8 +125,8 @@ public:
     /// Saves header and figures in one transaction: the return's key, or 0 when it was refused
     /// (another return of that declarant, exercise, period and model is stored already; the record
     /// is malformed; its header is not the stored return's, or not its model's: a 430 has
-    /// periodicity and typology 1, a 480 has 2 and period 12). NoEncontrado: unknown declarant or
-    /// return.
+    /// periodicity and typology 1, a 480 has 2 and period 12). SinDeclarante, SinDeclaracion: it is
+    /// not stored.
     virtual qint32 Guardar430(const Registro &datos) = 0;
     virtual qint32 Guardar480(const Registro &datos) = 0;
     /// Deletes the figures; the deletion holds once BorrarDeclaracion has followed on this object,
@@ -147,6 +147,9 @@ public:
     /// Throws ErrorDatos naming the first file that cannot be used; such a file is left untouched
     /// and the other one is prepared all the same.
     virtual bool Traspaso() = 0;
+    /// Looks through the whole model database, once a process; it is done before the first write
+    /// too. Throws ErrorDatos.
+    virtual void Comprobar() = 0;
 };
 
 } // namespace SvrOstr

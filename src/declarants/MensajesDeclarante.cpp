@@ -1,8 +1,11 @@
 #include "declarants/MensajesDeclarante.h"
 
 #include "core/CEntrada.h"
+#include "core/Rutas.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
+
+#include <QDir>
 
 using namespace Qt::StringLiterals;
 
@@ -28,6 +31,8 @@ RegValidacion::Campo campoValidacionDeclarante(qint16 codigo)
 
 QString textoGuardarDeclarante(qint16 codigo)
 {
+    if (codigo == qint16(Guardado::NoValido))
+        return msj(Msj::FalloRestriccion, QDir::toNativeSeparators(rutas().datos));
     return codigo == qint16(Guardado::AltaDniExiste) || codigo == qint16(Guardado::CambioDniExiste)
         ? msjDesde(Msj::ErrorAltaDniExiste, codigo - 1)
         : QString();

@@ -2,17 +2,14 @@
 
 #include "core/Servicios.h"
 #include "core/Textos.h"
+#include "core/Unico.h"
+#include "declarants/cDecResumen.h"
+
+using namespace Qt::StringLiterals;
 
 static QString conCeros(const QString &codigo, int ancho)
 {
     return codigo.isEmpty() ? codigo : codigo.rightJustified(ancho, u'0');
-}
-
-Filas cDecDatos::ValidarDatosImportar(const Registro &datos) const
-{
-    auto servicio = servicio::crear<SvrOstr::cDeclarante>();
-    servicio->mdbnameL(rutas().lectura);
-    return servicio->ValidarDatosImportar(datos, desplazamientoIdioma());
 }
 
 static QString nombreProvincia(const QString &codigo)
@@ -20,6 +17,13 @@ static QString nombreProvincia(const QString &codigo)
     QString nombre;
     servicioLectura()->ObtenerNombreProvincia(codigo, nombre, desplazamientoIdioma());
     return nombre;
+}
+
+Filas cDecDatos::ValidarDatosImportar(const Registro &datos) const
+{
+    auto servicio = servicio::crear<SvrOstr::cDeclarante>();
+    servicio->mdbnameL(rutas().lectura);
+    return servicio->ValidarDatosImportar(datos, desplazamientoIdioma());
 }
 
 void cDecDatos::MODO(const QString &modo)
@@ -40,9 +44,12 @@ void cDecDatos::BorrarDeclarante() const
 void cDecDatos::CargarDeclarante(qint32 codigo)
 {
     using enum RegDeclarante::Campo;
+    const auto &resumen = unico::la<cDecResumen>();
+    const QString nombre
+        = resumen.CSCO() == codigo ? resumen.DNI() + u" - "_s + resumen.NOMBRE() : QString();
     Registro r;
     const QByteArray huella = servicioDeclarante()->Huella(codigo);
-    servicioDeclarante()->CargarDeclarante(codigo, r);
+    nombrando(nombre, [&] { servicioDeclarante()->CargarDeclarante(codigo, r); });
     const QString codprov = conCeros(r.value(CODPROV).toString(), 2);
     const QString nomprov = nombreProvincia(codprov);
     m = {

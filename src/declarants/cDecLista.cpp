@@ -103,7 +103,7 @@ std::optional<DeclaranteListado> cDecLista::CargarDeclarante(qint32 csco)
     try {
         servicioDeclarante()->CargarDeclarante(csco, registro);
     } catch (const ErrorDatos &error) {
-        if (error.fallo() != Fallo::NoEncontrado)
+        if (error.fallo() != Fallo::SinDeclarante)
             throw;
         return {};
     }

@@ -1,5 +1,6 @@
 #include "server/AlmacenDeclaraciones.h"
 
+#include "dataservice/ErrorDatos.h"
 #include "dataservice/Registros.h"
 #include "server/AlmacenDeclarantes.h"
 #include "server/LectorRegistro.h"
@@ -116,6 +117,14 @@ bool esDelModelo(const Cabecera &cabecera, const Modelo &modelo)
         && (!anual || cabecera.periodo == PeriodoAnual);
 }
 
+QString nombreDe(const Cabecera &cabecera)
+{
+    const QString anno = u"%1 %2"_s.arg(cabecera.modelo).arg(cabecera.ejercicio);
+    return cabecera.periodicidad == PeriodicidadAnual
+        ? anno
+        : anno + u"-%1"_s.arg(cabecera.periodo, 2, 10, QChar(u'0'));
+}
+
 QVariantList leerFiguras(LectorRegistro &lector, const Modelo &modelo)
 {
     QVariantList figuras;
@@ -156,7 +165,7 @@ qint32 actualizarCabecera(const PConexion &conexion, const Cabecera &cabecera, q
     if (!Sentencia(conexion, "SELECT 1 FROM DECLARACIONES WHERE CSDE = ?")
              .con(cabecera.csde)
              .fila())
-        noEncontrado(u"CSDE"_s, cabecera.csde);
+        sinDeclaracion(nombreDe(cabecera));
     Sentencia sentencia(conexion,
                         "UPDATE DECLARACIONES SET IMPORTE = ? WHERE CSDE = ? AND CSCO = ? "
                         "AND EJERCICIO = ? AND PERIODO = ? AND MODELO = ?");
@@ -208,7 +217,7 @@ Registro cargarFiguras(const PConexion &conexion, const Modelo &modelo, qint32 C
 {
     Sentencia sentencia(conexion, modelo.leer);
     if (!sentencia.con(CSDE).fila())
-        noEncontrado(u"CSDE"_s, CSDE);
+        sinDeclaracion();
     Registro figuras;
     int columna = 0;
     for (const auto &definicion : modelo.columnas) {
@@ -226,6 +235,11 @@ Registro cargarFiguras(const PConexion &conexion, const Modelo &modelo, qint32 C
         ++columna;
     }
     return figuras;
+}
+
+void sinDeclaracion(const QString &nombre)
+{
+    throw ErrorDatos(Fallo::SinDeclaracion, nombre);
 }
 
 } // namespace servidor

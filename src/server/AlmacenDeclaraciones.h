@@ -39,10 +39,14 @@ const Modelo &modelo480();
 const Modelo *modeloDe(const QString &codigo);
 
 /// Saves header and figures (RegGuardar and what follows it) in one transaction: the return's key,
-/// or 0 when it was refused. Throws NoEncontrado when the declarant or the return is not stored.
+/// or 0 when it was refused. Throws SinDeclarante or SinDeclaracion when it is not
+/// stored.
 qint32 guardarDeclaracion(const QString &ruta, const Modelo &modelo, const Registro &datos);
 
 /// The figures of a return, in the order of its model's record.
 Registro cargarFiguras(const PConexion &conexion, const Modelo &modelo, qint32 CSDE);
+
+/// Throws ErrorDatos; `nombre` where it is known.
+[[noreturn]] void sinDeclaracion(const QString &nombre = {});
 
 } // namespace servidor

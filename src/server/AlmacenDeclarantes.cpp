@@ -18,6 +18,7 @@ namespace {
 using namespace RegDeclarante;
 
 constexpr qint32 ClaveMaxima = std::numeric_limits<qint32>::max();
+constexpr qint32 CodigoMunicipioMaximo = 999;
 
 // Parameters 1 to 15 are CSCO to TELEFONO of the record, 16 the sort key.
 constexpr const char *Alta = R"(
@@ -47,7 +48,7 @@ QVariantList leerCampos(const Registro &registro)
             campos += lector.codigo(campo, 99);
             break;
         case CODMUN:
-            campos += lector.codigo(campo, 999);
+            campos += lector.codigo(campo, ClaveMaxima);
             break;
         default:
             campos += lector.texto(campo);
@@ -70,6 +71,17 @@ void ligarCampos(Sentencia &sentencia, const QVariantList &campos)
     sentencia.ligar(++indice, claveOrden(campos[NOMBRE].toString()));
 }
 
+QString nombreDe(const QVariantList &campos)
+{
+    return campos[DNI].toString() + u" - "_s + campos[NOMBRE].toString();
+}
+
+// What the form keeps from being typed, but a caller may still hand in.
+bool admisible(const QVariantList &campos)
+{
+    return !campos[DNI].toString().isEmpty() && campos[CODMUN].toInt() <= CodigoMunicipioMaximo;
+}
+
 bool dniDeOtro(const PConexion &conexion, const QVariantList &campos)
 {
     return Sentencia(conexion, "SELECT 1 FROM DECLARANTES WHERE DNI = ? AND CSCO <> ?")
@@ -85,25 +97,27 @@ QString codigo(qint64 valor, int cifras)
 
 } // namespace
 
-qint16 guardarDeclarante(const PConexion &conexion, const Registro &registro, Recientes recientes)
+Guardado guardarDeclarante(const PConexion &conexion, const Registro &registro, Recientes recientes)
 {
     const QVariantList campos = leerCampos(registro);
+    if (!admisible(campos))
+        return Guardado::NoValido;
     qint32 clave = campos[CSCO].toInt();
     const bool nuevo = clave == 0;
     if (!nuevo && dniDeOtro(conexion, campos))
-        return 2;
+        return Guardado::CambioDniExiste;
     Sentencia sentencia(conexion, nuevo ? Alta : Cambio);
     ligarCampos(sentencia, campos);
     if (sentencia.ejecutar() == 0) {
         if (nuevo)
-            return 1;
-        noEncontrado(u"CSCO"_s, clave);
+            return Guardado::AltaDniExiste;
+        sinDeclarante(nombreDe(campos));
     }
     if (nuevo)
         clave = conexion->ultimaClave();
     if (recientes == Recientes::Contar)
         marcarReciente(conexion, clave);
-    return 0;
+    return Guardado::Hecho;
 }
 
 void marcarReciente(const PConexion &conexion, qint32 CSCO)
@@ -112,7 +126,7 @@ void marcarReciente(const PConexion &conexion, qint32 CSCO)
                         "UPDATE DECLARANTES SET RECIENTE = 1 + (SELECT max(RECIENTE) FROM "
                         "DECLARANTES) WHERE CSCO = ?");
     if (sentencia.con(CSCO).ejecutar() == 0)
-        noEncontrado(u"CSCO"_s, CSCO);
+        sinDeclarante();
 }
 
 std::string seleccionDeclarante(std::string_view resto)
@@ -158,9 +172,9 @@ QByteArray huella(const Registro &registro)
     return resumen.result();
 }
 
-void noEncontrado(const QString &que, qint64 clave)
+void sinDeclarante(const QString &nombre)
 {
-    throw ErrorDatos(Fallo::NoEncontrado, u"%1 %2"_s.arg(que).arg(clave));
+    throw ErrorDatos(Fallo::SinDeclarante, nombre);
 }
 
 namespace {
@@ -181,7 +195,7 @@ std::optional<Resultado> guardarValido(const PConexion &datos, Registro registro
     if (existentes == Existentes::Examinar)
         return claveDe(datos, dni) == 0 ? Resultado::Nuevo : Resultado::Conservado;
     registro[RegDeclarante::CSCO] = 0;
-    if (guardarDeclarante(datos, registro, Recientes::NoContar) == 0)
+    if (guardarDeclarante(datos, registro, Recientes::NoContar) == Guardado::Hecho)
         return Resultado::Nuevo;
     if (existentes == Existentes::Detenerse)
         return {};

@@ -10,11 +10,12 @@ namespace servidor {
 
 enum class Recientes { Contar, NoContar };
 
-/// Inserts or updates a RegDeclarante within the caller's transaction: 0, 1 or 2 as
-/// cDeclarante::GuardarDeclarante tells. With a code other than 0 nothing has been written.
-qint16 guardarDeclarante(const PConexion &conexion, const Registro &registro, Recientes recientes);
+/// Inserts or updates a RegDeclarante within the caller's transaction, as
+/// cDeclarante::GuardarDeclarante tells. Unless it is done nothing has been written.
+Guardado guardarDeclarante(const PConexion &conexion, const Registro &registro,
+                           Recientes recientes);
 
-/// Makes a declarant the most recent one. Throws NoEncontrado when it is not stored.
+/// Makes a declarant the most recent one. Throws SinDeclarante when it is not stored.
 void marcarReciente(const PConexion &conexion, qint32 CSCO);
 
 /// SELECT of all a declarant's columns, to be followed by a condition or an order, and the
@@ -25,7 +26,8 @@ Registro registroDeclarante(const Sentencia &fila);
 /// Mark of a stored record: another one when any field differs.
 QByteArray huella(const Registro &registro);
 
-[[noreturn]] void noEncontrado(const QString &que, qint64 clave);
+/// Throws ErrorDatos; `nombre` where it is known.
+[[noreturn]] void sinDeclarante(const QString &nombre = {});
 
 /// Checks and stores a set of declarants as cDeclarante::GuardarConjunto tells.
 Filas guardarConjunto(const PConexion &datos, const PConexion &lectura, const Filas &registros,

@@ -1,9 +1,11 @@
 #include "server/Comprobacion.h"
 
+#include "server/Diario.h"
 #include "server/FicherosBase.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QtEndian>
 
 #include <SQLiteCpp/Statement.h>
@@ -27,20 +29,41 @@ bool faltaEspacio(int codigoSistema)
     return codigoSistema == ENOSPC || codigoSistema == EFBIG;
 }
 
-Fallo clasificar(int codigo, int codigoSistema)
+// An error that hides the system's reason: what making another file there comes to tells it.
+Fallo sinPoderEscribir(int codigoSistema, const QString &ruta)
 {
-    switch (codigo) {
+    return faltaEspacio(codigoSistema) ? Fallo::SinEspacio
+                                       : falloAlCrear(ruta).value_or(Fallo::SoloLectura);
+}
+
+Fallo clasificar(const SQLite::Exception &error, int codigoSistema, const QString &ruta)
+{
+    switch (error.getExtendedErrorCode()) {
+    case SQLITE_CONSTRAINT_FOREIGNKEY: // the only rows that others depend on are declarants
+        return Fallo::TieneDeclaraciones;
+    case SQLITE_IOERR_READ:
+    case SQLITE_IOERR_SHORT_READ:
+    case SQLITE_IOERR_CORRUPTFS:
+        return Fallo::Lectura;
+    default:
+        break;
+    }
+    switch (error.getErrorCode() & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
         return Fallo::EnUso;
-    case SQLITE_CONSTRAINT: // the only rows that others depend on are declarants
-        return Fallo::TieneDeclaraciones;
+    case SQLITE_CONSTRAINT:
+    case SQLITE_MISMATCH:
+        return Fallo::Restriccion;
+    case SQLITE_ERROR: // our statements are right, so that it is the table or column that is
+                       // missing
+        return Fallo::Incompleta;
     case SQLITE_FULL:
         return Fallo::SinEspacio;
     case SQLITE_READONLY:
     case SQLITE_PERM:
     case SQLITE_CANTOPEN: // the file itself is known to be there: its journal cannot be made
-        return faltaEspacio(codigoSistema) ? Fallo::SinEspacio : Fallo::SoloLectura;
+        return sinPoderEscribir(codigoSistema, ruta);
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
         return Fallo::Danada;
@@ -55,8 +78,7 @@ ErrorDatos traducir(const SQLite::Exception &error, const QString &ruta)
 {
     // SQLite keeps no system code for a commit that failed; errno still has it.
     const int sistema = errno;
-    return ErrorDatos(clasificar(error.getErrorCode() & 0xff, sistema), ruta,
-                      QString::fromUtf8(error.what()));
+    return ErrorDatos(clasificar(error, sistema, ruta), ruta, QString::fromUtf8(error.what()));
 }
 
 namespace {
@@ -81,14 +103,11 @@ QByteArray leerCabecera(const QString &ruta)
         throw ErrorDatos(Fallo::NoExiste, ruta, u"no such file"_s);
     QFile fichero(ruta);
     if (!fichero.open(QIODevice::ReadOnly))
-        throw ErrorDatos(Fallo::LecturaEscritura, ruta, fichero.errorString());
-    return fichero.read(TamanoCabecera);
-}
-
-// With a journal beside it the file may be half-way through a commit that SQLite is about to undo.
-bool tieneDiario(const QString &ruta)
-{
-    return QFileInfo(ruta + u"-journal"_s).size() > 0;
+        throw ErrorDatos(Fallo::Lectura, ruta, fichero.errorString());
+    const QByteArray cabecera = fichero.read(TamanoCabecera);
+    if (fichero.error() != QFileDevice::NoError)
+        throw ErrorDatos(Fallo::Lectura, ruta, fichero.errorString());
+    return cabecera;
 }
 
 void comprobarVersion(qint32 actual, const Formato &formato, Version version, const QString &ruta)
@@ -100,13 +119,11 @@ void comprobarVersion(qint32 actual, const Formato &formato, Version version, co
         throw ErrorDatos(Fallo::Danada, ruta, detalle);
 }
 
-void comprobarContenido(SQLite::Database &base, const QString &ruta)
+// SQLite's check tells a page that it could not read like one that is wrong, but for the code.
+bool esDeLectura(const QString &resultado)
 {
-    SQLite::Statement sentencia(base, "PRAGMA quick_check(1)");
-    sentencia.executeStep();
-    const std::string resultado = sentencia.getColumn(0).getString();
-    if (resultado != "ok")
-        throw ErrorDatos(Fallo::Danada, ruta, QString::fromStdString(resultado));
+    static const QRegularExpression codigo(u"error code=(\\d+)"_s);
+    return (codigo.match(resultado).captured(1).toInt() & 0xff) == SQLITE_IOERR;
 }
 
 } // namespace
@@ -126,15 +143,34 @@ qint32 comprobarCabecera(const QString &ruta, const Formato &formato, Version ve
     return esquema;
 }
 
-SQLite::Database abrirComprobada(const QString &ruta, const Formato &formato, Version version)
+void comprobarContenido(SQLite::Database &base, const QString &ruta)
+{
+    conErrores(ruta, [&] {
+        SQLite::Statement sentencia(base, "PRAGMA quick_check(1)");
+        sentencia.executeStep();
+        const QString resultado = QString::fromStdString(sentencia.getColumn(0).getString());
+        if (resultado != u"ok")
+            throw ErrorDatos(esDeLectura(resultado) ? Fallo::Lectura : Fallo::Danada, ruta,
+                             resultado);
+    });
+}
+
+SQLite::Database abrir(const QString &ruta, const Formato &formato, Version version)
 {
     comprobarCabecera(ruta, formato, version);
+    if (tieneDiario(ruta))
+        resolverDiario(ruta);
     return conErrores(ruta, [&] {
         const int modo = formato.soloLectura ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
-        SQLite::Database base(ruta.toStdString(), modo, EsperaMs);
-        comprobarContenido(base, ruta);
-        return base;
+        return SQLite::Database(ruta.toStdString(), modo, EsperaMs);
     });
+}
+
+SQLite::Database abrirComprobada(const QString &ruta, const Formato &formato, Version version)
+{
+    auto base = abrir(ruta, formato, version);
+    comprobarContenido(base, ruta);
+    return base;
 }
 
 } // namespace servidor

@@ -51,7 +51,14 @@ enum class Version {
 /// ErrorDatos.
 qint32 comprobarCabecera(const QString &ruta, const Formato &formato, Version version);
 
-/// Opens a file that passes that check and SQLite's own check of its content. Throws ErrorDatos.
+/// Opens a file that passes that check, and deals with a journal left beside it. Throws ErrorDatos.
+SQLite::Database abrir(const QString &ruta, const Formato &formato,
+                       Version version = Version::Actual);
+
+/// SQLite's own check of the whole content. Throws ErrorDatos; `ruta` names the file.
+void comprobarContenido(SQLite::Database &base, const QString &ruta);
+
+/// Both.
 SQLite::Database abrirComprobada(const QString &ruta, const Formato &formato,
                                  Version version = Version::Actual);
 

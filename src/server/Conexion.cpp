@@ -1,9 +1,11 @@
 #include "server/Conexion.h"
 
 #include "server/Comprobacion.h"
+#include "server/Diario.h"
 #include "server/Sentencia.h"
 
 #include <QHash>
+#include <QtEndian>
 
 #include <sqlite3.h>
 
@@ -29,7 +31,7 @@ Conexion::Conexion(const QString &ruta, const Formato &formato)
     : m_ruta(ruta)
     , m_identidad(identidad(ruta).value_or(Identidad{}))
     , m_aplicacion(formato.aplicacion)
-    , m_base(abrirComprobada(ruta, formato))
+    , m_base(abrir(ruta, formato))
 {
     conErrores(ruta, [&] { m_base.exec(Ajustes); });
 }
@@ -54,13 +56,36 @@ bool Conexion::enTransaccion() const
     return sqlite3_get_autocommit(m_base.getHandle()) == 0;
 }
 
+bool Conexion::soloLectura() const
+{
+    return sqlite3_db_readonly(m_base.getHandle(), "main") == 1;
+}
+
+void Conexion::comprobarEntera()
+{
+    if (!m_entera)
+        conErroresDe(*this, [this] { comprobarContenido(m_base, m_ruta); });
+    m_entera = true;
+}
+
+// Through SQLite's own file: another one, closed again, would drop SQLite's locks.
+quint32 Conexion::cambios()
+{
+    sqlite3_file *fichero = nullptr;
+    sqlite3_file_control(m_base.getHandle(), "main", SQLITE_FCNTL_FILE_POINTER, &fichero);
+    quint32 leidos = 0;
+    if (fichero && fichero->pMethods)
+        fichero->pMethods->xRead(fichero, &leidos, sizeof leidos, 24);
+    return qFromBigEndian(leidos);
+}
+
 std::unique_ptr<SQLite::Statement> Conexion::tomar(std::string_view sql)
 {
     const auto hallada = m_sentencias.find(sql);
     if (hallada != m_sentencias.end() && hallada->second)
         return std::move(hallada->second);
-    return conErrores(
-        m_ruta, [&] { return std::make_unique<SQLite::Statement>(m_base, std::string(sql)); });
+    return conErroresDe(
+        *this, [&] { return std::make_unique<SQLite::Statement>(m_base, std::string(sql)); });
 }
 
 void Conexion::devolver(std::unique_ptr<SQLite::Statement> sentencia)
@@ -74,6 +99,11 @@ Transaccion::Transaccion(PConexion conexion)
 {
     if (m_conexion->enTransaccion())
         throw ErrorDatos(Fallo::EnUso, m_conexion->ruta(), u"deletion not finished"_s);
+    if (m_conexion->soloLectura()) { // it may have become writable
+        Conexion::olvidar(m_conexion->ruta());
+        m_conexion = Conexion::datos(m_conexion->ruta());
+    }
+    m_conexion->comprobarEntera();
     Sentencia(m_conexion, "BEGIN IMMEDIATE").ejecutar();
 }
 
@@ -86,7 +116,16 @@ Transaccion::~Transaccion()
 
 void Transaccion::confirmar()
 {
-    Sentencia(m_conexion, "COMMIT").ejecutar();
+    const quint32 antes = m_conexion->cambios();
+    try {
+        Sentencia(m_conexion, "COMMIT").ejecutar();
+    } catch (const ErrorDatos &) {
+        // Only the folder was left to be synced: the save is in the file and holds.
+        const bool guardado = !m_conexion->enTransaccion() && m_conexion->cambios() == antes + 1
+            && !tieneDiario(m_conexion->ruta());
+        if (!guardado)
+            throw;
+    }
 }
 
 LecturaUnica::LecturaUnica(PConexion conexion)

@@ -18,7 +18,8 @@ class Conexion;
 using PConexion = std::shared_ptr<Conexion>;
 
 /// An open, checked database with its prepared statements. Connections are kept between calls, so
-/// that a service object costs nothing to make; one whose file was replaced or removed is dropped.
+/// that a service object costs nothing to make; one whose file was replaced or removed, or gave an
+/// error, is dropped.
 /// For one thread, as the whole service is.
 class Conexion
 {
@@ -34,6 +35,12 @@ public:
     const QString &ruta() const { return m_ruta; }
     SQLite::Database &base() { return m_base; }
     bool enTransaccion() const;
+    /// The file could not be written when it was opened.
+    bool soloLectura() const;
+    /// Looks through the whole file unless that has been done; throws ErrorDatos.
+    void comprobarEntera();
+    /// How often the file has been changed, by its header.
+    quint32 cambios();
     qint32 ultimaClave() const { return static_cast<qint32>(m_base.getLastInsertRowid()); }
 
     /// A prepared statement, taken out of the store until it is given back.
@@ -47,8 +54,23 @@ private:
     Identidad m_identidad;
     qint32 m_aplicacion;
     SQLite::Database m_base;
+    bool m_entera = false;
     std::map<std::string, std::unique_ptr<SQLite::Statement>, std::less<>> m_sentencias;
 };
+
+/// Runs `f`, turning SQLite errors into ErrorDatos about the connection's file. After an error of
+/// the file the connection is given up, so that the next call starts from what is there then.
+template <class F> decltype(auto) conErroresDe(const Conexion &conexion, F &&f)
+{
+    try {
+        return conErrores(conexion.ruta(), std::forward<F>(f));
+    } catch (const ErrorDatos &error) {
+        if (error.fallo() != Fallo::EnUso && error.fallo() != Fallo::Restriccion
+            && error.fallo() != Fallo::TieneDeclaraciones)
+            Conexion::olvidar(conexion.ruta());
+        throw;
+    }
+}
 
 /// Everything until confirmar() happens wholly or not at all.
 class Transaccion
@@ -59,6 +81,7 @@ public:
     Transaccion(const Transaccion &) = delete;
     Transaccion &operator=(const Transaccion &) = delete;
 
+    /// On disk when this returns. After an error of which the outcome is unknown the file decides.
     void confirmar();
     const PConexion &conexion() const { return m_conexion; }
 

@@ -9,6 +9,8 @@
 #include <QStringList>
 
 #include <SQLiteCpp/Statement.h>
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -73,9 +75,9 @@ CREATE TABLE AJUSTES (
 
 } // namespace
 
-void crearDatos(const QString &ruta)
+bool crearDatos(const QString &ruta)
 {
-    crearFichero(ruta, FormatoDatos, [](SQLite::Database &base) {
+    return crearFichero(ruta, FormatoDatos, Lugar::Vacio, [](SQLite::Database &base) {
         base.exec(TablasDatos);
         base.exec(modelo430().crear);
         base.exec(modelo480().crear);
@@ -152,21 +154,67 @@ Linea general()
     return fila;
 }
 
+void llenarLectura(SQLite::Database &base)
+{
+    base.exec(TablasLectura);
+    insertar(base, "INSERT INTO T05_PROVINCIAS VALUES (?, ?, ?)", leer(u"provincias"_s, 3));
+    insertar(base, "INSERT INTO T06_MUNICIPIOS VALUES (?, ?)", leer(u"municipios"_s, 2));
+    insertar(base, "INSERT INTO T07_SIGLASVIA VALUES (?, ?, ?)", leer(u"siglasvia"_s, 3));
+    insertar(base, "INSERT INTO T08_GENERAL VALUES (?, ?, ?, ?, ?, ?)", {general()});
+    insertar(base, "INSERT INTO T09_TIPOS VALUES (?, ?)", tipos());
+}
+
+bool mismasFilas(SQLite::Database &una, SQLite::Database &otra, const std::string &tabla)
+{
+    const std::string sql = "SELECT * FROM " + tabla + " ORDER BY 1";
+    SQLite::Statement filas(una, sql);
+    SQLite::Statement otras(otra, sql);
+    while (filas.executeStep()) {
+        if (!otras.executeStep())
+            return false;
+        for (int columna = 0; columna < filas.getColumnCount(); ++columna)
+            if (filas.getColumn(columna).getString() != otras.getColumn(columna).getString())
+                return false;
+    }
+    return !otras.executeStep();
+}
+
+// The file is made from our texts alone: whatever differs from them is damage.
+bool contieneLoNuestro(const QString &ruta, const Formato &formato)
+{
+    SQLite::Database nuestra(":memory:", SQLite::OPEN_READWRITE);
+    llenarLectura(nuestra);
+    try {
+        auto guardada = abrirComprobada(ruta, formato);
+        return std::ranges::all_of(
+            std::array{"(SELECT name, sql FROM sqlite_schema)", "T05_PROVINCIAS", "T06_MUNICIPIOS",
+                       "T07_SIGLASVIA", "T08_GENERAL", "T09_TIPOS"},
+            [&](const char *tabla) { return mismasFilas(nuestra, guardada, tabla); });
+    } catch (const SQLite::Exception &) {
+        return false;
+    }
+}
+
+bool sirve(const QString &ruta, const Formato &formato)
+{
+    try {
+        return comprobarCabecera(ruta, formato, Version::ActualOMenor) == formato.esquema
+            && contieneLoNuestro(ruta, formato);
+    } catch (const ErrorDatos &error) {
+        if (error.fallo() == Fallo::Danada)
+            return false;
+        throw;
+    }
+}
+
 } // namespace
 
 void prepararLectura(const QString &ruta, const Formato &formato)
 {
-    if (QFile::exists(ruta)
-        && comprobarCabecera(ruta, formato, Version::ActualOMenor) == formato.esquema)
-        return;
-    crearFichero(ruta, formato, [](SQLite::Database &base) {
-        base.exec(TablasLectura);
-        insertar(base, "INSERT INTO T05_PROVINCIAS VALUES (?, ?, ?)", leer(u"provincias"_s, 3));
-        insertar(base, "INSERT INTO T06_MUNICIPIOS VALUES (?, ?)", leer(u"municipios"_s, 2));
-        insertar(base, "INSERT INTO T07_SIGLASVIA VALUES (?, ?, ?)", leer(u"siglasvia"_s, 3));
-        insertar(base, "INSERT INTO T08_GENERAL VALUES (?, ?, ?, ?, ?, ?)", {general()});
-        insertar(base, "INSERT INTO T09_TIPOS VALUES (?, ?)", tipos());
-    });
+    rechazarEnlaceRoto(ruta);
+    const bool existe = QFile::exists(ruta);
+    if (!existe || !sirve(ruta, formato))
+        crearFichero(ruta, formato, existe ? Lugar::Ocupado : Lugar::Vacio, llenarLectura);
 }
 
 } // namespace servidor

@@ -6,11 +6,13 @@
 
 namespace servidor {
 
-/// Creates an empty model database. It appears at `ruta` whole or not at all.
-void crearDatos(const QString &ruta);
+/// Creates an empty model database. It appears at `ruta` whole or not at all; false when another
+/// program has put one there meanwhile.
+bool crearDatos(const QString &ruta);
 
-/// Builds the lookup database at `ruta` from the texts compiled in when there is none or an older
-/// edition. Throws ErrorDatos for a file that is neither; it is left as it was.
+/// Builds the lookup database at `ruta` from the texts compiled in when there is none, an older
+/// edition, or one whose content is not that of the texts. Throws ErrorDatos for a file that is
+/// another program's or of a newer edition; it is left as it was.
 void prepararLectura(const QString &ruta, const Formato &formato = FormatoLectura);
 
 } // namespace servidor

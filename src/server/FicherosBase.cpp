@@ -3,9 +3,11 @@
 #include "dataservice/ErrorDatos.h"
 #include "server/Comprobacion.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QUuid>
 
 #include <SQLiteCpp/Backup.h>
 #include <cerrno>
@@ -32,6 +34,9 @@ Fallo falloDeSistema(int codigo)
     switch (codigo) {
     case ENOSPC:
     case EFBIG:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
         return Fallo::SinEspacio;
     case EACCES:
     case EPERM:
@@ -56,9 +61,13 @@ void sincronizar(const QString &ruta)
         throw ErrorDatos(falloDeSistema(codigo), ruta, u"sync failed"_s);
 }
 
+// The file is in its place already: that the folder could not be synced makes it no failure.
 void sincronizarCarpeta(const QString &ruta)
 {
-    sincronizar(QFileInfo(ruta).absolutePath());
+    try {
+        sincronizar(QFileInfo(ruta).absolutePath());
+    } catch (const ErrorDatos &) {
+    }
 }
 #else
 void sincronizar(const QString &ruta)
@@ -89,11 +98,52 @@ std::optional<Identidad> identidad(const QString &ruta)
 }
 #endif
 
+namespace {
+
+// Left behind by runs that were cut short; what is younger may be another program's.
+void retirarRestos(const QString &destino)
+{
+    const QFileInfo fichero(destino);
+    const QDateTime limite = QDateTime::currentDateTime().addSecs(-3600);
+    const auto restos
+        = fichero.dir().entryInfoList({fichero.fileName() + u".nuevo*"_s}, QDir::Files);
+    for (const QFileInfo &resto : restos)
+        if (resto.lastModified() < limite)
+            QFile::remove(resto.filePath());
+}
+
+QString unica(const QString &ruta)
+{
+    return ruta + u".nuevo-"_s + QUuid::createUuid().toString(QUuid::Id128);
+}
+
+#ifdef Q_OS_UNIX
+// Where the file system has no second names, the moment between looking and renaming stays open.
+std::error_code renombrarSiVacio(const QString &origen, const QString &destino)
+{
+    std::error_code error;
+    std::filesystem::create_hard_link(origen.toStdU16String(), destino.toStdU16String(), error);
+    if (error && error != std::errc::file_exists && !QFileInfo::exists(destino))
+        std::filesystem::rename(origen.toStdU16String(), destino.toStdU16String(), error);
+    return error;
+}
+#else
+std::error_code renombrarSiVacio(const QString &origen, const QString &destino)
+{
+    const bool bien = ::_wrename(reinterpret_cast<const wchar_t *>(origen.utf16()),
+                                 reinterpret_cast<const wchar_t *>(destino.utf16()))
+        == 0;
+    return {bien ? 0 : errno, std::generic_category()};
+}
+#endif
+
+} // namespace
+
 Provisional::Provisional(const QString &destino)
     : m_destino(destino)
-    , m_ruta(destino + u".nuevo"_s)
+    , m_ruta(unica(destino))
 {
-    QFile::remove(m_ruta); // left behind by a run that was cut short
+    retirarRestos(destino);
 }
 
 Provisional::~Provisional()
@@ -101,14 +151,55 @@ Provisional::~Provisional()
     QFile::remove(m_ruta);
 }
 
-void Provisional::colocar()
+void Provisional::preparar() const
 {
     sincronizar(m_ruta);
     // SQLite would replay a journal left behind by an earlier file of that name into the new one.
     const QString diario = m_destino + u"-journal"_s;
-    if (QFile::exists(diario))
-        renombrar(diario, diario + u".apartado"_s);
+    if (QFile::exists(diario) && !QFile::exists(m_destino))
+        renombrar(diario, nombreApartado(diario));
+}
+
+void Provisional::colocar()
+{
+    preparar();
     renombrar(m_ruta, m_destino);
+}
+
+bool Provisional::colocarSiVacio()
+{
+    preparar();
+    const std::error_code error = renombrarSiVacio(m_ruta, m_destino);
+    if (error == std::errc::file_exists)
+        return false;
+    if (error)
+        throw ErrorDatos(falloDeSistema(error.value()), m_destino, u"rename failed"_s);
+    QFile::remove(m_ruta);
+    sincronizarCarpeta(m_destino);
+    return true;
+}
+
+std::optional<Fallo> falloAlCrear(const QString &ruta)
+{
+    const QByteArray prueba = QFile::encodeName(unica(ruta));
+    errno = 0;
+    QFile fichero(QString::fromUtf8(prueba));
+    if (fichero.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        fichero.remove();
+        return {};
+    }
+    return falloDeSistema(errno);
+}
+
+QString nombreApartado(const QString &ruta)
+{
+    return ruta + QDateTime::currentDateTime().toString(u".yyyyMMddHHmmsszzz");
+}
+
+void rechazarEnlaceRoto(const QString &ruta)
+{
+    if (QFileInfo(ruta).isSymLink() && !QFileInfo::exists(ruta))
+        throw ErrorDatos(Fallo::EnlaceRoto, ruta, u"dangling link"_s);
 }
 
 void renombrar(const QString &origen, const QString &destino)
@@ -122,6 +213,7 @@ void renombrar(const QString &origen, const QString &destino)
 
 void crearCarpeta(const QString &carpeta)
 {
+    rechazarEnlaceRoto(QDir::cleanPath(carpeta));
     if (!QDir().mkpath(carpeta))
         throw ErrorDatos(Fallo::SoloLectura, carpeta, u"cannot create folder"_s);
 }
@@ -145,7 +237,7 @@ void numerar(SQLite::Database &base, const Formato &formato)
 
 } // namespace
 
-void crearFichero(const QString &ruta, const Formato &formato,
+bool crearFichero(const QString &ruta, const Formato &formato, Lugar lugar,
                   const std::function<void(SQLite::Database &)> &llenar)
 {
     Provisional provisional(ruta);
@@ -156,7 +248,10 @@ void crearFichero(const QString &ruta, const Formato &formato,
         llenar(base);
         base.exec("COMMIT");
     });
+    if (lugar == Lugar::Vacio)
+        return provisional.colocarSiVacio();
     provisional.colocar();
+    return true;
 }
 
 void copiarFichero(SQLite::Database &origen, const QString &destino,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dataservice/ErrorDatos.h"
 #include "server/Comprobacion.h"
 
 #include <QString>
@@ -26,7 +27,7 @@ std::optional<Identidad> identidad(const QString &ruta);
 class Provisional
 {
 public:
-    explicit Provisional(const QString &destino);
+    explicit Provisional(const QString &destino); ///< under a name that no other program uses
     ~Provisional();
     Provisional(const Provisional &) = delete;
     Provisional &operator=(const Provisional &) = delete;
@@ -35,11 +36,24 @@ public:
 
     /// Puts the file in its final place, replacing what is there; on disk when this returns.
     void colocar();
+    /// The same only while the place is empty: false when another program has filled it.
+    bool colocarSiVacio();
 
 private:
+    void preparar() const;
+
     QString m_destino;
     QString m_ruta;
 };
+
+/// Why a file beside `ruta` cannot be made; nothing when it can.
+std::optional<Fallo> falloAlCrear(const QString &ruta);
+
+/// Name under which a file that cannot be used is kept: its own with the time.
+QString nombreApartado(const QString &ruta);
+
+/// Throws ErrorDatos when a link that leads nowhere stands at `ruta`.
+void rechazarEnlaceRoto(const QString &ruta);
 
 /// Renames, replacing `destino`, and makes the new name last. Throws ErrorDatos.
 void renombrar(const QString &origen, const QString &destino);
@@ -48,8 +62,10 @@ void renombrar(const QString &origen, const QString &destino);
 void crearCarpeta(const QString &carpeta);
 
 /// Makes a database file of `formato` whose content `llenar` writes. It is written beside and put
-/// in place once it is whole and on disk, so that nobody ever finds half of one.
-void crearFichero(const QString &ruta, const Formato &formato,
+/// in place once it is whole and on disk, so that nobody ever finds half of one. False when it was
+/// to fill an empty place and another program has done so meanwhile.
+enum class Lugar { Vacio, Ocupado };
+bool crearFichero(const QString &ruta, const Formato &formato, Lugar lugar,
                   const std::function<void(SQLite::Database &)> &llenar);
 
 /// The same with the content of another database, read through SQLite so that a transaction under

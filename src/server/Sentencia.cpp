@@ -2,6 +2,8 @@
 
 #include "server/Comprobacion.h"
 
+using namespace Qt::StringLiterals;
+
 namespace servidor {
 
 Sentencia::Sentencia(const PConexion &conexion, std::string_view sql)
@@ -25,15 +27,18 @@ void Sentencia::ligar(int indice, const QString &valor)
     m_sentencia->bind(indice, valor.toStdString());
 }
 
+void Sentencia::filaDebida()
+{
+    if (fila())
+        return;
+    const QString ruta = m_conexion->ruta();
+    Conexion::olvidar(ruta);
+    throw ErrorDatos(Fallo::Incompleta, ruta, u"a row is missing"_s);
+}
+
 bool Sentencia::fila()
 {
-    try {
-        return conErrores(m_conexion->ruta(), [&] { return m_sentencia->executeStep(); });
-    } catch (const ErrorDatos &error) {
-        if (error.fallo() == Fallo::Danada)
-            Conexion::olvidar(m_conexion->ruta()); // the next call checks the file again
-        throw;
-    }
+    return conErroresDe(*m_conexion, [&] { return m_sentencia->executeStep(); });
 }
 
 int Sentencia::ejecutar()

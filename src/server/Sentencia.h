@@ -24,6 +24,7 @@ public:
     void ligar(int indice, const QString &valor);
 
     bool fila(); ///< steps to the next row; false when there is none
+    void filaDebida(); ///< the same for a row that has to be there; throws ErrorDatos
     int ejecutar(); ///< runs to the end; how many rows it changed
 
     qint64 entero(int columna) const;

@@ -107,6 +107,7 @@ QList<Regla> reglasRotas(const Registro &datos, Telefono telefono)
     const qint32 provincia = textos[CODPROV].toInt();
     const bool hayProvincia = provincia >= 1 && provincia <= Provincias;
     const bool faltaCodigo = provincia == ProvinciaPropia && textos[CODMUN].toInt() <= 0;
+    const bool malCodigo = textos[CODMUN].size() > 3 || !sonCifras(textos[CODMUN]);
 
     QList<Regla> rotas;
     const auto anotar = [&](bool rota, Regla regla) {
@@ -121,7 +122,7 @@ QList<Regla> reglasRotas(const Registro &datos, Telefono telefono)
     // Without a province there is nothing for the postal code to disagree with.
     anotar(postal != Regla::Ninguna && (hayProvincia || postal != Regla::PostalDeOtraProvincia),
            postal);
-    anotar(faltaCodigo, Regla::CodigoMunicipio);
+    anotar(faltaCodigo || malCodigo, Regla::CodigoMunicipio);
     anotar(textos[NOMMUN].isEmpty(), Regla::Municipio);
     const Regla numero = reglaTelefono(textos[TELEFONO], telefono);
     anotar(numero != Regla::Ninguna, numero);

@@ -1,5 +1,6 @@
 #include "server/cDatosGeneral.h"
 
+#include "dataservice/ErrorDatos.h"
 #include "server/ListaLectura.h"
 #include "server/Sentencia.h"
 
@@ -8,6 +9,8 @@ using namespace Qt::StringLiterals;
 namespace servidor {
 
 namespace {
+
+constexpr qsizetype Bandas = 2; // of an annual return
 
 QString leerAjuste(const QString &ruta, const QString &clave)
 {
@@ -52,7 +55,7 @@ float porcentaje(qint64 centesimas)
 qint32 cDatosGeneral::NumeroDeclarantes()
 {
     Sentencia sentencia(Conexion::datos(m_ruta), "SELECT count(*) FROM DECLARANTES");
-    sentencia.fila();
+    sentencia.filaDebida();
     return sentencia.clave(0);
 }
 
@@ -81,7 +84,7 @@ void cDatosGeneral::DameEjerPerMinMax(Registro &limites)
 {
     Sentencia sentencia(Conexion::lectura(m_ruta),
                         "SELECT T08_EJERMIN, T08_EJERMAX, T08_PERMIN, T08_PERMAX FROM T08_GENERAL");
-    sentencia.fila();
+    sentencia.filaDebida();
     limites = {sentencia.clave(0), sentencia.clave(1), sentencia.clave(2), sentencia.clave(3)};
 }
 
@@ -127,6 +130,8 @@ void cDatosGeneral::ObtenerTipoAnual(Registro &tipos, qint16 ejercicio)
     Registro leidos;
     while (sentencia.fila())
         leidos += porcentaje(sentencia.entero(0));
+    if (leidos.size() > Bandas)
+        throw ErrorDatos(Fallo::TiposDeMas, QString::number(ejercicio));
     if (leidos.isEmpty())
         leidos += 0.0F;
     tipos = leidos;
@@ -143,7 +148,7 @@ float cDatosGeneral::ObtenerTipoImpositivo(qint16 ejercicio, quint8 periodo)
 QString cDatosGeneral::URLAct()
 {
     Sentencia sentencia(Conexion::lectura(m_ruta), "SELECT T08_URLACT FROM T08_GENERAL");
-    sentencia.fila();
+    sentencia.filaDebida();
     return sentencia.texto(0);
 }
 

@@ -13,7 +13,7 @@ namespace servidor {
 
 namespace {
 
-constexpr qint32 Anio = 32'767;
+constexpr qint32 Anno = 32'767;
 constexpr qint32 Periodo = 255;
 
 using Par = std::pair<qint32, qint32>;
@@ -24,12 +24,15 @@ bool dentroDeLimites(const Registro &cabecera)
     LectorRegistro lector(cabecera.first(std::min<qsizetype>(cabecera.size(), TotalPeriodo)),
                           TotalPeriodo);
     const auto par = [&](qsizetype ejercicio, qsizetype periodo) {
-        return Par(lector.entero(ejercicio, 0, Anio), lector.entero(periodo, 0, Periodo));
+        return Par(lector.entero(ejercicio, -Anno, Anno), lector.entero(periodo, 0, Periodo));
     };
     const Par pedido = par(EJERCICIO, PERIODO);
     const Par minimo = par(EJERMIN, PERMIN);
     const Par maximo = par(EJERMAX, PERMAX);
+    const bool anual = lector.entero(PERIODICIDAD, 0, Periodo) == PeriodicidadAnual;
     lector.exigirValido();
+    if (anual && pedido.second != PeriodoAnual)
+        return false;
     return pedido.second >= 1 && pedido.second <= UltimoMes && minimo <= pedido && pedido <= maximo;
 }
 
@@ -37,7 +40,7 @@ ReglaCabecera reglaCabecera(const Registro &cabecera)
 {
     using namespace RegCabecera;
     LectorRegistro lector(cabecera, Total);
-    const qint32 ejercicio = lector.entero(EJERCICIO, 0, Anio);
+    const qint32 ejercicio = lector.entero(EJERCICIO, -Anno, Anno);
     const qint32 periodo = lector.entero(PERIODO, 0, Periodo);
     const QString modelo = lector.texto(MODELO);
     lector.entero(CSCO, 0, std::numeric_limits<qint32>::max());
@@ -46,8 +49,11 @@ ReglaCabecera reglaCabecera(const Registro &cabecera)
         return ReglaCabecera::Ejercicio;
     if (periodo == 0)
         return ReglaCabecera::Periodo;
-    if (!modeloDe(modelo))
+    const Modelo *deEste = modeloDe(modelo);
+    if (!deEste)
         return ReglaCabecera::Modelo;
+    if (deEste->periodicidad == PeriodicidadAnual && periodo != PeriodoAnual)
+        return ReglaCabecera::Periodo;
     return dentroDeLimites(cabecera) ? ReglaCabecera::Ninguna : ReglaCabecera::Fuera;
 }
 
@@ -191,7 +197,7 @@ void cDeclaracion::BorrarDatosNoComunes(qint32 CSDE, const QString &modelo)
     m_borrado.reset();
     auto transaccion = std::make_unique<Transaccion>(Conexion::datos(m_ruta));
     if (Sentencia(transaccion->conexion(), tabla->borrar).con(CSDE).ejecutar() == 0)
-        noEncontrado(u"CSDE"_s, CSDE);
+        sinDeclaracion();
     m_borrado = std::move(transaccion);
     m_borrando = CSDE;
 }
@@ -205,7 +211,7 @@ void cDeclaracion::BorrarDeclaracion(qint32 CSDE)
             .con(CSDE)
             .ejecutar()
         == 0)
-        noEncontrado(u"CSDE"_s, CSDE);
+        sinDeclaracion();
     transaccion->confirmar();
 }
 

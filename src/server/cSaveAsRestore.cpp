@@ -4,7 +4,6 @@
 #include "server/FicherosBase.h"
 #include "server/Sentencia.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -62,10 +61,10 @@ std::optional<SQLite::Database> abrirSiSirve(const QString &ruta)
 // A file that cannot be used is never destroyed: it takes another name, its journal with it.
 void apartar(const QString &ruta)
 {
-    const QString marca = QDateTime::currentDateTime().toString(u".yyyyMMddHHmmsszzz");
+    const QString apartada = nombreApartado(ruta);
     for (const QString &cola : {QString(), u"-journal"_s})
         if (QFile::exists(ruta + cola))
-            renombrar(ruta + cola, ruta + marca + cola);
+            renombrar(ruta + cola, apartada + cola);
 }
 
 } // namespace
@@ -97,6 +96,7 @@ int cSaveAsRestore::copiasAnteriores() const
 void cSaveAsRestore::CrearBackup()
 {
     const PConexion datos = Conexion::datos(origen());
+    datos->comprobarEntera();
     crearCarpeta(QFileInfo(destino()).path());
     copiarFichero(datos->base(), destino(), [&] { rotar(destino(), copiasAnteriores()); });
 }

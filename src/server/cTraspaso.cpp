@@ -67,10 +67,9 @@ namespace {
 void prepararDatos(const QString &ruta)
 {
     Conexion::olvidar(ruta);
-    if (QFileInfo::exists(ruta))
+    rechazarEnlaceRoto(ruta);
+    if (QFileInfo::exists(ruta) || !crearDatos(ruta))
         migrar(ruta, FormatoDatos, PasosDatos);
-    else
-        crearDatos(ruta);
     Conexion::datos(ruta);
 }
 
@@ -104,6 +103,11 @@ bool cTraspaso::Traspaso()
     if (lectura)
         std::rethrow_exception(lectura);
     return false;
+}
+
+void cTraspaso::Comprobar()
+{
+    Conexion::datos(m_datos)->comprobarEntera();
 }
 
 } // namespace servidor

@@ -32,6 +32,7 @@ public:
     void mdbmod(const QString &ruta) override { m_datos = ruta; }
     void mdbPath(const QString &carpeta) override { m_carpeta = carpeta; }
     bool Traspaso() override;
+    void Comprobar() override;
 
 private:
     QString m_datos;

@@ -24,13 +24,8 @@ public:
     QString datos() const { return carpeta() + u"/OstrMod.mdb"_s; }
     QString lectura() const { return carpeta() + u"/OstrLec.mdb"_s; }
 
-    bool traspaso() const
-    {
-        auto objeto = servicio::crear<SvrOstr::cTraspaso>();
-        objeto->mdbmod(datos());
-        objeto->mdbPath(carpeta());
-        return objeto->Traspaso();
-    }
+    bool traspaso() const { return preparador()->Traspaso(); }
+    void comprobar() const { preparador()->Comprobar(); }
     std::unique_ptr<SvrOstr::cDatosGeneral> generales(const QString &ruta) const
     {
         auto objeto = servicio::crear<SvrOstr::cDatosGeneral>();
@@ -81,6 +76,14 @@ public:
     }
 
 private:
+    std::unique_ptr<SvrOstr::cTraspaso> preparador() const
+    {
+        auto objeto = servicio::crear<SvrOstr::cTraspaso>();
+        objeto->mdbmod(datos());
+        objeto->mdbPath(carpeta());
+        return objeto;
+    }
+
     QTemporaryDir m_carpeta;
 };
 
