@@ -296,6 +296,8 @@ private Q_SLOTS:
         QCOMPARE(manos().texto("lblDiferencia"),
                  u"La casilla 70 difiere en -10.000.000,00 de la "
                  "suma de las casillas 73 y 76."_s);
+        // the warning costs the list its height, not the page its buttons
+        QVERIFY(!m_pagina->layout()->hasHeightForWidth());
         manos().escribir("txt76ba2", u"123,45"_s);
         manos().escribir("txt80cu3", u"-15.000"_s);
         manos().tecla(Qt::Key_Tab);

@@ -73,7 +73,6 @@ FrmDatos480c::FrmDatos480c(QWidget *padre)
 {
     auto *rejilla = new QGridLayout;
     disponer(rejilla);
-    m_lblDiferencia->setWordWrap(true);
     pintarAdvertencia(m_lblDiferencia);
     m_cuerpo->addLayout(rejilla);
     m_cuerpo->addWidget(m_lblUnTipo);

@@ -29,8 +29,15 @@ public:
     {
         setObjectName(nombre);
         setTextFormat(Qt::PlainText);
-        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     }
+
+    /// Room for most names, whatever this one is.
+    QSize sizeHint() const override
+    {
+        return {fontMetrics().averageCharWidth() * 34, QLabel::sizeHint().height()};
+    }
+    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
 
 protected:
     void paintEvent(QPaintEvent *) override
