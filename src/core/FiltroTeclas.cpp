@@ -30,17 +30,6 @@ QChar filtrarTexto(QChar tecla)
     return Admitidos.contains(mayuscula) ? mayuscula : QChar();
 }
 
-QString filtrarTexto(const QString &texto)
-{
-    QString limpio;
-    for (const QChar c : texto) {
-        const QChar tomado = filtrarTexto(c);
-        if (!tomado.isNull() && tomado != TeclaRetroceso)
-            limpio += tomado;
-    }
-    return limpio;
-}
-
 bool admitidoEnFichero(QChar c)
 {
     return Admitidos.contains(c) || Acentuadas.contains(c);

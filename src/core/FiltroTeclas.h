@@ -17,9 +17,6 @@ bool sonCifras(QStringView texto);
 /// Capitals, digits and " !$%&()*+,-./:;<=>?\_ºª¿¡çÇ"; letters become capitals.
 QChar filtrarTexto(QChar tecla);
 
-/// What filtrarTexto leaves of a whole text; for texts that are pasted.
-QString filtrarTexto(const QString &texto);
-
 /// Whether a stored text may hold `c`: what can be typed, and the accented capitals that files
 /// carry.
 bool admitidoEnFichero(QChar c);
