@@ -40,6 +40,17 @@ bool Pantallas::abrir(Pantalla cual)
     return abierta;
 }
 
+/// `saliente` closes as soon as the other one is there: it has handed its record back.
+bool Pantallas::abrirTras(PantallaBase *saliente, Pantalla siguiente)
+{
+    m_saliente = saliente;
+    const bool abierta = abrir(siguiente);
+    m_saliente = nullptr;
+    if (!abierta)
+        suspenderOtras();
+    return abierta;
+}
+
 void Pantallas::traerDelante(PantallaBase *abierta)
 {
     if (!abierta->edita())
@@ -65,7 +76,7 @@ void Pantallas::mostrarNueva(const DatosPantalla &datos)
     m_abiertas.insert(datos.cual, nueva);
     // after the screen's own work is over, so that none is opened in the middle of a closing
     connect(nueva, &PantallaBase::mostrar, this, &Pantallas::abrir, Qt::QueuedConnection);
-    nueva->quienAbre([this](Pantalla siguiente) { return abrir(siguiente); });
+    nueva->quienAbre([this, nueva](Pantalla siguiente) { return abrirTras(nueva, siguiente); });
     connect(nueva, &PantallaBase::dicho, this, &Pantallas::dicho);
     connect(nueva, &PantallaBase::cambiaEdicion, this, &Pantallas::cambiadas);
     connect(nueva, &PantallaBase::datosCambiados, this,
@@ -125,6 +136,8 @@ bool Pantallas::puedenCerrarse()
 void Pantallas::terminar()
 {
     m_terminado = true;
+    // screens still on their way out must not reach a window that is going too
+    blockSignals(true);
     for (const Pantalla cual : m_abiertas.keys())
         cerrar(cual);
     for (auto *cerrandose : std::as_const(m_abiertas))
@@ -136,7 +149,7 @@ bool Pantallas::editando() const
 {
     return std::any_of(m_abiertas.keyBegin(), m_abiertas.keyEnd(), [this](Pantalla cual) {
         const auto *abierta = pantalla(cual);
-        return abierta && abierta->edita();
+        return abierta && abierta != m_saliente && abierta->edita();
     });
 }
 

@@ -36,6 +36,7 @@ private:
     PantallaBase *pantalla(Pantalla cual) const;
     void mostrarNueva(const struct DatosPantalla &datos);
     void enmarcar(PantallaBase *nueva, bool amplia);
+    bool abrirTras(PantallaBase *saliente, Pantalla siguiente);
     void traerDelante(PantallaBase *abierta);
     void mostrarDelante(PantallaBase *abierta);
     void suspenderOtras();
@@ -45,5 +46,6 @@ private:
     QMdiArea *m_area;
     QWidget *m_ventana;
     QHash<Pantalla, PantallaBase *> m_abiertas;
+    const PantallaBase *m_saliente = nullptr; ///< about to close for another one
     bool m_terminado = false;
 };
