@@ -295,10 +295,17 @@ private Q_SLOTS:
         if (!elegible)
             QSKIP("the printer dialogue of this platform is another one");
         QVERIFY(o.manos->texto("lblImpresora").contains(u"z.pdf"_s));
+        o.manos->escribir("txtFechaPresentacion", u"31/12/2001"_s);
+        o.responderYPulsar(QMessageBox::Ok, "btnAceptar");
+        QCOMPARE(o.mensajes.texto(),
+                 u"La Fecha de presentación no puede ser anterior al 01/01/2002"_s);
+        QVERIFY(QDir(o.entorno.ruta(u"salida"_s)).isEmpty());
+        o.manos->escribir("txtFechaPresentacion", u"01/01/2002"_s);
         o.responderYPulsar(QMessageBox::Ok, "btnAceptar");
         QVERIFY(o.mensajes.texto().contains(u"z_IT.pdf"_s));
         QCOMPARE(QDir(o.entorno.ruta(u"salida"_s)).entryList(QDir::Files).join(u' '),
                  u"z_AD.pdf z_IT.pdf"_s);
+        QCOMPARE(peticion().FECHAPRE(), 20020101);
         QVERIFY(!o.pantalla->isVisible());
     }
 
