@@ -18,9 +18,9 @@ static constexpr EntradaMenu Entradas[] = {
     {0, "mnuSalir", Msj::MenuSalir, Msj::PistaMenuSalir, Icono::Salir, Mando::Salir, Siempre,
      "Ctrl+Q", true},
 
-    {1, "mnuExport", Msj::MenuExportar, Msj::PistaMenuExportar, Icono::Exportar, Venidera,
+    {1, "mnuExport", Msj::MenuExportar, Msj::PistaMenuExportar, Icono::Exportar, Pantalla::Exportar,
      ConDeclarantes},
-    {1, "mnuImport", Msj::MenuImportar, Msj::PistaMenuImportar, Icono::Importar, Venidera,
+    {1, "mnuImport", Msj::MenuImportar, Msj::PistaMenuImportar, Icono::Importar, Pantalla::Importar,
      SinEdicion},
     {1, "mnuBackup", Msj::MenuCopiaSeguridad, Msj::PistaMenuCopiaSeguridad, Icono::Copia, Venidera,
      Siempre, "", true},

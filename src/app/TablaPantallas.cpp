@@ -9,6 +9,8 @@
 #include "declarations/FrmDatos430.h"
 #include "declarations/FrmDatos480ab.h"
 #include "declarations/FrmDatos480c.h"
+#include "exchange/FrmExportar.h"
+#include "exchange/frmimport.h"
 #include "printing/FrmImOf.h"
 
 #include <algorithm>
@@ -33,6 +35,8 @@ static constexpr DatosPantalla Tabla[] = {
     {Pantalla::Datos480b, crear<FrmDatos480b>, DatosPantalla::Ajustado},
     {Pantalla::Datos480c, crear<FrmDatos480c>, DatosPantalla::Ajustado},
     {Pantalla::Impresion, crear<FrmImOf>, DatosPantalla::Modal},
+    {Pantalla::Exportar, crear<FrmExportar>, DatosPantalla::Amplio},
+    {Pantalla::Importar, crear<frmimport>, DatosPantalla::Ajustado},
     {Pantalla::AcercaDe, crear<frmAbout>, DatosPantalla::Modal},
 };
 

@@ -72,7 +72,7 @@ static Resultado exportarOrden(const Argumentos &argumentos)
     const Exportado exportado = exportar(destino, recorrer, [](qint64) { return true; });
     const QString texto = msj(Msj::Exportados, QString::number(exportado.lineas));
     if (!exportado.motivo.isEmpty())
-        return rechazado(msj(Msj::ExportacionFallida, exportado.motivo) + u'\n' + texto);
+        return rechazado(msj(Msj::ErrorEscribirFichero, destino, exportado.motivo) + u'\n' + texto);
     return hecho(destino == u"-" ? QString() : texto);
 }
 

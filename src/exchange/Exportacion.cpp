@@ -3,14 +3,9 @@
 #include "core/Rutas.h"
 #include "core/Textos.h"
 #include "dataservice/ErrorDatos.h"
-#include "exchange/FicheroErrores.h"
 #include "exchange/FicheroSalida.h"
 #include "exchange/LineaIntercambio.h"
 
-#include <QDir>
-#include <QFileInfo>
-
-#include <algorithm>
 #include <optional>
 
 static constexpr qint64 CadaCuanto = 500; // lines between two looks at the user
@@ -56,21 +51,7 @@ Exportado exportar(const QString &destino, const std::function<void(const Visita
     return hecho;
 }
 
-bool esDelPrograma(const QString &ruta)
-{
-    const QString cual = QFileInfo(ruta).canonicalFilePath();
-    return std::ranges::any_of(QStringList{rutas().datos, rutas().lectura, FicheroErrores::ruta()},
-                               [&](const QString &nuestra) {
-                                   return !cual.isEmpty()
-                                       && cual == QFileInfo(nuestra).canonicalFilePath();
-                               });
-}
-
 QString motivoNoExportable(const QString &destino)
 {
-    const QFileInfo fichero(destino);
-    const QString nombre = QDir::toNativeSeparators(destino);
-    if (!esSalidaEstandar(destino) && fichero.exists() && !fichero.isFile())
-        return msj(Msj::FicheroNoRegular, nombre);
-    return esDelPrograma(destino) ? msj(Msj::FicheroDelPrograma, nombre) : QString();
+    return esSalidaEstandar(destino) ? QString() : motivoRutaRechazada(destino);
 }

@@ -22,8 +22,5 @@ using Visitante = std::function<bool(const Registro &)>; ///< false: no more
 Exportado exportar(const QString &destino, const std::function<void(const Visitante &)> &recorrer,
                    const std::function<bool(qint64)> &seguir);
 
-/// Whether a path leads to a file that the program keeps for itself.
-bool esDelPrograma(const QString &ruta);
-
 /// Why nothing may be written to a file; empty when it can be tried.
 QString motivoNoExportable(const QString &destino);

@@ -1,16 +1,18 @@
 #include "exchange/Importacion.h"
 
+#include "core/Rutas.h"
 #include "core/Servicios.h"
 #include "core/Textos.h"
 #include "dataservice/ErrorDatos.h"
 #include "declarants/CamposDeclarante.h"
-#include "exchange/Exportacion.h"
 #include "exchange/LectorLineas.h"
 #include "exchange/LineaIntercambio.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -182,15 +184,23 @@ bool Importacion::repetido(const Registro &registro)
     return m_vistos.size() == antes;
 }
 
+static bool esElDeErrores(const QString &ruta)
+{
+    std::error_code error;
+    return std::filesystem::equivalent(ruta.toStdU16String(),
+                                       FicheroErrores::ruta().toStdU16String(), error);
+}
+
 QString motivoNoImportable(const QString &ruta)
 {
     const QFileInfo fichero(ruta);
     const QString nombre = QDir::toNativeSeparators(ruta);
     if (!fichero.exists())
         return msj(Msj::NoExisteFicheroImportar);
-    if (!fichero.isFile())
-        return msj(Msj::FicheroNoRegular, nombre);
-    if (esDelPrograma(ruta))
+    if (const QString motivo = motivoRutaRechazada(ruta); !motivo.isEmpty())
+        return motivo;
+    // it is emptied before the first line is read
+    if (esElDeErrores(ruta))
         return msj(Msj::FicheroDelPrograma, nombre);
     if (!QFile(ruta).open(QIODevice::ReadOnly))
         return msj(Msj::FicheroIlegible, nombre);

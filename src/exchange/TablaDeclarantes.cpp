@@ -1,8 +1,10 @@
 #include "exchange/TablaDeclarantes.h"
 
-static qint32 claveDe(const Registro &declarante)
+DeclaranteExportable DeclaranteExportable::de(const Registro &registro)
 {
-    return declarante.value(RegDeclarante::CSCO).toInt();
+    return {registro.value(RegDeclarante::CSCO).toInt(),
+            registro.value(RegDeclarante::DNI).toString(),
+            registro.value(RegDeclarante::NOMBRE).toString(), registro};
 }
 
 void TablaDeclarantes::CLEAR()
@@ -11,31 +13,31 @@ void TablaDeclarantes::CLEAR()
     m_claves.clear();
 }
 
-void TablaDeclarantes::ANADIR(const Registro &declarante)
+void TablaDeclarantes::ANADIR(const DeclaranteExportable &declarante)
 {
     INSERTAR(COUNT() + 1, declarante);
 }
 
-void TablaDeclarantes::INSERTAR(int posicion, const Registro &declarante)
+void TablaDeclarantes::INSERTAR(int posicion, const DeclaranteExportable &declarante)
 {
-    if (PERTENECE(claveDe(declarante)))
+    if (PERTENECE(declarante.csco))
         return;
-    m_claves.insert(claveDe(declarante));
-    m_filas.insert(qBound(0, posicion - 1, COUNT()), QVariant(declarante));
+    m_claves.insert(declarante.csco);
+    m_filas.insert(qBound(0, posicion - 1, COUNT()), declarante);
 }
 
 void TablaDeclarantes::BORRAR(int posicion)
 {
     if (posicion < 1 || posicion > COUNT())
         return;
-    m_claves.remove(claveDe(ELEMENTO(posicion)));
+    m_claves.remove(ELEMENTO(posicion).csco);
     m_filas.removeAt(posicion - 1);
 }
 
-void TablaDeclarantes::filas(const Filas &filas)
+void TablaDeclarantes::filas(const QList<DeclaranteExportable> &filas)
 {
     m_filas = filas;
     m_claves.clear();
-    for (const QVariant &fila : filas)
-        m_claves.insert(claveDe(fila.toList()));
+    for (const auto &fila : filas)
+        m_claves.insert(fila.csco);
 }

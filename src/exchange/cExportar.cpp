@@ -5,10 +5,7 @@
 
 #include <algorithm>
 
-static qint32 claveDe(const QVariant &fila)
-{
-    return fila.toList().value(RegDeclarante::CSCO).toInt();
-}
+using Elementos = QList<DeclaranteExportable>;
 
 QString cExportar::lblTitulo() const
 {
@@ -33,39 +30,39 @@ QString cExportar::lblresultado2() const
 /// Where a declarant goes among the available ones, which are in the order of their places.
 int cExportar::posicionDisponible(qint32 csco) const
 {
-    const Filas &filas = tabla(Contri).filas();
-    const auto lugar = [this](const QVariant &fila) { return m_lugar.value(claveDe(fila)); };
+    const Elementos &filas = tabla(Contri).filas();
+    const auto lugar = [this](const DeclaranteExportable &e) { return m_lugar.value(e.csco); };
     return static_cast<int>(std::ranges::upper_bound(filas, m_lugar.value(csco), {}, lugar)
                             - filas.begin() + 1);
 }
 
 void cExportar::COPIARELEMENTOENTRETABLAS(Tabla origen, int posicion)
 {
-    const Registro elemento = tabla(origen).ELEMENTO(posicion);
-    if (elemento.isEmpty())
+    const DeclaranteExportable elemento = tabla(origen).ELEMENTO(posicion);
+    if (elemento.csco == 0)
         return;
     if (origen == Contri)
         TablaContriExpAÑADIR(elemento);
     else
-        TablaContriINSERTAR(posicionDisponible(claveDe(elemento)), elemento);
+        TablaContriINSERTAR(posicionDisponible(elemento.csco), elemento);
 }
 
 void cExportar::MoverElementos(Tabla origen, const QList<int> &posiciones)
 {
     const Tabla destino = origen == Contri ? ContriExp : Contri;
-    const Filas presentes = tabla(destino).filas();
-    Filas quedan;
-    Filas movidos;
+    const Elementos presentes = tabla(destino).filas();
+    Elementos quedan;
+    Elementos movidos;
     auto siguiente = posiciones.begin();
-    for (int posicion = 1; const QVariant &fila : tabla(origen).filas()) {
+    for (int posicion = 1; const auto &fila : tabla(origen).filas()) {
         const bool movido = siguiente != posiciones.end() && *siguiente == posicion;
         (movido ? movidos : quedan).append(fila);
         siguiente += movido ? 1 : 0;
         ++posicion;
     }
-    Filas juntos = presentes + movidos;
+    Elementos juntos = presentes + movidos;
     if (destino == Contri) {
-        const auto lugar = [this](const QVariant &fila) { return m_lugar.value(claveDe(fila)); };
+        const auto lugar = [this](const DeclaranteExportable &e) { return m_lugar.value(e.csco); };
         std::ranges::sort(movidos, {}, lugar);
         std::ranges::merge(presentes, movidos, juntos.begin(), {}, lugar, lugar);
     }
@@ -75,22 +72,21 @@ void cExportar::MoverElementos(Tabla origen, const QList<int> &posiciones)
 
 void cExportar::CargarDeclarantes()
 {
-    Filas todas;
-    servicioDeclarante()->dameResultadoExportar(todas, m_orden);
     m_lugar.clear();
-    Filas disponibles;
-    QHash<qint32, QVariant> renovados;
-    for (const QVariant &fila : std::as_const(todas)) {
-        const qint32 csco = claveDe(fila);
-        m_lugar.insert(csco, static_cast<int>(m_lugar.size()));
-        if (TablaContriExpPERTENECE(csco))
-            renovados.insert(csco, fila);
+    Elementos disponibles;
+    QHash<qint32, DeclaranteExportable> renovados;
+    servicioDeclarante()->RecorrerExportar(m_orden, [&](const Registro &registro) {
+        const auto leido = DeclaranteExportable::de(registro);
+        m_lugar.insert(leido.csco, static_cast<int>(m_lugar.size()));
+        if (TablaContriExpPERTENECE(leido.csco))
+            renovados.insert(leido.csco, leido);
         else
-            disponibles.append(fila);
-    }
-    Filas elegidos;
-    for (const QVariant &fila : tabla(ContriExp).filas())
-        if (const auto renovado = renovados.constFind(claveDe(fila)); renovado != renovados.cend())
+            disponibles.append(leido);
+        return true;
+    });
+    Elementos elegidos;
+    for (const auto &fila : tabla(ContriExp).filas())
+        if (const auto renovado = renovados.constFind(fila.csco); renovado != renovados.cend())
             elegidos.append(*renovado);
     m_tablas[Contri].filas(disponibles);
     m_tablas[ContriExp].filas(elegidos);
@@ -100,7 +96,7 @@ Exportado cExportar::EscribirFichero(const std::function<bool(qint64)> &seguir) 
 {
     const auto elegidos = [this](const Visitante &visitar) {
         for (int posicion = 1; posicion <= TablaContriExpCOUNT(); ++posicion)
-            if (!visitar(TablaContriExpELEMENTO(posicion)))
+            if (!visitar(TablaContriExpELEMENTO(posicion).registro))
                 return;
     };
     return exportar(m_fichero, elegidos, seguir);

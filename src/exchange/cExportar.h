@@ -31,26 +31,35 @@ public:
     void FICHEROAEXPORTAR(const QString &ruta) { m_fichero = ruta; }
 
     void TablaContriCLEAR() { m_tablas[Contri].CLEAR(); }
-    void TablaContriAÑADIR(const Registro &elemento) { m_tablas[Contri].ANADIR(elemento); }
-    void TablaContriINSERTAR(int posicion, const Registro &elemento)
+    void TablaContriAÑADIR(const DeclaranteExportable &elemento)
+    {
+        m_tablas[Contri].ANADIR(elemento);
+    }
+    void TablaContriINSERTAR(int posicion, const DeclaranteExportable &elemento)
     {
         m_tablas[Contri].INSERTAR(posicion, elemento);
     }
     void TablaContriBORRAR(int posicion) { m_tablas[Contri].BORRAR(posicion); }
     int TablaContriCOUNT() const { return m_tablas[Contri].COUNT(); }
     bool TablaContriPERTENECE(qint32 csco) const { return m_tablas[Contri].PERTENECE(csco); }
-    Registro TablaContriELEMENTO(int posicion) const { return m_tablas[Contri].ELEMENTO(posicion); }
+    DeclaranteExportable TablaContriELEMENTO(int posicion) const
+    {
+        return m_tablas[Contri].ELEMENTO(posicion);
+    }
 
     void TablaContriExpCLEAR() { m_tablas[ContriExp].CLEAR(); }
-    void TablaContriExpAÑADIR(const Registro &elemento) { m_tablas[ContriExp].ANADIR(elemento); }
-    void TablaContriExpINSERTAR(int posicion, const Registro &elemento)
+    void TablaContriExpAÑADIR(const DeclaranteExportable &elemento)
+    {
+        m_tablas[ContriExp].ANADIR(elemento);
+    }
+    void TablaContriExpINSERTAR(int posicion, const DeclaranteExportable &elemento)
     {
         m_tablas[ContriExp].INSERTAR(posicion, elemento);
     }
     void TablaContriExpBORRAR(int posicion) { m_tablas[ContriExp].BORRAR(posicion); }
     int TablaContriExpCOUNT() const { return m_tablas[ContriExp].COUNT(); }
     bool TablaContriExpPERTENECE(qint32 csco) const { return m_tablas[ContriExp].PERTENECE(csco); }
-    Registro TablaContriExpELEMENTO(int posicion) const
+    DeclaranteExportable TablaContriExpELEMENTO(int posicion) const
     {
         return m_tablas[ContriExp].ELEMENTO(posicion);
     }

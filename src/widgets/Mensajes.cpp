@@ -5,6 +5,8 @@
 #include <QAbstractButton>
 #include <QMessageBox>
 
+#include <utility>
+
 namespace mensajes {
 
 static Observador &observador()
@@ -89,6 +91,24 @@ Sustituir sustituir(QWidget *padre, const QString &titulo, const QString &texto)
         return Sustituir::No;
     default:
         return Sustituir::Cancelar;
+    }
+}
+
+Respuesta preguntaDeVarias(QWidget *padre, const QString &titulo, const QString &texto)
+{
+    switch (mostrar(padre, QMessageBox::Question, titulo, texto,
+                    {{QMessageBox::Yes, Msj::BotonSi},
+                     {QMessageBox::YesToAll, Msj::BotonSiATodos},
+                     {QMessageBox::NoToAll, Msj::BotonNoATodos},
+                     {QMessageBox::No, Msj::BotonNo}})) {
+    case QMessageBox::Yes:
+        return Respuesta::Si;
+    case QMessageBox::YesToAll:
+        return Respuesta::SiATodos;
+    case QMessageBox::NoToAll:
+        return Respuesta::NoATodos;
+    default:
+        return Respuesta::No;
     }
 }
 

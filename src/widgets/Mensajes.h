@@ -26,6 +26,10 @@ Abrir guardado(QWidget *padre, const QString &titulo, const QString &texto);
 enum class Sustituir { Si, No, Cancelar };
 Sustituir sustituir(QWidget *padre, const QString &titulo, const QString &texto);
 
+/// The same about one of many; an answer "to all" is meant for the others too.
+enum class Respuesta { Si, No, SiATodos, NoATodos };
+Respuesta preguntaDeVarias(QWidget *padre, const QString &titulo, const QString &texto);
+
 /// Called with each box just before it opens; tests read and answer the real window through it.
 using Observador = std::function<void(QMessageBox &)>;
 void observar(Observador observador);

@@ -19,6 +19,8 @@ enum class Pantalla {
     Datos480b,
     Datos480c,
     Impresion,
+    Exportar,
+    Importar,
     AcercaDe,
 };
 
