@@ -31,9 +31,6 @@ PantallaProceso::PantallaProceso(const QString &nombre, QWidget *padre)
     fila->addWidget(m_prgProgreso, 1);
     fila->addWidget(m_lblProgreso);
     fila->addWidget(m_cmdDetener);
-    auto sitio = m_fraProgreso->sizePolicy();
-    sitio.setRetainSizeWhenHidden(true);
-    m_fraProgreso->setSizePolicy(sitio);
     m_fraProgreso->hide();
 
     auto *todo = new QVBoxLayout(this);

@@ -76,6 +76,7 @@ frmimport::frmimport(QWidget *padre)
     presentarCuenta({});
     informarErrores(false);
     conectar();
+    m_txtFichero->setText(QDir::toNativeSeparators(estado().FICHEROAIMPORTAR()));
 }
 
 void frmimport::crearResultados()
@@ -158,7 +159,17 @@ void frmimport::conectar()
 
 QSize frmimport::sizeHint() const
 {
-    return PantallaProceso::sizeHint().expandedTo({90 * fontMetrics().averageCharWidth(), 0});
+    // room for the progress and for the name of the error file
+    const int linea = fontMetrics().height();
+    return {90 * fontMetrics().averageCharWidth(),
+            PantallaProceso::sizeHint().height() + 6 * linea};
+}
+
+void frmimport::showEvent(QShowEvent *evento)
+{
+    PantallaProceso::showEvent(evento);
+    if (!evento->spontaneous() && !focusWidget())
+        m_txtFichero->setFocus(Qt::OtherFocusReason);
 }
 
 void frmimport::Anadir_captions()
@@ -181,7 +192,7 @@ void frmimport::Anadir_captions()
     m_cmdImportar->setToolTip(msj(Msj::PistaImportarContribuyentes));
     m_cmdCancelar->setText(msj(Msj::BotonCerrar));
     m_cmdCancelar->setToolTip(msj(Msj::PistaVolverMenu));
-    if (m_examinado == huella())
+    if (!m_lblResumen->text().isEmpty())
         presentarResumen();
 }
 

@@ -25,6 +25,7 @@ public:
 protected:
     void dragEnterEvent(QDragEnterEvent *evento) override;
     void dropEvent(QDropEvent *evento) override;
+    void showEvent(QShowEvent *evento) override;
 
 private:
     using Huella = std::tuple<QString, QDateTime, qint64>; ///< path, last change, bytes

@@ -1,0 +1,307 @@
+#include "core/CEntrada.h"
+#include "exchange/FrmExportar.h"
+#include "exchange/Importacion.h"
+#include "exchange/frmimport.h"
+#include "support/LineasPrueba.h"
+#include "support/PantallaAbierta.h"
+#include "widgets/Ficheros.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTimer>
+
+/// Notes the files that the desktop is asked to open.
+class Escritorio : public QObject
+{
+    Q_OBJECT
+
+public:
+    Escritorio() { QDesktopServices::setUrlHandler(u"file"_s, this, "abrir"); }
+    ~Escritorio() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
+
+    Q_INVOKABLE void abrir(const QUrl &direccion) { abiertos += direccion.toLocalFile(); }
+
+    QStringList abiertos;
+};
+
+/// Declarants 1 to 3, by name the other way round.
+struct Exportar : PantallaAbierta<FrmExportar>
+{
+    Exportar()
+    {
+        for (const int numero : {2, 1, 3})
+            Entorno::altaDeclarante(lineas::dni(numero), QString(u"CBA"_s.at(numero - 1)));
+        abrir();
+        manos->escribir("txtFichero", destino());
+    }
+    QString destino() const { return entorno.ruta(u"fuera.txt"_s); }
+    QTableView *grid(const char *nombre) const { return manos->control<QTableView>(nombre); }
+    /// The names in both lists.
+    QString nombres() const
+    {
+        QString texto;
+        for (const char *nombre : {"flxContri", "flxContriExp"}) {
+            const auto *modelo = grid(nombre)->model();
+            for (int i = 0; i < modelo->rowCount(); ++i)
+                texto += modelo->index(i, 2).data().toString();
+            texto += u'|';
+        }
+        return texto.chopped(1);
+    }
+    QPoint fila(const char *nombre, int numero) const
+    {
+        return grid(nombre)->visualRect(grid(nombre)->model()->index(numero, 2)).center();
+    }
+};
+
+struct Importar : PantallaAbierta<frmimport>
+{
+    explicit Importar(const QByteArray &contenido)
+    {
+        lineas::escribir(origen(), contenido);
+        abrir();
+        manos->escribir("txtFichero", origen());
+    }
+    QString origen() const { return entorno.ruta(u"dentro.txt"_s); }
+    QStringList cuentas() const
+    {
+        return {manos->texto("lblNumImportados"), manos->texto("lblNumIncorrectos"),
+                manos->texto("lblNumSustituidos"), manos->texto("lblNumIgnorados")};
+    }
+};
+
+class TestIntercambioPantallas : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void listas()
+    {
+        Exportar e;
+        QCOMPARE(e.pantalla->windowTitle(), u"Exportar declarante"_s);
+        QCOMPARE(e.manos->texto("lblTitulo"), u"Exportar declarante"_s);
+        QCOMPARE(e.manos->texto("lblayuda"),
+                 u"Seleccione en la lista inferior los DNI que desea exportar"_s);
+        QCOMPARE(e.nombres(), u"CBA|"_s);
+        const auto *modelo = e.grid("flxContri")->model();
+        QCOMPARE(modelo->headerData(0, Qt::Horizontal).toString(), u"NºCon."_s);
+        QCOMPARE(modelo->index(0, 1).data().toString(), lineas::dni(1));
+        QVERIFY(!e.manos->control("cmdExportar")->isEnabled());
+        e.grid("flxContri")->setFocus();
+        QTest::keyClick(e.grid("flxContri"), Qt::Key_Down, Qt::ShiftModifier);
+        e.manos->pulsar("cmdAnadir");
+        QCOMPARE(e.nombres(), u"A|CB"_s);
+        QCOMPARE(e.manos->texto("lblResultado1"), u"1 declarantes seleccionados"_s);
+        QCOMPARE(e.manos->texto("lblresultado2"), u"2 declarantes seleccionados para exportar "_s);
+        QTest::mouseClick(e.grid("flxContriExp")->viewport(), Qt::LeftButton, {},
+                          e.fila("flxContriExp", 0));
+        QTest::mouseDClick(e.grid("flxContriExp")->viewport(), Qt::LeftButton, {},
+                           e.fila("flxContriExp", 0));
+        QCOMPARE(e.nombres(), u"CA|B"_s);
+        e.manos->pulsar("cmdAnadirTodos");
+        QCOMPARE(e.nombres(), u"|BCA"_s);
+        QVERIFY(!e.manos->control("cmdAnadir")->isEnabled());
+        e.manos->pulsar("cmdRetirar");
+        QCOMPARE(e.nombres(), u"B|CA"_s);
+        e.manos->pulsar("cmdRetirarTodos");
+        QCOMPARE(e.nombres(), u"CBA|"_s);
+        auto *cabecera = e.grid("flxContri")->horizontalHeader();
+        QTest::mouseClick(cabecera->viewport(), Qt::LeftButton, {},
+                          {cabecera->sectionViewportPosition(2) + 8, 5});
+        QCOMPARE(e.nombres(), u"ABC|"_s);
+        e.grid("flxContri")->setFocus();
+        QTest::keyClicks(e.grid("flxContri"), u"c"_s);
+        QTest::keyClick(e.grid("flxContri"), Qt::Key_Return);
+        QCOMPARE(e.nombres(), u"AB|C"_s);
+        Entorno::pasarAEuskera(*e.pantalla);
+        QCOMPARE(e.pantalla->windowTitle(), u"Esportatu aitortzaileak"_s);
+        QCOMPARE(e.manos->texto("lblResultado1"), u"2 aitortzaile hautatu d(ir)a"_s);
+        QCOMPARE(e.manos->texto("lblresultado2"), u"1 aitortzaile hautatu dira esportatzeko"_s);
+        QCOMPARE(e.nombres(), u"AB|C"_s);
+    }
+
+    void escribirFichero()
+    {
+        Exportar e;
+        e.manos->pulsar("cmdAnadirTodos");
+        e.manos->pulsar("cmdExportar");
+        const QByteArray escrito = lineas::leer(e.destino());
+        QCOMPARE(escrito.size(), 3 * 155);
+        QVERIFY(escrito.startsWith(lineas::dni(1).toLatin1()));
+        // whatever the answer, the file is written again
+        for (const auto respuesta : {QMessageBox::No, QMessageBox::Yes}) {
+            lineas::escribir(e.destino(), "old");
+            e.responderYPulsar(respuesta, "cmdExportar");
+            const auto vistos = e.mensajes.tomar();
+            QCOMPARE(vistos.size(), 1);
+            QCOMPARE(vistos[0].titulo, u"Confirmación..."_s);
+            QCOMPARE(vistos[0].texto, u"El archivo ya existe. ¿Desea sobreescribirlo?"_s);
+            QCOMPARE(lineas::leer(e.destino()), escrito);
+        }
+        e.manos->escribir("txtFichero", rutas().modelo);
+        e.responderYPulsar(QMessageBox::Ok, "cmdExportar");
+        QVERIFY(e.mensajes.texto().contains(u"del propio programa"));
+        e.manos->escribir("txtFichero", e.entorno.ruta(u"no/hay.txt"_s));
+        e.responderYPulsar(QMessageBox::Ok, "cmdExportar");
+        QVERIFY(e.mensajes.texto().startsWith(u"No se ha podido escribir el fichero"));
+    }
+
+    void dialogoFichero()
+    {
+        Exportar e;
+        QString titulo;
+        QStringList filtros;
+        ficheros::observar([&](QFileDialog &dialogo) {
+            titulo = dialogo.windowTitle();
+            filtros = dialogo.nameFilters();
+            QTimer::singleShot(0, &dialogo, &QDialog::accept);
+        });
+        e.manos->escribir("txtFichero", e.entorno.ruta(u"Contri.txt"_s));
+        e.manos->pulsar("cmdFichero");
+        ficheros::observar({});
+        QCOMPARE(titulo, u"Exportar a..."_s);
+        QCOMPARE(filtros, (QStringList{u"*.txt"_s, u"*.*"_s}));
+        QCOMPARE(e.manos->texto("txtFichero"),
+                 QDir::toNativeSeparators(e.entorno.ruta(u"Contri.txt"_s)));
+    }
+
+    void importarPreguntando()
+    {
+        Importar i(lineas::fichero(1, 3) + "corta\r\n");
+        QSignalSpy cambios(i.pantalla.get(), &PantallaBase::datosCambiados);
+        Entorno::altaDeclarante(lineas::dni(2), u"VIEJA"_s);
+        i.manos->tecla(Qt::Key_Return);
+        QTRY_COMPARE(i.manos->texto("lblResumen"),
+                     u"Líneas: 4. Nuevos: 2. Ya existentes: 1. Incorrectas: 1."_s);
+        QVERIFY(!i.manos->control("cmdAbrirErrores")->isVisible());
+        i.mensajes.responder(QMessageBox::No);
+        i.responderYPulsar(QMessageBox::Ok, "cmdImportar");
+        const auto vistos = i.mensajes.tomar();
+        QCOMPARE(vistos.size(), 2);
+        QCOMPARE(vistos[0].titulo, u"Importar declarantes"_s);
+        QCOMPARE(vistos[0].texto,
+                 u"El declarante con dni-cif %1 ya existe \r"
+                 "¿Está seguro que desea sustituirlo?"_s.arg(lineas::dni(2)));
+        QCOMPARE(vistos[0].icono, QMessageBox::Question);
+        QCOMPARE(vistos[0].porDefecto, QMessageBox::No);
+        QCOMPARE(vistos[1].texto, u"Hay 1 declarante erroneo"_s);
+        QCOMPARE(vistos[1].icono, QMessageBox::Information);
+        QCOMPARE(i.cuentas(), (QStringList{u"2"_s, u"1"_s, u"0"_s, u"1"_s}));
+        QCOMPARE(i.manos->texto("lblErrores"),
+                 u"Consulte el fichero para  visualizar los errores de importación :"_s);
+        QCOMPARE(i.manos->texto("lblFicheroErrores"),
+                 QDir::toNativeSeparators(FicheroErrores::ruta()));
+        QCOMPARE(cambios.count(), 1);
+        QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 3);
+        const Escritorio escritorio;
+        i.manos->pulsar("cmdAbrirErrores");
+        QCOMPARE(escritorio.abiertos, QStringList{FicheroErrores::ruta()});
+
+        i.mensajes.responder(QMessageBox::YesToAll);
+        i.responderYPulsar(QMessageBox::Ok, "cmdImportar");
+        QCOMPARE(i.mensajes.tomar().size(), 2);
+        QCOMPARE(i.cuentas(), (QStringList{u"0"_s, u"1"_s, u"3"_s, u"0"_s}));
+        i.manos->pulsar("chkauto");
+        i.responderYPulsar(QMessageBox::Ok, "cmdImportar");
+        QCOMPARE(i.mensajes.tomar().size(), 1);
+        QCOMPARE(i.cuentas(), (QStringList{u"0"_s, u"1"_s, u"3"_s, u"0"_s}));
+        Entorno::pasarAEuskera(*i.pantalla);
+        QCOMPARE(i.pantalla->windowTitle(), u"Inportatu aitortzaileak"_s);
+        QCOMPARE(i.manos->texto("chkauto").remove(u'&'), u"Automatikoa"_s);
+        i.manos->pulsar("chkauto");
+        i.mensajes.responder(QMessageBox::NoToAll);
+        i.responderYPulsar(QMessageBox::Ok, "cmdImportar");
+        QCOMPARE(i.mensajes.tomar().value(0).texto,
+                 lineas::dni(1)
+                     + u" zk.ko NA/IFK duen aitortzailea lehenagotik dago \r"
+                       "Ziur al zaude ordezkatu nahi duzula?"_s);
+        QCOMPARE(i.cuentas(), (QStringList{u"0"_s, u"1"_s, u"0"_s, u"3"_s}));
+    }
+
+    void noImportable()
+    {
+        Importar i("");
+        i.responderYPulsar(QMessageBox::Ok, "cmdImportar");
+        QVERIFY(i.mensajes.texto().contains(u"está vacío"));
+        QFile::remove(i.origen());
+        i.responderYPulsar(QMessageBox::Ok, "cmdImportar");
+        QCOMPARE(i.mensajes.texto(), u"No existe el fichero que se desea importar"_s);
+    }
+
+    /// Stopped by the button, by Escape or by closing the frame, at the first sign of life.
+    void detener_data()
+    {
+        QTest::addColumn<QString>("manera");
+        for (const char *manera : {"cmdDetener", "Escape", "close"})
+            QTest::newRow(manera) << QString::fromLatin1(manera);
+    }
+    void detener()
+    {
+        QFETCH(QString, manera);
+        Importar i(lineas::fichero(1, 1500));
+        i.manos->tecla(Qt::Key_Return);
+        QTRY_VERIFY(!i.manos->texto("lblResumen").isEmpty());
+        QString progreso;
+        bool ocupada = false;
+        // once the bar is there; the same look at the screen that a person takes
+        QTimer mirada;
+        connect(&mirada, &QTimer::timeout, this, [&] {
+            if (!i.manos->control("cmdDetener")->isVisible())
+                return;
+            mirada.stop();
+            progreso = i.manos->texto("lblProgreso");
+            ocupada = i.pantalla->edita() && !i.manos->control("cmdImportar")->isEnabled();
+            if (manera == u"Escape")
+                QTest::keyClick(i.pantalla.get(), Qt::Key_Escape);
+            else if (manera == u"close")
+                i.pantalla->close();
+            else
+                i.manos->pulsar("cmdDetener");
+        });
+        mirada.start(0);
+        i.responderYPulsar(QMessageBox::Ok, "cmdImportar");
+        QCOMPARE(progreso, u"Línea 500 de 1500"_s);
+        QVERIFY(ocupada);
+        QCOMPARE(i.mensajes.texto(), u"Se ha detenido la importación después de la línea 500."_s);
+        QCOMPARE(i.cuentas(), (QStringList{u"500"_s, u"0"_s, u"0"_s, u"0"_s}));
+        QVERIFY(i.pantalla->isVisible() && !i.pantalla->edita());
+        QVERIFY(!i.manos->control("prgProgreso")->isVisible());
+        QVERIFY(i.manos->control("cmdImportar")->isEnabled());
+    }
+
+    void arrastrar()
+    {
+        Importar i(lineas::fichero(1, 2));
+        i.manos->escribir("txtFichero", QString());
+        const auto soltar = [&](const QList<QUrl> &direcciones) {
+            QMimeData datos;
+            datos.setUrls(direcciones);
+            QDragEnterEvent entrada({5, 5}, Qt::CopyAction, &datos, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(i.pantalla.get(), &entrada);
+            if (!entrada.isAccepted())
+                return false;
+            QDropEvent caida({5, 5}, Qt::CopyAction, &datos, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(i.pantalla.get(), &caida);
+            return true;
+        };
+        const QUrl fichero = QUrl::fromLocalFile(i.origen());
+        QVERIFY(!soltar({QUrl(u"https://nowhere.example/Contri.txt"_s)}));
+        QVERIFY(!soltar({fichero, fichero}));
+        QVERIFY(soltar({fichero}));
+        QTRY_COMPARE(i.manos->texto("lblResumen"),
+                     u"Líneas: 2. Nuevos: 2. Ya existentes: 0. Incorrectas: 0."_s);
+        QCOMPARE(i.manos->texto("txtFichero"), QDir::toNativeSeparators(i.origen()));
+    }
+};
+
+QTEST_MAIN(TestIntercambioPantallas)
+#include "tst_intercambio_pantallas.moc"
