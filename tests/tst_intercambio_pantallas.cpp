@@ -1,3 +1,4 @@
+#include "app/MDIOstrel.h"
 #include "core/CEntrada.h"
 #include "exchange/FrmExportar.h"
 #include "exchange/Importacion.h"
@@ -6,6 +7,7 @@
 #include "support/PantallaAbierta.h"
 #include "widgets/Ficheros.h"
 
+#include <QAction>
 #include <QDesktopServices>
 #include <QDir>
 #include <QDropEvent>
@@ -13,8 +15,10 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
 #include <QProgressBar>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTimer>
@@ -276,6 +280,43 @@ private Q_SLOTS:
         QVERIFY(i.pantalla->isVisible() && !i.pantalla->edita());
         QVERIFY(!i.manos->control("prgProgreso")->isVisible());
         QVERIFY(i.manos->control("cmdImportar")->isEnabled());
+    }
+
+    /// While the import runs nothing else can be begun, nor the program left.
+    void ventanaOcupada()
+    {
+        const Entorno entorno;
+        ConductorMensajes mensajes;
+        MDIOstrel ventana;
+        ventana.show();
+        Entorno::altaDeclarante();
+        lineas::escribir(entorno.ruta(u"dentro.txt"_s), lineas::fichero(1, 1200));
+        ventana.findChild<QAction *>(u"mnuImport"_s)->trigger();
+        auto *importar = ventana.findChild<frmimport *>();
+        QVERIFY(importar);
+        const Manos manos(*importar);
+        manos.escribir("txtFichero", entorno.ruta(u"dentro.txt"_s));
+        QStringList usables;
+        bool cerrada = true;
+        QTimer mirada;
+        connect(&mirada, &QTimer::timeout, this, [&] {
+            if (!importar->trabaja())
+                return;
+            mirada.stop();
+            for (const auto *accion :
+                 ventana.findChildren<QAction *>(QRegularExpression(u"^mnu"_s)))
+                if (accion->isEnabled() && !accion->menu())
+                    usables += accion->objectName();
+            cerrada = ventana.close();
+        });
+        mirada.start(0);
+        mensajes.responder(QMessageBox::Ok);
+        manos.pulsar("cmdImportar");
+        QCOMPARE(mensajes.texto(), u"Sus datos han sido importados correctamente"_s);
+        QCOMPARE(usables, QStringList());
+        QVERIFY(!cerrada && ventana.isVisible());
+        QVERIFY(ventana.findChild<QAction *>(u"mnuExport"_s)->isEnabled());
+        QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 1201);
     }
 
     void arrastrar()

@@ -92,7 +92,7 @@ void MDIOstrel::changeEvent(QEvent *evento)
 
 void MDIOstrel::closeEvent(QCloseEvent *evento)
 {
-    if (!m_pantallas->puedenCerrarse()) {
+    if (m_pantallas->trabajando() || !m_pantallas->puedenCerrarse()) {
         evento->ignore();
         return;
     }
@@ -179,6 +179,7 @@ void MDIOstrel::actualizarEstados()
         CambiarIdioma();
     Situacion situacion;
     situacion.editando = m_pantallas->editando();
+    situacion.trabajando = m_pantallas->trabajando();
     try {
         auto &entrada = unico::la<CEntrada>();
         entrada.InicializarContadores();

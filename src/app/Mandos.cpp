@@ -24,6 +24,8 @@ static QString motivoContra(const EntradaMenu &entrada, const Situacion &situaci
 {
     if (std::holds_alternative<std::monostate>(entrada.destino))
         return msj(Msj::ProximaVersion);
+    if (situacion.trabajando)
+        return msj(Msj::DeshabilitadoEnProceso);
     if ((entrada.condiciones & SinEdicion) && situacion.editando)
         return msj(Msj::DeshabilitadoEnEdicion);
     if ((entrada.condiciones & ConDeclarantes) && !situacion.hayDeclarantes)

@@ -14,6 +14,7 @@ class QToolBar;
 struct Situacion
 {
     bool editando = false; ///< an open screen owns its record
+    bool trabajando = false; ///< an open screen is in the middle of a long work
     bool hayDeclarantes = false;
     QString motivoSinDeclarantes; ///< why not
 };

@@ -145,12 +145,22 @@ void Pantallas::terminar()
     m_abiertas.clear();
 }
 
+bool Pantallas::alguna(bool (PantallaBase::*condicion)() const) const
+{
+    return std::any_of(m_abiertas.keyBegin(), m_abiertas.keyEnd(), [&](Pantalla cual) {
+        const auto *abierta = pantalla(cual);
+        return abierta && abierta != m_saliente && (abierta->*condicion)();
+    });
+}
+
 bool Pantallas::editando() const
 {
-    return std::any_of(m_abiertas.keyBegin(), m_abiertas.keyEnd(), [this](Pantalla cual) {
-        const auto *abierta = pantalla(cual);
-        return abierta && abierta != m_saliente && abierta->edita();
-    });
+    return alguna(&PantallaBase::edita);
+}
+
+bool Pantallas::trabajando() const
+{
+    return alguna(&PantallaBase::trabaja);
 }
 
 /// A screen left behind could rewrite the record that another one is editing.

@@ -26,6 +26,8 @@ public:
     void terminar();
     /// Whether a screen is open that owns its record.
     bool editando() const;
+    /// Whether one is open that is in the middle of a long work.
+    bool trabajando() const;
 
 Q_SIGNALS:
     void cambiadas(); ///< one was opened or closed
@@ -34,6 +36,7 @@ Q_SIGNALS:
 
 private:
     PantallaBase *pantalla(Pantalla cual) const;
+    bool alguna(bool (PantallaBase::*condicion)() const) const;
     void mostrarNueva(const struct DatosPantalla &datos);
     void enmarcar(PantallaBase *nueva, bool amplia);
     bool abrirTras(PantallaBase *saliente, Pantalla siguiente);

@@ -14,6 +14,7 @@ class PantallaProceso : public PantallaBase
 
 public:
     bool edita() const override { return m_trabajando; }
+    bool trabaja() const override { return m_trabajando; }
     void Anadir_captions() override;
 
 protected:
@@ -27,7 +28,6 @@ protected:
     bool trabajar(qint64 total, const std::function<void()> &trabajo);
     /// Shows how far it has come; false when it is to stop.
     bool paso(qint64 linea);
-    bool trabajando() const { return m_trabajando; }
 
     void closeEvent(QCloseEvent *evento) override;
 

@@ -251,7 +251,7 @@ void frmimport::presentarResumen()
 
 void frmimport::importar()
 {
-    if (trabajando())
+    if (trabaja())
         return;
     const QString ruta = estado().FICHEROAIMPORTAR();
     if (const QString motivo = motivoNoImportable(ruta); !motivo.isEmpty()) {
@@ -325,7 +325,7 @@ void frmimport::abrirErrores()
 
 void frmimport::dragEnterEvent(QDragEnterEvent *evento)
 {
-    if (!trabajando() && !ficheroArrastrado(evento->mimeData()).isEmpty())
+    if (!trabaja() && !ficheroArrastrado(evento->mimeData()).isEmpty())
         evento->acceptProposedAction();
 }
 

@@ -43,6 +43,8 @@ public:
     /// Whether the screen owns a record while it is open, so that nothing else may rewrite it.
     /// One whose answer changes while it is open emits `cambiaEdicion`.
     virtual bool edita() const { return false; }
+    /// Whether it is in the middle of a long work: nothing else can be begun until that ends.
+    virtual bool trabaja() const { return false; }
     /// Whether closing now would lose what the user changed.
     virtual bool modificada() const { return false; }
     /// Sets every text in the session's language.
