@@ -151,7 +151,7 @@ private Q_SLOTS:
             QCOMPARE(vistos[0].texto, u"El archivo ya existe. ¿Desea sobreescribirlo?"_s);
             QCOMPARE(lineas::leer(e.destino()), escrito);
         }
-        e.manos->escribir("txtFichero", rutas().modelo);
+        e.manos->escribir("txtFichero", rutas().datos);
         e.responderYPulsar(QMessageBox::Ok, "cmdExportar");
         QVERIFY(e.mensajes.texto().contains(u"del propio programa"));
         e.manos->escribir("txtFichero", e.entorno.ruta(u"no/hay.txt"_s));

@@ -1,5 +1,6 @@
 #include "exchange/FrmExportar.h"
 
+#include "core/Busqueda.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "exchange/CarpetaPropuesta.h"
@@ -16,8 +17,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
-
-#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -72,7 +71,16 @@ FrmExportar::Lista FrmExportar::nuevaLista(const QString &nombre, const QString 
     grid->setModel(modelo);
     prepararTabla(grid);
     grid->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    return {grid, modelo, new cUtilidadesGrid(grid), nuevaEtiqueta(resultado, contenido())};
+    auto filtrar = [modelo](const QString &texto) {
+        const QString plegado = busqueda::plegar(texto);
+        modelo->filtrar([plegado](const Fila &fila) {
+            return busqueda::contiene(fila.nombre, plegado)
+                || busqueda::contiene(fila.dni, plegado);
+        });
+        return modelo->rowCount() > 0;
+    };
+    return {grid, modelo, new cUtilidadesGrid(grid, filtrar),
+            nuevaEtiqueta(resultado, contenido())};
 }
 
 QLayout *FrmExportar::columnaLista(const Lista &lista) const
@@ -288,13 +296,14 @@ void FrmExportar::alSeleccionar(cExportar::Tabla cual)
 
 void FrmExportar::mover(cExportar::Tabla origen, bool todos)
 {
+    const Lista &lista = m_listas[origen];
     QList<int> posiciones;
     if (todos) {
-        posiciones.resize(estado().tabla(origen).COUNT());
-        std::iota(posiciones.begin(), posiciones.end(), 1);
+        for (int fila = 0; fila < lista.modelo->rowCount(); ++fila)
+            posiciones += lista.modelo->lugar(fila) + 1;
     } else {
-        for (const QModelIndex &indice : m_listas[origen].grid->selectionModel()->selectedRows())
-            posiciones += indice.row() + 1;
+        for (const QModelIndex &indice : lista.grid->selectionModel()->selectedRows())
+            posiciones += lista.modelo->lugar(indice.row()) + 1;
         std::ranges::sort(posiciones);
     }
     estado().MoverElementos(origen, posiciones);

@@ -66,6 +66,8 @@ public:
     /// The row shown at `numero`.
     const Fila &fila(int numero) const { return m_filas.at(m_visibles[posicion(numero)]); }
     const QList<Fila> &todas() const { return m_filas; }
+    /// Its place among all rows, shown or not.
+    int lugar(int numero) const { return m_visibles[posicion(numero)]; }
 
     /// Place among the rows shown of the first whose `dato` is `valor`; -1 when there is none.
     template <class Valor> int buscar(Valor Fila::*dato, const Valor &valor) const
