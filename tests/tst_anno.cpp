@@ -1,6 +1,7 @@
 #include "app/MDIOstrel.h"
 #include "core/Periodos.h"
 #include "declarants/cDecResumen.h"
+#include "support/ConductorMensajes.h"
 #include "support/Entorno.h"
 #include "support/Manos.h"
 #include "widgets/PantallaBase.h"
@@ -10,9 +11,10 @@
 
 using namespace Qt::StringLiterals;
 
-/// A whole year filed in the main window by keyboard alone: twelve 430s, their 480 as proposed
-/// after December, and the January after it.
-class PruebaAnno : public QObject
+/// A whole year filed in the main window: twelve 430s, their 480 as proposed after December, and
+/// the January after it. By keyboard; a button's access key the first time, later with the mouse,
+/// for each such key takes Qt a sixth of a second.
+class TstAnno : public QObject
 {
     Q_OBJECT
 
@@ -30,17 +32,33 @@ private:
     /// The screen called `nombre`, once it is there with the focus in it.
     void esperar(const char *nombre)
     {
-        QTRY_VERIFY(m_ventana->findChild<PantallaBase *>(QString::fromLatin1(nombre)));
-        m_pantalla = m_ventana->findChild<PantallaBase *>(QString::fromLatin1(nombre));
+        const auto visible = [&]() -> PantallaBase * {
+            for (auto *una : m_ventana->findChildren<PantallaBase *>(QString::fromLatin1(nombre)))
+                if (una->isVisible())
+                    return una;
+            return nullptr;
+        };
+        QTRY_VERIFY(visible());
+        m_pantalla = visible();
         QTRY_VERIFY(m_pantalla->isAncestorOf(QApplication::focusWidget()));
     }
     /// Presses the access key that the caption of a button underlines.
     void acceso(const char *boton)
     {
-        const QString texto = Manos(*m_pantalla).control<QAbstractButton>(boton)->text();
+        const Manos manos(*m_pantalla);
+        const QString nombre = m_pantalla->objectName() + QString::fromLatin1(boton);
+        if (m_conTeclado.contains(nombre)) {
+            manos.pulsar(boton);
+            return;
+        }
+        m_conTeclado.insert(nombre);
+        const QString texto = manos.control<QAbstractButton>(boton)->text();
         const QChar letra = texto.at(texto.indexOf(u'&') + 1).toUpper();
         QVERIFY(letra.isLetter());
+        const QPointer<PantallaBase> antes = m_pantalla;
+        const QString foco = manos.foco();
         tecla(static_cast<Qt::Key>(letra.unicode()), Qt::AltModifier);
+        QTRY_VERIFY_WITH_TIMEOUT(!antes || antes->isHidden() || manos.foco() != foco, 1000);
     }
     /// Both presses for a new return; `primera`: nothing is proposed yet.
     void nueva(bool primera)
@@ -66,18 +84,13 @@ private:
     }
 
     PantallaBase *m_pantalla = nullptr;
+    QSet<QString> m_conTeclado; ///< buttons already reached by their access keys
 
 private Q_SLOTS:
-    void unAnno_data()
-    {
-        QTest::addColumn<QString>("idioma");
-        QTest::newRow("C") << u"C"_s;
-        QTest::newRow("E") << u"E"_s;
-    }
     void unAnno()
     {
-        QFETCH(QString, idioma);
-        const Entorno entorno(idioma);
+        const Entorno entorno(u"E"_s);
+        const ConductorMensajes ninguno;
         Entorno::altaDeclarante();
         m_ventana = std::make_unique<MDIOstrel>();
         m_ventana->show();
@@ -112,5 +125,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PruebaAnno)
+QTEST_MAIN(TstAnno)
 #include "tst_anno.moc"

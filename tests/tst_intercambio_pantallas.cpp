@@ -124,7 +124,9 @@ private Q_SLOTS:
         QCOMPARE(e.nombres(), u"ABC|"_s);
         e.grid("flxContri")->setFocus();
         QTest::keyClicks(e.grid("flxContri"), u"c"_s);
+        QCOMPARE(e.nombres(), u"C|"_s);
         QTest::keyClick(e.grid("flxContri"), Qt::Key_Return);
+        QTest::keyClick(e.grid("flxContri"), Qt::Key_Escape);
         QCOMPARE(e.nombres(), u"AB|C"_s);
         Entorno::pasarAEuskera(*e.pantalla);
         QCOMPARE(e.pantalla->windowTitle(), u"Esportatu aitortzaileak"_s);

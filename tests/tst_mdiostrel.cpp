@@ -263,7 +263,7 @@ private Q_SLOTS:
         QCOMPARE(habilitadas({"d1", "mnuAbrirDeclarante", "elidec", "mnuSalir"}),
                  QList<bool>({false, false, false, true}));
         QCOMPARE(accion("d1")->statusTip(), msj(Msj::DeshabilitadoEnEdicion));
-        QCOMPARE(accion("mnuImport")->toolTip(), msj(Msj::ProximaVersion));
+        QCOMPARE(accion("mnuImport")->toolTip(), msj(Msj::DeshabilitadoEnEdicion));
     }
 
     void cambioDeIdiomaLlegaALasPantallas()
