@@ -71,12 +71,13 @@ FrmExportar::Lista FrmExportar::nuevaLista(const QString &nombre, const QString 
     grid->setModel(modelo);
     prepararTabla(grid);
     grid->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    auto filtrar = [modelo](const QString &texto) {
+    auto filtrar = [grid, modelo](const QString &texto) {
         const QString plegado = busqueda::plegar(texto);
         modelo->filtrar([plegado](const Fila &fila) {
             return busqueda::contiene(fila.nombre, plegado)
                 || busqueda::contiene(fila.dni, plegado);
         });
+        grid->selectRow(0);
         return modelo->rowCount() > 0;
     };
     return {grid, modelo, new cUtilidadesGrid(grid, filtrar),

@@ -62,8 +62,12 @@ void PantallaBase::ejecutar()
 
 void PantallaBase::cerrarA(Pantalla siguiente)
 {
-    if (siguiente != Pantalla::Ninguna && m_abridor && !m_abridor(siguiente))
+    m_entregando = true;
+    if (siguiente != Pantalla::Ninguna && m_abridor && !m_abridor(siguiente)) {
+        m_entregando = false;
+        Q_EMIT cambiaEdicion();
         return;
+    }
     m_terminada = true;
     m_siguiente = m_abridor ? Pantalla::Ninguna : siguiente;
     descartarCajas();
