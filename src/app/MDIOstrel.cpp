@@ -49,8 +49,6 @@ MDIOstrel::MDIOstrel(QWidget *padre)
 MDIOstrel::~MDIOstrel()
 {
     DescargarTodosLosFormularios();
-    // a screen on its way out still tells of itself, when the menus are gone
-    m_pantallas->disconnect(this);
 }
 
 void MDIOstrel::conectar()

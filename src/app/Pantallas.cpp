@@ -155,7 +155,7 @@ bool Pantallas::alguna(bool (PantallaBase::*condicion)() const) const
 
 bool Pantallas::editando() const
 {
-    return alguna(&PantallaBase::editaTodavia);
+    return alguna(&PantallaBase::edita);
 }
 
 bool Pantallas::trabajando() const
@@ -170,7 +170,7 @@ void Pantallas::suspenderOtras()
     for (const Pantalla cual : m_abiertas.keys()) {
         auto *abierta = pantalla(cual);
         if (abierta && !abierta->isModal())
-            abierta->suspender(editan && !abierta->editaTodavia());
+            abierta->suspender(editan && !abierta->edita());
     }
 }
 

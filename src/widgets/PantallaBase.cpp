@@ -62,12 +62,8 @@ void PantallaBase::ejecutar()
 
 void PantallaBase::cerrarA(Pantalla siguiente)
 {
-    m_entregando = true;
-    if (siguiente != Pantalla::Ninguna && m_abridor && !m_abridor(siguiente)) {
-        m_entregando = false;
-        Q_EMIT cambiaEdicion();
+    if (siguiente != Pantalla::Ninguna && m_abridor && !m_abridor(siguiente))
         return;
-    }
     m_terminada = true;
     m_siguiente = m_abridor ? Pantalla::Ninguna : siguiente;
     descartarCajas();

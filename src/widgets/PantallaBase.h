@@ -43,8 +43,6 @@ public:
     /// Whether the screen owns a record while it is open, so that nothing else may rewrite it.
     /// One whose answer changes while it is open emits `cambiaEdicion`.
     virtual bool edita() const { return false; }
-    /// Whether it still does: no longer once it is handing over to the screen that follows.
-    bool editaTodavia() const { return edita() && !m_entregando; }
     /// Whether it is in the middle of a long work: nothing else can be begun until that ends.
     virtual bool trabaja() const { return false; }
     /// Whether closing now would lose what the user changed.
@@ -120,7 +118,6 @@ private:
     QLabel *m_velo = nullptr; ///< why the screen cannot be used now
     Pantalla m_siguiente = Pantalla::Ninguna;
     bool m_terminada = false;
-    bool m_entregando = false;
 };
 
 /// The screen that a control is on; null outside of one.
