@@ -1,4 +1,5 @@
 #include "core/Textos.h"
+#include "dataservice/ErrorDatos.h"
 #include "declarants/FrmDecResumen.h"
 #include "declarants/MensajesDeclarante.h"
 #include "declarants/cDecDatos.h"
@@ -68,33 +69,101 @@ static cDecResumen &cabecera()
     return unico::la<cDecResumen>();
 }
 
-class tst_FrmDecResumen : public QObject
+class TstFrmDecResumen : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    /// Whole rows and headers; the newest return is selected.
     void lista()
     {
         Resumen r({1, 12}, true);
-        QCOMPARE(cabecera().CSDE(), 0);
+        cabecera().EJERCICIO(2025);
+        cabecera().CambiarModelo(u"430"_s);
+        cabecera().PERIODO(3);
+        cDatos430 mensual;
+        mensual.MODO(u"A"_s);
+        mensual.BASELIQ(12345678);
+        mensual.CalcularValores();
+        const qint32 clave = mensual.GuardarDeclaracion(mensual.RegistroGuardar());
+        r.abrir();
         QCOMPARE(cabecera().MODO(), u"L"_s);
         QCOMPARE(r.manos->texto("lblnombre"), u"SEGUROS UNO"_s);
         QVERIFY(r.manos->texto("lbldni").contains(u"12345678Z"_s));
-        QCOMPARE(r.manos->texto("lblNumDecla"), u"3 declaraciones seleccionadas"_s);
-        QCOMPARE(r.grid()->model()->columnCount(), 8);
-        for (const int oculta : {0, 2, 5, 7})
-            QVERIFY(r.grid()->isColumnHidden(oculta));
-        QCOMPARE(r.celda(0, 3), u"ENERO"_s);
-        QCOMPARE(r.celda(2, 3), u"ANUAL"_s);
-        QCOMPARE(r.celda(2, 4), u"480"_s);
-        QCOMPARE(r.celda(0, 6), u"0,00"_s);
-        QCOMPARE(r.celda(1, 7), u"12"_s);
-        for (const char *boton : {"cmdDatos", "cmdImprimir", "cmdEliminar"})
-            QVERIFY(!r.manos->control(boton)->isEnabled());
-        QTest::keyClick(r.grid(), Qt::Key_Down);
-        QCOMPARE(cabecera().CSDE(), r.claves[0]);
+        QCOMPARE(r.manos->texto("lblNumDecla"), u"4 declaraciones seleccionadas"_s);
+        for (int i = 0; i < 8; ++i)
+            QCOMPARE(r.grid()->isColumnHidden(i), i == 0 || i == 2 || i == 5 || i == 7);
+        QStringList titulos;
+        for (const int columna : {1, 3, 4, 6})
+            titulos += r.grid()->model()->headerData(columna, Qt::Horizontal, 0).toString();
+        QCOMPARE(titulos.join(u'|'), u"Ejercicio|Período|Modelo|Importe"_s);
+        const auto fila = [&r](int numero) {
+            QStringList celdas;
+            for (int i = 0; i < 8; ++i)
+                celdas += r.celda(numero, i);
+            return celdas.join(u'|');
+        };
+        QCOMPARE(fila(0), u"%1|2025|1|ENERO|430|1|0,00|1"_s.arg(r.claves[0]));
+        QCOMPARE(fila(1), u"%1|2025|1|MARZO|430|1|9.876,54|3"_s.arg(clave));
+        QCOMPARE(fila(3), u"%1|2025|2|ANUAL|480|2|0,00|12"_s.arg(r.claves[2]));
+        QCOMPARE(r.grid()->currentIndex().row(), 3);
+        QCOMPARE(cabecera().CSDE(), r.claves[2]);
         for (const char *boton : {"cmdDatos", "cmdImprimir", "cmdEliminar"})
             QVERIFY(r.manos->control(boton)->isEnabled());
+        QTest::keyClick(r.grid(), Qt::Key_Up);
+        QCOMPARE(cabecera().CSDE(), r.claves[1]);
+    }
+
+    /// The months left out before the one proposed stand beside it.
+    void mesesSinDeclarar()
+    {
+        Resumen r({2, 3, 6});
+        r.manos->pulsar("ImgNueva");
+        QCOMPARE(r.propuesta(), u"2025/430/JULIO"_s);
+        QCOMPARE(r.manos->texto("lblFaltan"),
+                 u"Meses anteriores sin declarar: 2025: ABRIL, MAYO"_s);
+        r.elegirEntrada("cmbperiodo", u"MARZO"_s);
+        QVERIFY(!r.manos->control("lblFaltan")->isVisible());
+        r.manos->escribir("txtejer", u"2026"_s);
+        r.elegirEntrada("cmbmodelo", u"430"_s);
+        r.manos->escribir("cmbperiodo", u"febrero"_s);
+        r.manos->tecla(Qt::Key_Tab);
+        QCOMPARE(r.manos->texto("lblFaltan"),
+                 u"Meses anteriores sin declarar: 2025: ABRIL, MAYO, JULIO, AGOSTO, SEPTIEMBRE, "
+                 "OCTUBRE, NOVIEMBRE, DICIEMBRE; 2026: ENERO"_s);
+    }
+
+    /// A failure in between changes neither the mode nor the header.
+    void propuestaQueFalla()
+    {
+        Resumen r({1});
+        {
+            const ModeloPerdido perdido;
+            r.responderYPulsar(QMessageBox::Ok, "ImgNueva");
+        }
+        QCOMPARE(cabecera().MODO(), u"L"_s);
+        QVERIFY(!r.manos->control("fraNueva")->isVisible());
+        r.manos->pulsar("ImgNueva");
+        QCOMPARE(r.propuesta(), u"2025/430/FEBRERO"_s);
+    }
+
+    /// A list that cannot be read again leaves nothing to be opened or deleted.
+    void listaQueFalla()
+    {
+        Resumen r({1});
+        {
+            const ModeloPerdido perdido;
+            r.mensajes.responder(QMessageBox::Ok);
+            r.pantalla->Actualizar();
+        }
+        QVERIFY(!r.manos->control("cmdDatos")->isEnabled());
+        QCOMPARE(r.grid()->model()->rowCount(), 0);
+        r.pantalla->Actualizar();
+        QVERIFY(r.manos->control("cmdDatos")->isEnabled());
+        cabecera().EJERCICIO(2024);
+        const ModeloPerdido perdido;
+        QVERIFY_EXCEPTION_THROWN(FrmDecResumen(), ErrorDatos);
+        QCOMPARE(int(cabecera().EJERCICIO()), 2024);
     }
 
     void propuesta()
@@ -206,7 +275,7 @@ private Q_SLOTS:
     void abandonar()
     {
         Resumen r({1});
-        const auto comprobar = [&] {
+        const auto comprobar = [&r] {
             QVERIFY(!r.manos->control("fraNueva")->isVisible());
             QCOMPARE(cabecera().MODO(), u"L"_s);
             QCOMPARE(cabecera().EJERCICIO(), 0);
@@ -218,12 +287,23 @@ private Q_SLOTS:
         r.manos->pulsar("ImgNueva");
         r.manos->pulsar("cmdAbandonar");
         comprobar();
+        // with something in the frame that is not in the list
+        for (const char *manera : {"Escape", "cmdAbandonar"}) {
+            r.manos->pulsar("ImgNueva");
+            r.manos->escribir("cmbperiodo", u"x9"_s);
+            if (qstrcmp(manera, "Escape") == 0)
+                r.manos->tecla(Qt::Key_Escape);
+            else
+                r.manos->pulsar(manera);
+            comprobar();
+            r.manos->tecla(Qt::Key_Tab);
+        }
     }
 
     void abrirDeclaracion()
     {
         for (const auto &[fila, manera] :
-             {std::pair{0, "cmdDatos"}, {0, "double click"}, {1, "Enter"}}) {
+             {std::pair{0, "cmdDatos"}, {0, "double click"}, {0, "menu"}, {1, "Enter"}}) {
             Resumen r({12}, true);
             r.elegir(fila);
             const QPoint lugar = r.grid()->visualRect(r.grid()->model()->index(fila, 1)).center();
@@ -231,6 +311,8 @@ private Q_SLOTS:
                 QTest::keyClick(r.grid(), Qt::Key_Return);
             else if (qstrcmp(manera, "double click") == 0)
                 QTest::mouseDClick(r.grid()->viewport(), Qt::LeftButton, {}, lugar);
+            else if (qstrcmp(manera, "menu") == 0)
+                r.manos->elegirEnMenu(*r.grid(), lugar, "cmdDatos");
             else
                 r.manos->pulsar(manera);
             QCOMPARE(r.siguiente, fila == 1 ? Pantalla::Datos480a : Pantalla::Datos430);
@@ -258,6 +340,12 @@ private Q_SLOTS:
         QCOMPARE(peticion.CSCO(), r.csco);
         QCOMPARE(peticion.CSDE(), r.claves[0]);
         QCOMPARE(peticion.MODELO(), u"430"_s);
+
+        r.elegir(1);
+        r.siguiente.reset();
+        QTest::keyClick(r.grid(), Qt::Key_P, Qt::ControlModifier);
+        QCOMPARE(r.siguiente, Pantalla::Impresion);
+        QCOMPARE(peticion.CSDE(), r.claves[1]);
     }
 
     void borrar()
@@ -274,12 +362,15 @@ private Q_SLOTS:
         QCOMPARE(vistos[0].porDefecto, QMessageBox::No);
         QCOMPARE(r.grid()->model()->rowCount(), 2);
 
-        r.responderYPulsar(QMessageBox::Yes, "cmdEliminar");
+        QSignalSpy dichos(r.pantalla.get(), &PantallaBase::dicho);
+        r.mensajes.responder(QMessageBox::Yes);
+        r.grid()->setFocus();
+        QTest::keyClick(r.grid(), Qt::Key_Delete);
         QCOMPARE(r.grid()->model()->rowCount(), 1);
         QCOMPARE(r.manos->foco(), u"flxDeclaraciones"_s);
-        QVERIFY(!r.manos->control("cmdEliminar")->isEnabled());
+        QCOMPARE(cabecera().CSDE(), r.claves[0]);
         QCOMPARE(cambios.count(), 1);
-        r.elegir(0);
+        QCOMPARE(dichos.front().front().toString(), u"Declaración eliminada: 430 FEBRERO 2025"_s);
         {
             const ModeloPerdido perdido;
             r.mensajes.responder(QMessageBox::Yes);
@@ -289,6 +380,17 @@ private Q_SLOTS:
         r.responderYPulsar(QMessageBox::Yes, "cmdEliminar");
         QCOMPARE(r.manos->foco(), u"cmdDeclarante"_s);
         QCOMPARE(r.manos->texto("lblNumDecla"), u"No existen declaraciones"_s);
+    }
+
+    void borradaEnOtraCopia()
+    {
+        Resumen r({1, 2});
+        cDecResumen().BorrarDeclaracion(cabecera().CargarDeclaraciones()[1]);
+        r.mensajes.responder(QMessageBox::Yes);
+        r.responderYPulsar(QMessageBox::Ok, "cmdEliminar");
+        QCOMPARE(r.mensajes.tomar()[1].texto,
+                 msj(Msj::EliminadoEnOtraCopia, u"430 FEBRERO 2025"_s));
+        QCOMPARE(r.grid()->model()->rowCount(), 1);
     }
 
     /// Back from an entry screen, the return is selected again.
@@ -328,5 +430,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_FrmDecResumen)
+QTEST_MAIN(TstFrmDecResumen)
 #include "tst_frmdecresumen.moc"

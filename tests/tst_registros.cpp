@@ -5,6 +5,7 @@
 #include "core/cFecha.h"
 #include "dataservice/ErrorDatos.h"
 #include "dataservice/SvrOstr.h"
+#include "declarants/CamposDeclarante.h"
 #include "declarants/Listas.h"
 #include "declarants/MensajesDeclarante.h"
 #include "declarants/cDecDatos.h"
@@ -120,44 +121,72 @@ private Q_SLOTS:
         QCOMPARE(d.CSCO(), 7);
     }
 
+    /// Seventeen different values, written and read through the table of the fields, twice: as a
+    /// new declarant and as a change of it.
     void declaranteIdaYVuelta()
     {
+        const auto rellenar = [](cDecDatos &d, const QString &valores) {
+            const QStringList lista = valores.split(u'|');
+            for (qsizetype i = 0; i < lista.size(); ++i)
+                QVERIFY(campos::tomar(campos::tabla[size_t(i)].campo, d, lista[i]));
+        };
+        const auto valores = [](const cDecDatos &d) {
+            QStringList lista;
+            for (const auto &campo : campos::tabla)
+                lista += campos::leer(campo.campo, d);
+            return lista.join(u'|');
+        };
+        const QString alta = u"A08000143|ÑANDÚ, S.A.|AV|UNA CALLE DE MAS DE VEINTE "
+                             u"LE.|99999|B|1|2|DCH|01|01001|003|"
+                             "OTRO|945000000"_s;
+        const QString cambio
+            = u"B66000004|ÇEDA|CL|MENOR|7|X|E|P|IZQ|48|48002|004|OTRO MAS|944111222"_s;
         cDecDatos d;
         d.MODO(u"A"_s);
-        d.DNI(u"A08000143"_s);
-        d.NOMBRE(u"ÑANDÚ, S.A."_s);
-        d.VIA(u"AV"_s);
-        d.DOMICILIO(u"UNA CALLE DE MAS DE VEINTE LE."_s);
-        d.NUMERO(99999);
-        d.LETRA(u"B"_s);
-        d.ESCALERA(u"1"_s);
-        d.PISO(u"2"_s);
-        d.MANO(u"DCH"_s);
-        d.CambiarProvincia(u"1"_s, u"ÁLAVA"_s);
-        d.CODPOS(u"01001"_s);
-        d.NOMMUN(u"OTRO"_s);
-        d.TELEFONO(u"945000000"_s);
+        rellenar(d, alta);
         QCOMPARE(d.GuardarDeclarante(d.RegistroCompleto()), qint16(0));
-
         cDecDatos leido;
         leido.CSCO(-5);
         const qint32 csco = leido.ObtenerCodigoDeclarante(u"A08000143"_s);
         QVERIFY(csco > 0);
         leido.CargarDeclarante(csco);
         QCOMPARE(leido.CSCO(), -5);
+        QCOMPARE(valores(leido), alta + u"|0|0"_s);
         QCOMPARE(leido.NOMPROV(), u"ÁLAVA"_s);
-        leido.CSCO(0);
-        for (int campo = 0; campo < RegDeclarante::Total; ++campo)
-            QCOMPARE(leido.RegistroCompleto()[campo].toString(),
-                     d.RegistroCompleto()[campo].toString());
 
-        unico::la<CEntrada>().IDI(u"E"_s);
-        leido.LeerNombreProvincia();
-        QCOMPARE(leido.NOMPROV(), u"ARABA"_s);
-
+        Entorno::altaDeclaracion(csco, 2026, 1);
+        Entorno::altaDeclaracion(csco, 2026, 2);
+        Entorno::altaDeclaracion(csco, 2025, 12, u"480"_s);
         leido.CSCO(csco);
-        leido.BorrarDeclarante();
-        QCOMPARE(leido.ObtenerCodigoDeclarante(u"A08000143"_s), 0);
+        rellenar(leido, cambio);
+        QCOMPARE(leido.GuardarDeclarante(leido.RegistroCompleto()), qint16(0));
+        d.CargarDeclarante(csco);
+        QCOMPARE(valores(d), cambio + u"|2|1"_s);
+        QCOMPARE(d.NOMPROV(), u"VIZCAYA"_s);
+        unico::la<CEntrada>().IDI(u"E"_s);
+        d.LeerNombreProvincia();
+        QCOMPARE(d.NOMPROV(), u"BIZKAIA"_s);
+        const QVariantList validacion = d.RegistroValidacion();
+        QStringList textos;
+        for (const QVariant &campo : validacion)
+            textos += campo.toString();
+        QCOMPARE(textos.join(u'|'), u"B66000004|ÇEDA|MENOR|48|48002|004|OTRO MAS|944111222"_s);
+    }
+
+    /// What cannot be read leaves the record as it was.
+    void cargaQueFalla()
+    {
+        const qint32 csco = Entorno::altaDeclarante();
+        cDecDatos d;
+        d.MODO(u"A"_s);
+        d.NOMBRE(u"ANTES"_s);
+        Rutas sinLectura = rutas();
+        sinLectura.lectura = sinLectura.tablas + u"ninguna/OstrLec.mdb"_s;
+        const Rutas buenas = rutas();
+        fijarRutas(sinLectura);
+        QVERIFY_EXCEPTION_THROWN(d.CargarDeclarante(csco), ErrorDatos);
+        fijarRutas(buenas);
+        QCOMPARE(d.NOMBRE() + d.DNI(), u"ANTES"_s);
     }
 
     void provincia()
@@ -183,44 +212,6 @@ private Q_SLOTS:
         QCOMPARE(buscarCodigo(cargarMunicipios(), u"001"_s)->nombre, u"ABRENZUOLA"_s);
         unico::la<CEntrada>().IDI(u"E"_s);
         QCOMPARE(buscarCodigo(cargarVias(), u"CL"_s)->nombre, u"KALEA"_s);
-    }
-
-    /// The rules are the server's; here, where each code puts the focus and which text it shows.
-    void validacionDeclarante()
-    {
-        using enum RegValidacion::Campo;
-        Registro datos{u"12345678A"_s, u"SEGUROS"_s, u"MAYOR"_s,      u"20"_s,
-                       u"20001"_s,     u"001"_s,     u"ABRENZUOLA"_s, u"943000000"_s};
-        QCOMPARE(cDecDatos().ValidarDatosDeclarante(datos), qint16(1));
-        datos[DNI] = u"12345678Z"_s;
-        QCOMPARE(cDecDatos().ValidarDatosDeclarante(datos), qint16(0));
-        const QList<int> campos{DNI,    NOMBRE, DOMICILIO, CODPROV, CODPOS,   CODPOS,
-                                CODPOS, CODPOS, CODMUN,    NOMMUN,  TELEFONO, TELEFONO};
-        for (qint16 codigo = 1; codigo <= 12; ++codigo) {
-            QCOMPARE(int(campoValidacionDeclarante(codigo)), campos[codigo - 1]);
-            QCOMPARE(textoValidacionDeclarante(codigo),
-                     textoMensaje(240 + codigo, Idioma::Castellano));
-        }
-    }
-
-    void dniRepetido()
-    {
-        Entorno::altaDeclarante();
-        const qint32 otro = Entorno::altaDeclarante(u"87654321X"_s, u"SEGUROS DOS"_s);
-        cDecDatos d;
-        d.CargarDeclarante(otro);
-        d.DNI(u"12345678Z"_s);
-        for (const auto &[csco, codigo] : {std::pair(0, 1), std::pair(otro, 2)}) {
-            d.CSCO(csco);
-            const qint16 obtenido = d.GuardarDeclarante(d.RegistroCompleto());
-            QCOMPARE(int(obtenido), codigo);
-            QCOMPARE(textoGuardarDeclarante(obtenido),
-                     textoMensaje(252 + codigo, Idioma::Castellano));
-            QCOMPARE(d.CSCO(), csco);
-        }
-        cDecLista lista;
-        QCOMPARE(lista.CargarDeclarantes().size(), 2);
-        QCOMPARE(lista.NUMDECLASEL(), 2);
     }
 
     void propuesta_data()

@@ -6,6 +6,7 @@
 #include "core/Unico.h"
 #include "declarants/NuevaDeclaracion.h"
 #include "declarants/cDecResumen.h"
+#include "widgets/AccionesFilas.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Iconos.h"
 #include "widgets/ModeloFilas.h"
@@ -47,6 +48,9 @@ FrmDecResumen::FrmDecResumen(QWidget *padre)
     , m_lblNumDecla(nuevaEtiqueta(u"lblNumDecla"_s, this))
 {
     auto &cabecera = unico::la<cDecResumen>();
+    // whoever opens this screen goes on with its own header when it cannot be shown
+    LeerDeclarante();
+    cabecera.CargarDeclaraciones();
     cabecera.MODO(ModoCabecera::Lista);
     if (cabecera.ENTRADA() == Entrada::Abrir)
         cabecera.CSDE(0);
@@ -56,7 +60,7 @@ FrmDecResumen::FrmDecResumen(QWidget *padre)
     disponer();
     conectar();
     mostrarNueva(false);
-    procedimiento(this, [this] { PresentaDatos(); });
+    PresentaDatos();
 }
 
 QPushButton *FrmDecResumen::crearBoton(const QString &nombre)
@@ -90,7 +94,6 @@ void FrmDecResumen::prepararGrid()
     m_flxDeclaraciones->setColumnWidth(IMPORTE, 26 * letra);
     m_flxDeclaraciones->horizontalHeader()->setStretchLastSection(false);
     m_flxDeclaraciones->horizontalHeader()->setSectionResizeMode(PERIODO, QHeaderView::Stretch);
-    m_flxDeclaraciones->installEventFilter(this);
 }
 
 void FrmDecResumen::conectar()
@@ -98,6 +101,9 @@ void FrmDecResumen::conectar()
     connect(m_flxDeclaraciones->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &FrmDecResumen::alSeleccionar);
     connect(m_flxDeclaraciones, &QTableView::activated, m_cmdDatos, &QPushButton::click);
+    ponerAcciones(
+        m_flxDeclaraciones,
+        {{m_cmdDatos, {}}, {m_cmdImprimir, Qt::CTRL | Qt::Key_P}, {m_cmdEliminar, Qt::Key_Delete}});
     alPulsar(m_imgNueva, [this] { nueva(); });
     alPulsarSinConfirmar(m_cmdAbandonar, [this] { abandonarNueva(); });
     alPulsarSinConfirmar(m_cmdDatos, [this] { abrir(); });
@@ -191,6 +197,16 @@ void FrmDecResumen::alCambiarIdioma()
 {
     m_nueva->alCambiarIdioma();
     PresentaDatos();
+}
+
+/// After a failure nothing is listed, and nothing can be done to a return.
+void FrmDecResumen::vaciar()
+{
+    const qint32 elegida = unico::la<cDecResumen>().CSDE();
+    m_modelo->filas({});
+    m_lblNumDecla->clear();
+    PresentaBotones();
+    unico::la<cDecResumen>().CSDE(elegida);
 }
 
 void FrmDecResumen::CargarFlxDeclaraciones()

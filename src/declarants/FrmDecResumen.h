@@ -20,6 +20,7 @@ public:
 
     void Anadir_captions() override;
     void Actualizar() override;
+    void ActualizarDeclarante(qint32 csco) override;
     void CargarFlxDeclaraciones();
     /// Whether the new return's header is valid; else the user is told and the field at fault has
     /// the focus.
@@ -33,7 +34,6 @@ protected:
     void alCambiarIdioma() override;
     void keyPressEvent(QKeyEvent *evento) override;
     void showEvent(QShowEvent *evento) override;
-    bool eventFilter(QObject *objeto, QEvent *evento) override;
 
 private:
     QPushButton *crearBoton(const QString &nombre);
@@ -42,6 +42,8 @@ private:
     void disponer();
     void ponerIconos();
     void enfocarLista();
+    void LeerDeclarante();
+    void vaciar();
 
     const DeclaracionListada *filaActual() const; ///< null when no row is selected
     void alSeleccionar();

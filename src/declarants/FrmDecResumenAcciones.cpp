@@ -4,10 +4,12 @@
 #include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
+#include "dataservice/ErrorDatos.h"
 #include "declarants/FrmDecResumen.h"
 #include "declarants/MensajesDeclarante.h"
 #include "declarants/NuevaDeclaracion.h"
 #include "declarants/cDecDatos.h"
+#include "declarants/cDecLista.h"
 #include "declarants/cDecResumen.h"
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"
@@ -41,13 +43,11 @@ void FrmDecResumen::alSeleccionar()
     PresentaBotones();
 }
 
+/// The newest one when that return is not listed.
 void FrmDecResumen::seleccionar(qint32 csde)
 {
-    const int fila = csde == 0 ? -1 : m_modelo->buscar(&Fila::csde, csde);
-    if (fila >= 0)
-        m_flxDeclaraciones->selectRow(fila);
-    else
-        m_flxDeclaraciones->clearSelection();
+    const int fila = m_modelo->buscar(&Fila::csde, csde);
+    m_flxDeclaraciones->selectRow(fila >= 0 ? fila : m_modelo->rowCount() - 1);
     alSeleccionar();
 }
 
@@ -67,14 +67,35 @@ void FrmDecResumen::showEvent(QShowEvent *evento)
         enfocarLista();
 }
 
+/// Who the declarant is now; ErrorDatos when there is no such declarant any more.
+void FrmDecResumen::LeerDeclarante()
+{
+    const auto declarante = cDecLista::CargarDeclarante(cabecera().CSCO());
+    if (!declarante)
+        throw ErrorDatos(Fallo::SinDeclarante, cabecera().DNI() + u" - "_s + cabecera().NOMBRE());
+    cabecera().TomarDeclarante(declarante->csco, declarante->dni, declarante->nombre);
+}
+
 void FrmDecResumen::Actualizar()
 {
+    vaciar();
     procedimiento(this, [this] {
-        if (unico::la<cDecDatos>().ObtenerCodigoDeclarante(cabecera().DNI()) == 0)
+        try {
+            LeerDeclarante();
+        } catch (const ErrorDatos &error) {
+            if (error.fallo() != Fallo::SinDeclarante)
+                throw;
             cerrarA(Pantalla::Ninguna);
-        else
-            PresentaDatos();
+            return;
+        }
+        PresentaDatos();
     });
+}
+
+void FrmDecResumen::ActualizarDeclarante(qint32 csco)
+{
+    if (csco == cabecera().CSCO())
+        Actualizar();
 }
 
 /// The first press proposes a return, the second creates it.
@@ -127,8 +148,10 @@ void FrmDecResumen::abandonarNueva()
     if (cabecera().MODO() != ModoCabecera::Nueva)
         return;
     cabecera().MODO(ModoCabecera::Lista);
-    mostrarNueva(false);
+    // what is only typed in the frame goes before the focus leaves it
+    m_nueva->PresentaDatos();
     enfocarLista();
+    mostrarNueva(false);
 }
 
 /// The header of the row selected into the record; a new return being prepared is given up, for
@@ -172,22 +195,39 @@ void FrmDecResumen::imprimir()
     Q_EMIT mostrar(Pantalla::Impresion);
 }
 
+/// False when another copy of the program has deleted it already.
+static bool borrar(const Fila &fila)
+{
+    try {
+        cabecera().BorrarDeclaracion(fila);
+        return true;
+    } catch (const ErrorDatos &error) {
+        if (error.fallo() != Fallo::SinDeclaracion)
+            throw;
+        return false;
+    }
+}
+
 void FrmDecResumen::eliminar()
 {
     if (!filaActual())
         return;
     const Fila fila = *filaActual();
-    const QString texto = msj(Msj::PreguntaBorrarDeclaracion, QString::number(fila.ejercicio),
-                              textoPeriodo(fila.periodicidad, fila.periodo));
-    if (!mensajes::pregunta(this, msj(Msj::TituloBorradoDeclaracion), texto))
+    const QString periodo = textoPeriodo(fila.periodicidad, fila.periodo);
+    const QString titulo = msj(Msj::TituloBorradoDeclaracion);
+    const QString ejercicio = QString::number(fila.ejercicio);
+    if (!mensajes::pregunta(this, titulo, msj(Msj::PreguntaBorrarDeclaracion, ejercicio, periodo)))
         return;
     abandonarNueva();
-    cabecera().BorrarDeclaracion(fila);
-    cabecera().CSDE(0);
+    const QString nombre = u"%1 %2 %3"_s.arg(fila.modelo, periodo, ejercicio);
+    if (borrar(fila))
+        decir(msj(Msj::DeclaracionEliminada, nombre));
+    else
+        mensajes::aviso(this, titulo, msj(Msj::EliminadoEnOtraCopia, nombre));
+    Q_EMIT datosCambiados(cabecera().CSCO());
+    unico::la<CEntrada>().InicializarContadores();
     PresentaDatos();
     enfocarLista();
-    unico::la<CEntrada>().InicializarContadores();
-    Q_EMIT datosCambiados(cabecera().CSCO());
 }
 
 void FrmDecResumen::verDeclarante()
@@ -206,18 +246,4 @@ void FrmDecResumen::keyPressEvent(QKeyEvent *evento)
         procedimiento(this, [this] { abandonarNueva(); });
     else
         PantallaBase::keyPressEvent(evento);
-}
-
-/// With nothing selected yet, the first arrow key selects the row under the cursor, which it would
-/// otherwise step over.
-bool FrmDecResumen::eventFilter(QObject *objeto, QEvent *evento)
-{
-    if (objeto == m_flxDeclaraciones && evento->type() == QEvent::KeyPress && !filaActual()) {
-        const int tecla = static_cast<QKeyEvent *>(evento)->key();
-        if (tecla == Qt::Key_Down || tecla == Qt::Key_Up) {
-            m_flxDeclaraciones->selectRow(std::max(0, m_flxDeclaraciones->currentIndex().row()));
-            return true;
-        }
-    }
-    return PantallaBase::eventFilter(objeto, evento);
 }

@@ -27,6 +27,7 @@ NuevaDeclaracion::NuevaDeclaracion(QWidget *padre)
     , m_lblejer(nuevaEtiqueta(u"lblejer"_s, this, m_txtejer))
     , m_lblmodelo(nuevaEtiqueta(u"lblmodelo"_s, this, m_cmbmodelo))
     , m_lblperiodo(nuevaEtiqueta(u"lblperiodo"_s, this, m_cmbperiodo))
+    , m_lblFaltan(nuevaEtiqueta(u"lblFaltan"_s, this))
     , m_lblGuia(nuevaEtiqueta(u"lblGuia"_s, this))
 {
     setObjectName(u"fraNueva"_s);
@@ -43,7 +44,8 @@ NuevaDeclaracion::NuevaDeclaracion(QWidget *padre)
 
 void NuevaDeclaracion::disponer()
 {
-    m_lblGuia->setWordWrap(true);
+    for (auto *etiqueta : {m_lblFaltan, m_lblGuia})
+        etiqueta->setWordWrap(true);
     auto *celdas = new QGridLayout(this);
     celdas->setContentsMargins(14, 10, 14, 10);
     celdas->setHorizontalSpacing(16);
@@ -54,6 +56,7 @@ void NuevaDeclaracion::disponer()
     celdas->addWidget(m_txtejer, 1, 0);
     celdas->addWidget(m_cmbmodelo, 1, 1);
     celdas->addWidget(m_cmbperiodo, 1, 2);
+    celdas->addWidget(m_lblFaltan, 0, 3, 2, 1);
     celdas->setRowMinimumHeight(2, 4);
     celdas->addWidget(m_lblGuia, 3, 0, 1, 4);
     celdas->setColumnStretch(3, 1);
@@ -87,6 +90,31 @@ void NuevaDeclaracion::cargarPeriodos()
     m_cmbperiodo->entradas(textos);
 }
 
+static constexpr qsizetype MaximoMeses = 12; ///< named one by one
+
+/// "2025: MARZO, MAYO; 2026: ENERO".
+static QString textoMeses(const QList<MesSinDeclarar> &meses)
+{
+    QString texto;
+    int ejercicio = 0;
+    for (const auto &mes : meses.first(std::min(meses.size(), MaximoMeses))) {
+        if (mes.ejercicio != ejercicio)
+            texto += (texto.isEmpty() ? u"%1: "_s : u"; %1: "_s).arg(mes.ejercicio);
+        else
+            texto += u", "_s;
+        ejercicio = mes.ejercicio;
+        texto += nombreMes(mes.mes);
+    }
+    return meses.size() > MaximoMeses ? texto + u"…"_s : texto;
+}
+
+void NuevaDeclaracion::PresentaFaltan()
+{
+    const auto meses = cabecera().MesesSinDeclarar();
+    m_lblFaltan->setVisible(!meses.isEmpty());
+    m_lblFaltan->setText(msj(Msj::MesesSinDeclarar, textoMeses(meses)));
+}
+
 void NuevaDeclaracion::PresentaDatos()
 {
     const auto &c = cabecera();
@@ -95,6 +123,7 @@ void NuevaDeclaracion::PresentaDatos()
     cargarPeriodos();
     const bool anual = c.PERIODICIDAD() == PeriodicidadAnual;
     m_cmbperiodo->mostrarEntrada(c.PERIODO() == 0 ? -1 : anual ? 0 : c.PERIODO() - 1);
+    PresentaFaltan();
 }
 
 /// What is being typed in the other two fields is not lost.
@@ -103,6 +132,7 @@ void NuevaDeclaracion::alCambiarIdioma()
     const int posicion = m_cmbperiodo->currentIndex();
     cargarPeriodos();
     m_cmbperiodo->mostrarEntrada(posicion);
+    PresentaFaltan();
 }
 
 void NuevaDeclaracion::enfocarPrimero()
@@ -153,6 +183,7 @@ void NuevaDeclaracion::tomarPeriodo(int posicion)
     const bool anual = cabecera().PERIODICIDAD() == PeriodicidadAnual;
     const int periodo = posicion < 0 ? 0 : anual ? PeriodoAnual : posicion + 1;
     cabecera().PERIODO(static_cast<quint8>(periodo));
+    PresentaFaltan();
 }
 
 void NuevaDeclaracion::rechazar(Msj motivo)

@@ -34,6 +34,7 @@ private:
     void tomarPeriodo(int posicion);
     void rechazar(Msj motivo);
     void cargarPeriodos();
+    void PresentaFaltan();
 
     CajaTexto *m_txtejer;
     ListaDesplegable *m_cmbmodelo;
@@ -41,5 +42,6 @@ private:
     QLabel *m_lblejer;
     QLabel *m_lblmodelo;
     QLabel *m_lblperiodo;
+    QLabel *m_lblFaltan; ///< earlier months without a return
     QLabel *m_lblGuia;
 };

@@ -13,40 +13,45 @@ static CabeceraListada cabeceraDe(const Registro &fila, qsizetype primero)
             fila.value(primero + 4).value<quint8>()};
 }
 
-void cDecResumen::MODO(const QString &modo)
+/// The return that follows.
+static void avanzar(CabeceraListada &c)
 {
-    m_modo = modo;
-    m = {};
-    if (modo != ModoCabecera::Lista)
-        proponer();
+    if (c.tipologia != Tipologia430) {
+        c.tipologia = Tipologia430;
+        c.modelo = Modelo430;
+        c.periodicidad = PeriodicidadMensual;
+        c.periodo = 1;
+        ++c.ejercicio;
+    } else if (c.periodo == UltimoMes) {
+        c.tipologia = Tipologia480;
+        c.modelo = Modelo480;
+        c.periodicidad = PeriodicidadAnual;
+    } else {
+        ++c.periodo;
+    }
 }
 
-void cDecResumen::proponer()
+/// Months counted on over the years.
+static int cuentaDeMes(const CabeceraListada &c)
+{
+    return c.ejercicio * UltimoMes + c.periodo - 1;
+}
+
+void cDecResumen::MODO(const QString &modo)
+{
+    m = modo == ModoCabecera::Lista ? CabeceraListada() : proponer();
+    m_modo = modo;
+}
+
+CabeceraListada cDecResumen::proponer() const
 {
     Registro ultima;
     if (!ObtenerUltimaDeclaracion(ultima))
-        return;
-    m = cabeceraDe(ultima, RegUltima::EJERCICIO);
-    avanzar();
-    if (!servicioDeclaracion()->EjerPerValidos(Cabecera().first(RegCabecera::TotalPeriodo)))
-        m = {};
-}
-
-void cDecResumen::avanzar()
-{
-    if (m.tipologia != Tipologia430) {
-        m.tipologia = Tipologia430;
-        m.modelo = Modelo430;
-        m.periodicidad = PeriodicidadMensual;
-        m.periodo = 1;
-        ++m.ejercicio;
-    } else if (m.periodo == UltimoMes) {
-        m.tipologia = Tipologia480;
-        m.modelo = Modelo480;
-        m.periodicidad = PeriodicidadAnual;
-    } else {
-        ++m.periodo;
-    }
+        return {};
+    auto propuesta = cabeceraDe(ultima, RegUltima::EJERCICIO);
+    avanzar(propuesta);
+    const Registro registro = registroDe(propuesta).first(RegCabecera::TotalPeriodo);
+    return servicioDeclaracion()->EjerPerValidos(registro) ? propuesta : CabeceraListada();
 }
 
 bool cDecResumen::ObtenerUltimaDeclaracion(Registro &datos) const
@@ -63,10 +68,15 @@ qint16 cDecResumen::ValidarDatosComunes(const Registro &datos) const
 
 Registro cDecResumen::Cabecera() const
 {
+    return registroDe(m);
+}
+
+Registro cDecResumen::registroDe(const CabeceraListada &c) const
+{
     const auto &entrada = unico::la<CEntrada>();
-    return {m.ejercicio,       m.periodicidad,   m.periodo,
+    return {c.ejercicio,       c.periodicidad,   c.periodo,
             entrada.EJERMIN(), entrada.PERMIN(), entrada.EJERMAX(),
-            entrada.PERMAX(),  m.modelo,         m_csco};
+            entrada.PERMAX(),  c.modelo,         m_csco};
 }
 
 void cDecResumen::CambiarModelo(const QString &modelo)
@@ -101,12 +111,28 @@ QList<DeclaracionListada> cDecResumen::CargarDeclaraciones()
     Filas filas;
     m_numdeclasel = servicioDeclaracion()->dameResultado(filas, m_csco);
     QList<DeclaracionListada> lista;
+    m_mensuales.clear();
     for (const QVariant &fila : std::as_const(filas)) {
         const auto celdas = fila.toList();
         lista.append({cabeceraDe(celdas, EJERCICIO), celdas.value(CSDE).toInt(),
                       celdas.value(IMPORTE).toDouble()});
+        if (lista.constLast().tipologia == Tipologia430)
+            m_mensuales.append(cuentaDeMes(lista.constLast()));
     }
     return lista;
+}
+
+QList<MesSinDeclarar> cDecResumen::MesesSinDeclarar() const
+{
+    QList<MesSinDeclarar> meses;
+    if (m.periodo == 0 || m_mensuales.isEmpty())
+        return meses;
+    // the annual return counts its own December
+    const int hasta = cuentaDeMes(m) + (m.tipologia == Tipologia480 ? 1 : 0);
+    for (int mes = m_mensuales.constFirst(); mes < hasta; ++mes)
+        if (!m_mensuales.contains(mes))
+            meses.append({mes / UltimoMes, mes % UltimoMes + 1});
+    return meses;
 }
 
 void cDecResumen::BorrarDeclaracion(const DeclaracionListada &declaracion) const

@@ -15,6 +15,13 @@ struct CabeceraListada
     quint8 tipologia = 0; ///< 1 model 430, 2 model 480, 0 none
 };
 
+/// A month without its 430.
+struct MesSinDeclarar
+{
+    int ejercicio = 0;
+    int mes = 0;
+};
+
 /// A stored return in a declarant's list.
 struct DeclaracionListada : CabeceraListada
 {
@@ -72,12 +79,15 @@ public:
 
     /// The declarant's returns, oldest first; sets NUMDECLASEL.
     QList<DeclaracionListada> CargarDeclaraciones();
+    /// The months before the return in hand, from the first one declared on, that the returns
+    /// loaded last leave out.
+    QList<MesSinDeclarar> MesesSinDeclarar() const;
     /// Deletes a stored return, figures and header.
     void BorrarDeclaracion(const DeclaracionListada &declaracion) const;
 
 private:
-    void proponer();
-    void avanzar();
+    CabeceraListada proponer() const;
+    Registro registroDe(const CabeceraListada &cabecera) const;
 
     qint32 m_csco = 0;
     qint32 m_csde = 0;
@@ -87,4 +97,5 @@ private:
     QString m_dni;
     QString m_nombre;
     CabeceraListada m;
+    QList<int> m_mensuales; ///< months of the 430 returns loaded last, in order
 };
