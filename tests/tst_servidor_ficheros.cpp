@@ -128,6 +128,7 @@ private Q_SLOTS:
             const QByteArray bueno = bytes(ruta);
             QVERIFY(QFile::remove(ruta) && QFile::link(u"/no/hay/nada.mdb"_s, ruta));
             QCOMPARE(falloDe([&] { m_servidor->traspaso(); }), Fallo::EnlaceRoto);
+            QCOMPARE(falloDe([&] { usar(); }), Fallo::EnlaceRoto);
             QCOMPARE(QFileInfo(ruta).symLinkTarget(), u"/no/hay/nada.mdb"_s);
             QVERIFY(QFile::remove(ruta));
             escribir(ruta, bueno);

@@ -99,6 +99,7 @@ qint64 tamanoDeclarado(const QByteArray &cabecera)
 
 QByteArray leerCabecera(const QString &ruta)
 {
+    rechazarEnlaceRoto(ruta);
     if (!identidad(ruta))
         throw ErrorDatos(Fallo::NoExiste, ruta, u"no such file"_s);
     QFile fichero(ruta);
