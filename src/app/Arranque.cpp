@@ -13,6 +13,7 @@
 #include "widgets/Procedimiento.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
@@ -62,6 +63,9 @@ std::unique_ptr<MDIOstrel> Arranque::iniciar()
     mostrarInicio();
     auto ventana = std::make_unique<MDIOstrel>();
     mostrarCentrada(*ventana);
+    if (sesion.fallos.isEmpty())
+        QTimer::singleShot(0, ventana.get(),
+                           [ventana = ventana.get()] { procedimiento(ventana, comprobarDatos); });
     return ventana;
 }
 
