@@ -36,6 +36,7 @@ double segundosDe(const timeval &t)
 /// What `tarea`, run as a process of its own, costs.
 Gasto medir(const std::function<int()> &tarea)
 {
+    std::fflush(stdout); // what waits there would be written by both
     const pid_t hijo = fork();
     if (hijo == 0)
         _exit(tarea());
