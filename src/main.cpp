@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 
+#include <csignal>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -43,8 +44,17 @@ static std::optional<int> sinVentana(int &argc, char **argv)
     return ejecutarOrden(argumentos);
 }
 
+/// A file that may grow no further is an error to be told, not the end of the process.
+static void noMorirPorElTamano()
+{
+#ifdef SIGXFSZ
+    std::signal(SIGXFSZ, SIG_IGN);
+#endif
+}
+
 int main(int argc, char **argv)
 {
+    noMorirPorElTamano();
     QCoreApplication::setApplicationVersion(QStringLiteral(OSTREL_VERSION));
     if (const auto codigo = sinVentana(argc, argv))
         return *codigo;

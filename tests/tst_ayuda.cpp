@@ -126,7 +126,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, idioma);
         QStringList patrones;
-        for (const Mensaje &mensaje : mensajes()) {
+        for (const Mensaje &mensaje : tablaMensajes()) {
             const QString texto = idioma == u"c" ? mensaje.castellano : mensaje.euskera;
             if (!texto.startsWith(u"%1: ") && !texto.startsWith(u"%1\n")) // would be anything
                 patrones.append(patronDe(texto));

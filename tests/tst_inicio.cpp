@@ -37,7 +37,7 @@ public:
 } // namespace
 
 /// The way from the start of the program to its main window.
-class PruebaInicio : public QObject
+class TstInicio : public QObject
 {
     Q_OBJECT
 
@@ -45,6 +45,7 @@ private:
     static constexpr EsperasInicio Breves{20ms, 60ms};
 
     std::optional<Entorno> m_entorno;
+    std::optional<ConductorMensajes> m_mensajes;
 
     static QWidget *ventana(const QString &nombre)
     {
@@ -71,9 +72,14 @@ private:
     static QString idiomaGuardado() { return servicioDatos()->ObtenerIdioma(); }
 
 private Q_SLOTS:
-    void init() { m_entorno.emplace(); }
+    void init()
+    {
+        m_entorno.emplace();
+        m_mensajes.emplace();
+    }
     void cleanup()
     {
+        m_mensajes.reset();
         m_entorno.reset();
         fijarIdioma(Idioma::Castellano);
     }
@@ -86,7 +92,6 @@ private Q_SLOTS:
 
     void terminaSinMensajesSiLoPideElServicio()
     {
-        const ConductorMensajes ninguno;
         servicio::registrar(SvrOstr::cTraspaso::ID,
                             [] { return std::make_unique<TraspasoQueTermina>(); });
         bool mostrado = false;
@@ -143,23 +148,6 @@ private Q_SLOTS:
         QVERIFY(reloj.elapsed() >= Breves.conBusqueda.count());
     }
 
-    void busquedaLargaNoAnadeEspera()
-    {
-        servicioDatos()->GuardarActOnline(1);
-        constexpr auto espera = 600ms;
-        Arranque arranque({20ms, espera});
-        QElapsedTimer trasLaBusqueda;
-        arranque.buscarActualizacion = [&] {
-            QEventLoop busqueda;
-            QTimer::singleShot(espera + 20ms, &busqueda, &QEventLoop::quit);
-            busqueda.exec();
-            trasLaBusqueda.start();
-        };
-        const auto principal = arranque.iniciar();
-        QVERIFY(principal);
-        QVERIFY(trasLaBusqueda.elapsed() < espera.count());
-    }
-
     void primerInicioPideIdioma()
     {
         m_entorno.emplace(QString());
@@ -186,19 +174,6 @@ private Q_SLOTS:
         QCOMPARE(principal->windowTitle(), u"Aseguruen Ostrel"_s);
     }
 
-    void enterEnUnBotonDeIdiomaLoElige()
-    {
-        m_entorno.emplace(QString());
-        cuandoEste(u"FrmIdioma"_s, [&](QWidget &eleccion) {
-            const Manos manos(eleccion);
-            manos.tecla(Qt::Key_Tab, Qt::ShiftModifier);
-            QCOMPARE(manos.foco(), u"cmdcastellano"_s);
-            manos.tecla(Qt::Key_Return);
-        });
-        QVERIFY(Arranque(Breves).iniciar());
-        QCOMPARE(idiomaGuardado(), u"C"_s);
-    }
-
     void idiomaAbandonadoQuedaSinGuardar()
     {
         m_entorno.emplace(QString());
@@ -210,7 +185,7 @@ private Q_SLOTS:
         QCOMPARE(principal->windowTitle(), u"Ostrel de seguros"_s);
     }
 
-    void baseDanadaSeCuentaUnaVezYElProgramaSigue()
+    void baseDanadaSeCuentaYElProgramaSigue()
     {
         const QByteArray basura("this is no database");
         fijarRutas(Rutas::desde(m_entorno->ruta(u"otra"_s)));
@@ -220,11 +195,10 @@ private Q_SLOTS:
         QCOMPARE(danada.write(basura), qint64(basura.size()));
         danada.close();
 
-        ConductorMensajes mensajes;
-        mensajes.responder(QMessageBox::Ok);
+        m_mensajes->responder(QMessageBox::Ok);
         const auto principal = Arranque(Breves).iniciar();
         QVERIFY(principal);
-        const QString texto = mensajes.texto();
+        const QString texto = m_mensajes->texto();
         QVERIFY2(texto.contains(u"OstrMod.mdb"), qPrintable(texto));
         QVERIFY2(texto.contains(u"restaurar una copia"), qPrintable(texto));
         QVERIFY(danada.open(QIODevice::ReadOnly));
@@ -232,5 +206,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PruebaInicio)
+QTEST_MAIN(TstInicio)
 #include "tst_inicio.moc"

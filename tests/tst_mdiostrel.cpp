@@ -193,6 +193,24 @@ private Q_SLOTS:
         QVERIFY(accion("mnuAbrirDeclarante")->toolTip().contains(u"OstrMod.mdb"));
     }
 
+    /// Settings that were in use at the start are read as soon as they can be.
+    void ajustesLeidosMasTarde()
+    {
+        m_ventana.reset();
+        unico::la<CEntrada>().IDI(u"E"_s);
+        unico::reiniciar();
+        {
+            const ModeloPerdido perdido;
+            InicioSesion lectura;
+            leerSesion(lectura);
+            QVERIFY(!lectura.ajustesLeidos);
+            abrirPrograma();
+            QCOMPARE(m_ventana->windowTitle(), u"Ostrel de seguros"_s);
+        }
+        desplegar("mnuDeclarante");
+        QTRY_COMPARE(m_ventana->windowTitle(), u"Aseguruen Ostrel"_s);
+    }
+
     void nuevoDeclaranteConAtajoYUnaSolaVez()
     {
         QTest::keyClick(m_ventana.get(), Qt::Key_N, Qt::ControlModifier);

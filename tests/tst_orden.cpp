@@ -3,6 +3,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -43,7 +44,7 @@ static QStringList opcionesAlta(const QString &cambiada = {}, const QString &val
 }
 
 /// The program itself, run as a user runs it in a terminal.
-class TestOrden : public QObject
+class TstOrden : public QObject
 {
     Q_OBJECT
 
@@ -63,10 +64,32 @@ private Q_SLOTS:
         fuera.replaceInStrings(u"20001"_s, u"01001"_s);
         fuera.replaceInStrings(u"12345678z"_s, u"A58818501"_s);
         hacer(fuera + partes("--codprov 1 --nommun otro_lugar"));
+        // every field in its place: the whole lines of the exchange file
+        const QString fichero = m_carpeta->filePath(u"declarantes.txt"_s);
+        hacer({u"exportar"_s, fichero});
+        QFile exportado(fichero);
+        QVERIFY(exportado.open(QIODevice::ReadOnly));
+        const auto exportadas = QString::fromLatin1(exportado.readAll()).split(u"\r\n"_s);
+        const auto linea = [](const QString &dni, const QString &nombre, const QString &resto) {
+            return dni.leftJustified(9) + nombre.leftJustified(40) + resto;
+        };
+        QCOMPARE(exportadas.value(0),
+                 linea(u"12345678Z"_s, u"SEGUROS ÑANDÚ"_s,
+                       u"AVMAYOR                         00012B 1 2 DCH2020001001"
+                       u"ABRENZUOLA               94300000000000000000000"_s));
+        QCOMPARE(exportadas.value(1),
+                 linea(u"A58818501"_s, u"SEGUROS ÑANDÚ"_s,
+                       u"CLMAYOR                         00000         0101001000"
+                       u"OTRO LUGAR               94300000000000000000000"_s));
         const auto filas = lista(partes("listar declarantes"));
-        QCOMPARE(filas[0][u"NOMMUN"].toString(), u"ABRENZUOLA"_s);
-        QCOMPARE(filas[1][u"NOMMUN"].toString(), u"OTRO LUGAR"_s);
-        QCOMPARE(filas[1][u"NOMPROV"].toString(), u"ÁLAVA"_s);
+        QCOMPARE(filas[1].toObject(),
+                 QJsonObject({{u"CSCO"_s, 2},
+                              {u"DNI"_s, u"A58818501"_s},
+                              {u"NOMBRE"_s, u"SEGUROS ÑANDÚ"_s},
+                              {u"NOMMUN"_s, u"OTRO LUGAR"_s},
+                              {u"NOMPROV"_s, u"ÁLAVA"_s},
+                              {u"NUM430"_s, 0},
+                              {u"NUM480"_s, 0}}));
     }
 
     void altaRechazada()
@@ -106,10 +129,10 @@ private Q_SLOTS:
                        "--cuota-rectificacion -8"));
         hacer(Declarar430 + partes("--ejercicio 2026 --periodo 11 --base=-9999999999999,99"));
         const auto filas = lista(Listar);
-        QCOMPARE(filas.size(), 3);
-        QCOMPARE(filas[0][u"IMPORTE"].toDouble(), 74.07);
-        QCOMPARE(filas[1][u"IMPORTE"].toDouble(), -800000000000.0);
-        QCOMPARE(filas[2][u"IMPORTE"].toDouble(), 90.76);
+        QCOMPARE(
+            filas,
+            QJsonArray({declaracion(1, 2020, 1, 74.07), declaracion(3, 2026, 11, -800000000000.0),
+                        declaracion(2, 2026, 12, 90.76)}));
     }
 
     void declarar430Rechazada()
@@ -144,10 +167,18 @@ private Q_SLOTS:
         QCOMPARE(salida.texto,
                  u"Declaración guardada: modelo 480, 2026 - ANUAL, 7.989,96 euros\n"_s);
         hacer(Declarar480 + partes("--ejercicio 2025"));
+        // the total fits, in whatever order the boxes come
+        hacer(Declarar480
+              + partes("--ejercicio 2024 --casilla 04=5 --casilla 01=9999999999999,99 --casilla "
+                       "07=-9999999999999,99 "
+                       "--casilla 73=5"));
         const auto filas = lista(Listar);
-        QCOMPARE(filas.size(), 2);
-        QCOMPARE(filas[1][u"PERIODO"].toInt(), 12);
-        QCOMPARE(filas[1][u"IMPORTE"].toDouble(), 7989.96);
+        QCOMPARE(filas,
+                 QJsonArray({declaracion(3, 2024, 12, 0.40, u"480"_s),
+                             declaracion(2, 2025, 12, 0, u"480"_s),
+                             declaracion(1, 2026, 12, 7989.96, u"480"_s)}));
+        QCOMPARE(lista(partes("listar declarantes"))[0][u"NUM480"].toInt(), 3);
+        QCOMPARE(lista(partes("listar declarantes"))[0][u"NUM430"].toInt(), 0);
     }
 
     void declarar480Rechazada()
@@ -188,13 +219,116 @@ private Q_SLOTS:
             ostrel(partes("listar declarantes")).texto,
             u"DNI        Razón social   Nombre del municipio  Nombre de provincia  430  480\n"
             u"12345678Z  SEGUROS ÑANDÚ  ABRENZUOLA            VARLENDA               2    0\n"_s);
-        QCOMPARE(lista(partes("listar declarantes")).first().toObject().keys(),
-                 partes("CSCO DNI NOMBRE NOMMUN NOMPROV NUM430 NUM480"));
-        QCOMPARE(lista(Listar).first().toObject().keys(),
-                 partes("CSDE EJERCICIO IMPORTE MODELO PERIODICIDAD PERIODO TIPOLOGIA"));
         const Salida salida = ostrel(Listar + partes("--json"));
         QVERIFY2(salida.texto.contains(u"\"IMPORTE\": 9999999999999.99,"),
                  qPrintable(salida.texto));
+    }
+
+    /// Every option of the print command, read back from the paper.
+    void imprimir()
+    {
+        if (QStandardPaths::findExecutable(u"pdftotext"_s).isEmpty())
+            QSKIP("pdftotext (poppler-utils) is not installed");
+        hacer(opcionesAlta());
+        hacer(Declarar430 + partes("--ejercicio 2026 --periodo 1 --base 100"));
+        hacer(Declarar430 + partes("--ejercicio 2026 --periodo 2 --base 250"));
+        hacer(Declarar480 + partes("--ejercicio 2026 --casilla 01=300 --casilla 73=300"));
+        const auto papel = [this](const char *opciones) {
+            const QString pdf = m_carpeta->filePath(u"salida.pdf"_s);
+            QFile::remove(pdf);
+            hacer(partes("imprimir --dni 12345678Z --ejercicio 2026") + partes(opciones)
+                  + QStringList{u"--pdf"_s, pdf});
+            QProcess texto;
+            texto.start(u"pdftotext"_s, {u"-raw"_s, pdf, u"-"_s});
+            texto.waitForFinished();
+            return QString::fromUtf8(texto.readAllStandardOutput());
+        };
+        const auto comprobar
+            = [&](const char *opciones, const QStringList &lleva, const QStringList &falta) {
+                  const QString texto = papel(opciones);
+                  for (const QString &uno : lleva)
+                      QVERIFY2(texto.contains(uno), qPrintable(uno + u" | "_s + texto));
+                  for (const QString &uno : falta)
+                      QVERIFY2(!texto.contains(uno), qPrintable(uno));
+              };
+        const QString adm = u"EJEMPLAR PARA LA ADMINISTRACIÓN"_s;
+        const QString inte = u"EJEMPLAR PARA EL INTERESADO"_s;
+        const QString borrador = u"BORRADOR"_s;
+        comprobar("--modelo 430 --periodo 2", {u"250,00"_s, u"20,00"_s, adm, inte},
+                  {u"100,00"_s, borrador});
+        comprobar("--modelo 430 --periodo 1 --copias adm", {u"100,00"_s, adm}, {inte, borrador});
+        comprobar("--modelo 430 --periodo 1 --copias int", {inte}, {adm, borrador});
+        comprobar("--modelo 430 --periodo 1 --borrador", {borrador}, {adm, inte});
+        comprobar("--modelo 480 --fecha 17/03/2027 --copias int",
+                  {u"300,00"_s, u"24,00"_s, u"2027"_s, u"17"_s}, {adm});
+    }
+
+    void imprimirRechazado()
+    {
+        hacer(opcionesAlta());
+        hacer(Declarar430 + partes("--ejercicio 2026 --periodo 1 --base 100"));
+        const auto caso = [this](const char *opciones, const char *motivo, int codigo) {
+            rechazar(partes("imprimir --dni 12345678Z") + partes(opciones), motivo, codigo);
+        };
+        caso("--modelo 431 --ejercicio 2026 --pdf x", "El valor «431» no es válido", 2);
+        caso("--modelo 430 --ejercicio 26x --periodo 1 --pdf x", "El valor «26x» no es", 2);
+        caso("--modelo 430 --ejercicio 2026 --periodo 13 --pdf x", "El valor «13» no es", 2);
+        caso("--modelo 430 --ejercicio 2026 --pdf x", "Falta la opción --periodo.", 2);
+        caso("--modelo 480 --ejercicio 2026 --periodo 3 --pdf x", "El valor «3» no es", 2);
+        caso("--modelo 430 --ejercicio 2026 --periodo 1", "Indique --pdf o --imprimir-en.", 2);
+        caso("--modelo 430 --ejercicio 2026 --periodo 1 --pdf=",
+             "Falta el valor de la opción --pdf", 2);
+        caso("--modelo 430 --ejercicio 2026 --periodo 1 --pdf x --borrador --copias adm",
+             "Las opciones --borrador y --copias no se pueden indicar a la vez.", 2);
+        caso("--modelo 430 --ejercicio 2026 --periodo 1 --pdf x --copias todas",
+             "La opción --copias", 2);
+        caso("--modelo 430 --ejercicio 2026 --periodo 2 --pdf x", "", 1);
+        caso("--modelo 430 --ejercicio 2026 --periodo 1 --fecha 30/02/2026 --pdf x", "", 1);
+        // a file of the program's own stays what it is, whatever name it is given by
+        const QString base = tablas() + u"/OstrMod.mdb"_s;
+        const QString enlace = m_carpeta->filePath(u"salida.pdf"_s);
+        QVERIFY(QFile::link(base, enlace));
+        QFile fichero(base);
+        QVERIFY(fichero.open(QIODevice::ReadOnly));
+        const QByteArray antes = fichero.readAll();
+        for (const QString &destino :
+             {base, enlace, tablas() + u"/../Tablas/OstrLec.mdb"_s, u"/dev/null"_s}) {
+            const Salida salida = ostrel(
+                partes("imprimir --dni 12345678Z --modelo 430 --ejercicio 2026 --periodo 1 --pdf")
+                + QStringList{destino});
+            QCOMPARE(salida.codigo, 1);
+            QVERIFY(!salida.error.isEmpty());
+        }
+        fichero.seek(0);
+        QCOMPARE(fichero.readAll(), antes);
+    }
+
+    /// Without a screen, or on a platform that is not there: one line, and no core dump.
+    void sinPantalla()
+    {
+        QCOMPARE(ostrel({}).error,
+                 u"No se puede abrir la ventana del programa: no existe la plataforma "
+                 "«none-that-exists».\n"_s);
+        QCOMPARE(ostrel({}).codigo, 1);
+        QCOMPARE(ostrel(partes("-platform otra")).error,
+                 u"No se puede abrir la ventana del programa: no existe la plataforma «otra».\n"_s);
+    }
+
+    /// A file that may grow no further is told, and ends nothing.
+    void ficheroSinSitio()
+    {
+        hacer(opcionesAlta());
+        hacer(Declarar430 + partes("--ejercicio 2026 --periodo 1 --base 100"));
+        QProcess proceso;
+        proceso.start(u"bash"_s,
+                      {u"-c"_s, u"ulimit -f 1; exec \"$@\""_s, u"bash"_s, QStringLiteral(OSTREL),
+                       u"--carpeta"_s, m_carpeta->path(), u"imprimir"_s, u"--dni"_s, u"12345678Z"_s,
+                       u"--modelo"_s, u"430"_s, u"--ejercicio"_s, u"2026"_s, u"--periodo"_s, u"1"_s,
+                       u"--pdf"_s, m_carpeta->filePath(u"a.pdf"_s)});
+        QVERIFY(proceso.waitForFinished());
+        QCOMPARE(proceso.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(proceso.exitCode(), 1);
+        QVERIFY(!QFileInfo::exists(m_carpeta->filePath(u"a.pdf"_s)));
     }
 
     void idioma()
@@ -314,6 +448,16 @@ private:
         QCOMPARE(salida.codigo, 0);
     }
 
+    /// A row of the list of returns, whole.
+    static QJsonObject declaracion(int csde, int ejercicio, int periodo, double importe,
+                                   const QString &modelo = u"430"_s)
+    {
+        const int tipo = modelo == u"430" ? 1 : 2;
+        return {{u"CSDE"_s, csde},       {u"EJERCICIO"_s, ejercicio}, {u"PERIODICIDAD"_s, tipo},
+                {u"PERIODO"_s, periodo}, {u"MODELO"_s, modelo},       {u"TIPOLOGIA"_s, tipo},
+                {u"IMPORTE"_s, importe}};
+    }
+
     QJsonArray lista(const QStringList &argumentos) const
     {
         const Salida salida = ostrel(argumentos + QStringList{u"--json"_s});
@@ -325,5 +469,5 @@ private:
     std::optional<QTemporaryDir> m_carpeta;
 };
 
-QTEST_GUILESS_MAIN(TestOrden)
+QTEST_GUILESS_MAIN(TstOrden)
 #include "tst_orden.moc"

@@ -32,7 +32,7 @@ private Q_SLOTS:
     {
         QSet<int> deLaTabla;
         QSet<QString> nombres;
-        for (const Mensaje &mensaje : mensajes()) {
+        for (const Mensaje &mensaje : tablaMensajes()) {
             if (mensaje.numero <= 325)
                 deLaTabla.insert(mensaje.numero);
             QVERIFY2(mensaje.numero <= 325 || mensaje.numero > 1000, qPrintable(mensaje.nombre));
@@ -41,15 +41,15 @@ private Q_SLOTS:
         QCOMPARE(deLaTabla.size(), 223);
         QCOMPARE(*std::ranges::min_element(deLaTabla), 101);
         QCOMPARE(*std::ranges::max_element(deLaTabla), 325);
-        QCOMPARE(nombres.size(), mensajes().size());
-        const auto repetido
-            = std::ranges::adjacent_find(mensajes(), std::ranges::equal_to(), &Mensaje::numero);
-        QVERIFY2(repetido == mensajes().end(), qPrintable(repetido->nombre));
+        QCOMPARE(nombres.size(), tablaMensajes().size());
+        const auto repetido = std::ranges::adjacent_find(tablaMensajes(), std::ranges::equal_to(),
+                                                         &Mensaje::numero);
+        QVERIFY2(repetido == tablaMensajes().end(), qPrintable(repetido->nombre));
     }
 
     void completos()
     {
-        for (const Mensaje &mensaje : mensajes()) {
+        for (const Mensaje &mensaje : tablaMensajes()) {
             QVERIFY2(!mensaje.castellano.trimmed().isEmpty(), qPrintable(mensaje.nombre));
             QVERIFY2(!mensaje.euskera.trimmed().isEmpty(), qPrintable(mensaje.nombre));
             QCOMPARE(textoMensaje(mensaje.numero, Idioma::Castellano), mensaje.castellano);
@@ -82,7 +82,7 @@ private Q_SLOTS:
 
     void huecosIguales()
     {
-        for (const Mensaje &mensaje : mensajes())
+        for (const Mensaje &mensaje : tablaMensajes())
             QVERIFY2(huecos(mensaje.castellano) == huecos(mensaje.euskera),
                      qPrintable(mensaje.nombre));
         // a value that looks like a placeholder stays as it is

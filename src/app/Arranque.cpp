@@ -1,6 +1,6 @@
 #include "app/Arranque.h"
 
-#include "app/Apariencia.h"
+#include "app/Estilo.h"
 #include "app/MDIOstrel.h"
 #include "app/TextosQt.h"
 #include "app/Version.h"
@@ -9,11 +9,16 @@
 #include "core/Sesion.h"
 #include "help/TeclaAyuda.h"
 #include "maintenance/FrmIdioma.h"
+#include "widgets/Ficheros.h"
 #include "widgets/Mensajes.h"
-#include "widgets/Procedimiento.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QTimer>
+#include <QToolBar>
+
+#include <cstdio>
+#include <cstdlib>
 
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
@@ -48,6 +53,27 @@ static bool pideBusqueda()
     } catch (const std::exception &) {
         return false; // the settings could not be read, which has been told
     }
+}
+
+/// In the middle of the screen, or over all of it when it is small.
+static void mostrarCentrada(QMainWindow &ventana)
+{
+    constexpr QSize deseado(1180, 800);
+    const QRect libre = ventana.screen()->availableGeometry();
+    if (libre.width() < deseado.width() || libre.height() < deseado.height()) {
+        // every line counts for the screens inside
+        for (auto *barra : ventana.findChildren<QToolBar *>()) {
+            barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+            barra->setIconSize({20, 20});
+        }
+        ventana.setGeometry(libre);
+        ventana.showMaximized();
+        return;
+    }
+    QRect lugar({}, deseado);
+    lugar.moveCenter(libre.center());
+    ventana.setGeometry(lugar);
+    ventana.show();
 }
 
 std::unique_ptr<MDIOstrel> Arranque::iniciar()
@@ -86,13 +112,44 @@ void Arranque::mostrarInicio()
                           [&] { procedimiento(&inicio, buscarActualizacion); });
 }
 
+/// Why there is no window, should Qt find none to open one on.
+static QString motivoSinVentana(int argc, char **argv)
+{
+    QString plataforma = qEnvironmentVariable("QT_QPA_PLATFORM");
+    for (int i = 1; i + 1 < argc; ++i)
+        if (qstrcmp(argv[i], "-platform") == 0)
+            plataforma = QString::fromLocal8Bit(argv[i + 1]);
+    leerIdiomaGuardado();
+    return plataforma.isEmpty() ? msj(Msj::SinPantalla)
+                                : msj(Msj::PlataformaDesconocida, plataforma);
+}
+
+static QByteArray &motivo()
+{
+    static QByteArray texto;
+    return texto;
+}
+
+/// Qt ends the process when it finds no screen: with our one line, and no core dump.
+static void terminarSinVentana(QtMsgType tipo, const QMessageLogContext &, const QString &)
+{
+    if (tipo != QtFatalMsg)
+        return;
+    fprintf(stderr, "%s\n", motivo().constData());
+    std::_Exit(1);
+}
+
 int abrirVentana(int &argc, char **argv)
 {
+    motivo() = motivoSinVentana(argc, argv).toLocal8Bit();
+    const auto anterior = qInstallMessageHandler(terminarSinVentana);
     QApplication aplicacion(argc, argv);
+    qInstallMessageHandler(anterior);
+    ficheros::sinRastro();
     TextosQt textos;
     QApplication::installTranslator(&textos);
     const TeclaAyuda f1;
-    aplicarApariencia();
+    aplicarEstilo();
     const auto ventana = Arranque().iniciar();
     return ventana ? QApplication::exec() : 0;
 }

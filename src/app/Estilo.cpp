@@ -1,21 +1,53 @@
 #include "app/Estilo.h"
 
-#include "widgets/Camino.h"
+#include "widgets/Dibujo.h"
 
+#include <QApplication>
 #include <QPainter>
+#include <QPalette>
+#include <QProxyStyle>
 #include <QStyleOption>
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Fusion with flat title bars for the windows inside the main window.
+class EstiloFusion : public QProxyStyle
+{
+public:
+    EstiloFusion();
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *opcion,
+                            QPainter *pintor, const QWidget *widget) const override;
+    void drawPrimitive(PrimitiveElement elemento, const QStyleOption *opcion, QPainter *pintor,
+                       const QWidget *widget) const override;
+    QIcon standardIcon(StandardPixmap cual, const QStyleOption *opcion,
+                       const QWidget *widget) const override;
+    int pixelMetric(PixelMetric medida, const QStyleOption *opcion,
+                    const QWidget *widget) const override;
+    int styleHint(StyleHint cual, const QStyleOption *opcion, const QWidget *widget,
+                  QStyleHintReturn *resultado) const override;
+
+private:
+    void pintarTitulo(const QStyleOptionTitleBar &barra, QPainter &pintor,
+                      const QWidget *widget) const;
+    void pintarBoton(const QStyleOptionTitleBar &barra, SubControl boton, QPainter &pintor,
+                     const QWidget *widget) const;
+};
+
+} // namespace
+
 static constexpr QRgb Activa = 0xff1f5f93;
 static constexpr QRgb Peligro = 0xffc8453b;
 
-Estilo::Estilo()
+EstiloFusion::EstiloFusion()
     : QProxyStyle(u"Fusion"_s)
 {
 }
 
-int Estilo::pixelMetric(PixelMetric medida, const QStyleOption *opcion, const QWidget *widget) const
+int EstiloFusion::pixelMetric(PixelMetric medida, const QStyleOption *opcion,
+                              const QWidget *widget) const
 {
     switch (medida) {
     case PM_TitleBarHeight:
@@ -31,17 +63,65 @@ int Estilo::pixelMetric(PixelMetric medida, const QStyleOption *opcion, const QW
     }
 }
 
-int Estilo::styleHint(StyleHint cual, const QStyleOption *opcion, const QWidget *widget,
-                      QStyleHintReturn *resultado) const
+int EstiloFusion::styleHint(StyleHint cual, const QStyleOption *opcion, const QWidget *widget,
+                            QStyleHintReturn *resultado) const
 {
     // disabled text with a shadow is hard to read on dark backgrounds
     return cual == SH_EtchDisabledText ? 0
                                        : QProxyStyle::styleHint(cual, opcion, widget, resultado);
 }
 
-void Estilo::drawComplexControl(ComplexControl control, const QStyleOptionComplex *opcion,
-                                QPainter *pintor, const QWidget *widget) const
+/// The style draws the outlines of boxes and marks in a darker shade of the window's colour, which
+/// cannot be seen on a dark one: it is given the colour whose darker shade has the contrast.
+static QPalette conContorno(QPalette paleta)
 {
+    static constexpr QRgb Contorno = 0xff707b86;
+    static constexpr int Oscurecido = 140; // by the style, in percent
+    paleta.setColor(QPalette::Window, QColor::fromRgb(Contorno).lighter(Oscurecido));
+    return paleta;
+}
+
+void EstiloFusion::drawPrimitive(PrimitiveElement elemento, const QStyleOption *opcion,
+                                 QPainter *pintor, const QWidget *widget) const
+{
+    if (elemento == PE_IndicatorCheckBox || elemento == PE_IndicatorRadioButton) {
+        QStyleOptionButton copia = *static_cast<const QStyleOptionButton *>(opcion);
+        copia.palette = conContorno(copia.palette);
+        QProxyStyle::drawPrimitive(elemento, &copia, pintor, widget);
+    } else if (const auto *marco = qstyleoption_cast<const QStyleOptionFrame *>(opcion);
+               marco && elemento == PE_FrameLineEdit) {
+        QStyleOptionFrame copia = *marco;
+        copia.palette = conContorno(copia.palette);
+        QProxyStyle::drawPrimitive(elemento, &copia, pintor, widget);
+    } else {
+        QProxyStyle::drawPrimitive(elemento, opcion, pintor, widget);
+    }
+}
+
+QIcon EstiloFusion::standardIcon(StandardPixmap cual, const QStyleOption *opcion,
+                                 const QWidget *widget) const
+{
+    switch (cual) {
+    case SP_MessageBoxWarning:
+    case SP_MessageBoxCritical:
+        return icono(Icono::Aviso);
+    case SP_MessageBoxQuestion:
+        return icono(Icono::Pregunta);
+    case SP_MessageBoxInformation:
+        return icono(Icono::Informacion);
+    default:
+        return QProxyStyle::standardIcon(cual, opcion, widget);
+    }
+}
+
+void EstiloFusion::drawComplexControl(ComplexControl control, const QStyleOptionComplex *opcion,
+                                      QPainter *pintor, const QWidget *widget) const
+{
+    if (const auto *lista = qstyleoption_cast<const QStyleOptionComboBox *>(opcion)) {
+        QStyleOptionComboBox copia = *lista;
+        copia.palette = conContorno(copia.palette);
+        return QProxyStyle::drawComplexControl(control, &copia, pintor, widget);
+    }
     const auto *barra = qstyleoption_cast<const QStyleOptionTitleBar *>(opcion);
     if (control != CC_TitleBar || !barra)
         return QProxyStyle::drawComplexControl(control, opcion, pintor, widget);
@@ -65,8 +145,8 @@ static QColor tinta(const QStyleOptionTitleBar &barra)
                          : barra.palette.color(QPalette::Disabled, QPalette::WindowText);
 }
 
-void Estilo::pintarTitulo(const QStyleOptionTitleBar &barra, QPainter &pintor,
-                          const QWidget *widget) const
+void EstiloFusion::pintarTitulo(const QStyleOptionTitleBar &barra, QPainter &pintor,
+                                const QWidget *widget) const
 {
     const QColor fondo = barra.palette.color(QPalette::Window);
     pintor.fillRect(barra.rect, activa(barra) ? QColor::fromRgb(Activa) : fondo.darker(108));
@@ -98,8 +178,8 @@ static QStringView simbolo(QStyle::SubControl boton)
     }
 }
 
-void Estilo::pintarBoton(const QStyleOptionTitleBar &barra, SubControl boton, QPainter &pintor,
-                         const QWidget *widget) const
+void EstiloFusion::pintarBoton(const QStyleOptionTitleBar &barra, SubControl boton,
+                               QPainter &pintor, const QWidget *widget) const
 {
     const QRectF lugar = proxy()->subControlRect(CC_TitleBar, &barra, boton, widget);
     if (!(barra.subControls & boton) || lugar.isEmpty())
@@ -121,4 +201,58 @@ void Estilo::pintarBoton(const QStyleOptionTitleBar &barra, SubControl boton, QP
                      Qt::RoundJoin);
     pintor.strokePath(camino(simbolo(boton)), pluma);
     pintor.restore();
+}
+
+namespace {
+
+struct Color
+{
+    QPalette::ColorRole papel;
+    QRgb claro;
+    QRgb oscuro;
+};
+
+} // namespace
+
+static constexpr Color Colores[] = {
+    {QPalette::Window, 0xfff2f5f8, 0xff2a2e33},
+    {QPalette::WindowText, 0xff1f2a35, 0xffe6eaee},
+    {QPalette::Base, 0xffffffff, 0xff1f2226},
+    {QPalette::AlternateBase, 0xfff4f8fb, 0xff252a2f},
+    {QPalette::Text, 0xff1f2a35, 0xffe6eaee},
+    {QPalette::Button, 0xfff7f9fb, 0xff363b41},
+    {QPalette::ButtonText, 0xff1f2a35, 0xffe6eaee},
+    {QPalette::Highlight, 0xff1d6fa8, 0xff5aa9e6},
+    {QPalette::HighlightedText, 0xffffffff, 0xff0d1720},
+    {QPalette::ToolTipBase, 0xfffffbe8, 0xff3a4047},
+    {QPalette::ToolTipText, 0xff1f2a35, 0xffe6eaee},
+    {QPalette::PlaceholderText, 0xff7a8794, 0xff8d98a3},
+    {QPalette::Link, 0xff1d6fa8, 0xff4da3dc},
+};
+
+static QPalette paleta(bool oscura)
+{
+    QPalette nueva(QColor::fromRgb(oscura ? 0xff363b41 : 0xfff7f9fb),
+                   QColor::fromRgb(oscura ? 0xff2a2e33 : 0xfff2f5f8));
+    for (const Color &color : Colores)
+        nueva.setColor(color.papel, QColor::fromRgb(oscura ? color.oscuro : color.claro));
+    for (const auto papel : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        nueva.setColor(QPalette::Disabled, papel,
+                       QColor::fromRgb(oscura ? 0xff7f8890 : 0xff98a2ad));
+    nueva.setColor(QPalette::Disabled, QPalette::Base,
+                   QColor::fromRgb(oscura ? 0xff2f343a : 0xffe6eaee));
+    nueva.setColor(QPalette::Disabled, QPalette::Highlight,
+                   QColor::fromRgb(oscura ? 0xff4a5158 : 0xffc3ccd6));
+    return nueva;
+}
+
+void aplicarEstilo()
+{
+    // the desktop decides between light and dark
+    const bool oscura = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    QApplication::setStyle(new EstiloFusion);
+    QApplication::setPalette(paleta(oscura));
+    QFont letra = QApplication::font();
+    letra.setPointSizeF(qMax(letra.pointSizeF(), 10.0));
+    QApplication::setFont(letra);
 }

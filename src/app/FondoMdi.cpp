@@ -1,7 +1,7 @@
 #include "app/FondoMdi.h"
 
 #include "core/Textos.h"
-#include "widgets/Emblema.h"
+#include "widgets/Dibujo.h"
 
 #include <QEvent>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "app/MDIOstrel.h"
 
 #include "app/FondoMdi.h"
-#include "app/Mandos.h"
+#include "app/Menus.h"
 #include "app/Pantallas.h"
 #include "app/Recientes.h"
 #include "app/Version.h"
@@ -24,8 +24,8 @@ using namespace Qt::StringLiterals;
 
 MDIOstrel::MDIOstrel(QWidget *padre)
     : QMainWindow(padre)
-    , m_mandos(new Mandos(this))
-    , m_recientes(new Recientes(m_mandos->menu(0)))
+    , m_menus(new Menus(this))
+    , m_recientes(new Recientes(m_menus->menu(0)))
     , m_estado(new QLabel(this))
     , m_version(new QLabel(this))
 {
@@ -53,14 +53,14 @@ MDIOstrel::~MDIOstrel()
 
 void MDIOstrel::conectar()
 {
-    connect(m_mandos, &Mandos::pedido, this,
+    connect(m_menus, &Menus::pedido, this,
             [this](const Destino &destino) { procedimiento(this, [&] { atender(destino); }); });
     connect(m_recientes, &Recientes::elegido, this,
             [this](qint32 csco, const QString &dni, const QString &nombre) {
                 procedimiento(this, [&] { verReciente(csco, dni, nombre); });
             });
     for (int menu = 0; menu < 2; ++menu) {
-        connect(m_mandos->menu(menu), &QMenu::aboutToShow, this, &MDIOstrel::actualizarEstados);
+        connect(m_menus->menu(menu), &QMenu::aboutToShow, this, &MDIOstrel::actualizarEstados);
     }
     connect(m_pantallas, &Pantallas::cambiadas, this, &MDIOstrel::actualizarEstados);
     connect(m_pantallas, &Pantallas::dicho, this, &MDIOstrel::mostrarEnEstado);
@@ -71,7 +71,7 @@ void MDIOstrel::Anadir_captions()
 {
     setWindowTitle(msj(Msj::TituloVentana));
     m_version->setText(msj(Msj::VersionPrograma, versionPrograma()));
-    m_mandos->Anadir_captions();
+    m_menus->Anadir_captions();
     actualizarEstados();
 }
 
@@ -189,6 +189,6 @@ void MDIOstrel::actualizarEstados()
         // opening a menu is no moment for a message box: the entries say why they are disabled
         situacion.motivoSinDeclarantes = textoFalloActual();
     }
-    m_mandos->aplicar(situacion);
+    m_menus->aplicar(situacion);
     m_recientes->aplicar(situacion.editando ? msj(Msj::DeshabilitadoEnEdicion) : QString());
 }

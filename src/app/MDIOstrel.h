@@ -4,7 +4,7 @@
 
 #include <QMainWindow>
 
-class Mandos;
+class Menus;
 class Pantallas;
 class QLabel;
 class Recientes;
@@ -39,7 +39,7 @@ private:
     void alCambiarDatos();
     void actualizarEstados();
 
-    Mandos *m_mandos;
+    Menus *m_menus;
     Recientes *m_recientes;
     Pantallas *m_pantallas;
     QLabel *m_estado; ///< what was last done

@@ -1,7 +1,6 @@
 #include "app/Pantallas.h"
 
 #include "app/MarcoInterior.h"
-#include "app/TablaPantallas.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>

@@ -7,6 +7,20 @@
 class QMdiArea;
 class QMdiSubWindow;
 
+/// How a screen is made and framed.
+struct DatosPantalla
+{
+    enum Marco { Ajustado, Amplio, Modal };
+
+    Pantalla cual;
+    PantallaBase *(*crear)(QWidget *padre);
+    Marco marco;
+    bool (*caduca)() = nullptr; ///< whether one that is open must give way to a new one
+};
+
+/// The row of a screen.
+const DatosPantalla *datosPantalla(Pantalla cual);
+
 /// The screens open inside the main window, each at most once. It opens what a screen asks for.
 class Pantallas : public QObject
 {
@@ -37,7 +51,7 @@ Q_SIGNALS:
 private:
     PantallaBase *pantalla(Pantalla cual) const;
     bool alguna(bool (PantallaBase::*condicion)() const) const;
-    void mostrarNueva(const struct DatosPantalla &datos);
+    void mostrarNueva(const DatosPantalla &datos);
     void enmarcar(PantallaBase *nueva, bool amplia);
     bool abrirTras(PantallaBase *saliente, Pantalla siguiente);
     void traerDelante(PantallaBase *abierta);

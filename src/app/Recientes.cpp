@@ -1,6 +1,6 @@
 #include "app/Recientes.h"
 
-#include "app/Mandos.h"
+#include "app/Menus.h"
 
 #include <QAction>
 #include <QMenu>

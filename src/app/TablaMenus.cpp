@@ -1,6 +1,6 @@
 #include "app/TablaMenus.h"
 
-static constexpr DatosMenu Menus[] = {
+static constexpr DatosMenu TitulosMenu[] = {
     {"mnuDeclarante", Msj::MenuDeclarante},
     {"mnuUtilidades", Msj::MenuUtilidades},
     {"mnuAyuda", Msj::MenuAyuda},
@@ -49,7 +49,7 @@ static constexpr EntradaBarra Barra[] = {
 
 std::span<const DatosMenu> tablaMenus()
 {
-    return Menus;
+    return TitulosMenu;
 }
 
 std::span<const EntradaMenu> tablaEntradas()

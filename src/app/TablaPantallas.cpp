@@ -1,5 +1,4 @@
-#include "app/TablaPantallas.h"
-
+#include "app/Pantallas.h"
 #include "app/frmAbout.h"
 #include "core/Unico.h"
 #include "declarants/FrmDecLista.h"

@@ -2,7 +2,7 @@
 
 #include "app/Version.h"
 #include "core/Textos.h"
-#include "widgets/Emblema.h"
+#include "widgets/Dibujo.h"
 #include "widgets/Iconos.h"
 
 #include <QApplication>

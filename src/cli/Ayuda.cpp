@@ -1,5 +1,3 @@
-#include "cli/Ayuda.h"
-
 #include "cli/Ordenes.h"
 #include "core/Textos.h"
 

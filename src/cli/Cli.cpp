@@ -1,13 +1,10 @@
 #include "cli/Cli.h"
 
-#include "cli/Ayuda.h"
 #include "cli/Linea.h"
 #include "cli/Ordenes.h"
-#include "core/CEntrada.h"
 #include "core/Rutas.h"
 #include "core/Sesion.h"
 #include "core/Textos.h"
-#include "core/Unico.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -33,18 +30,6 @@ std::optional<QString> carpetaPedida(const QStringList &argumentos)
 {
     const QString carpeta = leerLinea(argumentos).argumentos.valor(Comun::Carpeta);
     return carpeta.isEmpty() ? std::nullopt : std::optional(carpeta);
-}
-
-/// Help and wrong usage speak the stored language too, but create and report nothing.
-static void leerIdiomaGuardado()
-{
-    try {
-        auto &entrada = unico::la<CEntrada>();
-        entrada.LeerIdioma();
-        entrada.AplicarIdioma();
-    } catch (const std::exception &) {
-        return;
-    }
 }
 
 static Resultado malUso(const Linea::Fallo &fallo)

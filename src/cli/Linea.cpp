@@ -44,8 +44,18 @@ static Linea::Fallo falloDe(const QCommandLineParser &lector, const QStringList 
     return {Msj::CliFaltaValor, argumentos.last()};
 }
 
-Linea leerLinea(const QStringList &argumentos)
+/// The line without "-platform NAME", which is for the window system.
+static QStringList sinPlataforma(QStringList argumentos)
 {
+    const auto lugar = argumentos.indexOf(u"-platform"_s);
+    if (lugar >= 0)
+        argumentos.remove(lugar, std::min<qsizetype>(2, argumentos.size() - lugar));
+    return argumentos;
+}
+
+Linea leerLinea(const QStringList &todos)
+{
+    const QStringList argumentos = sinPlataforma(todos);
     QCommandLineParser lector;
     lector.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     QSet<QString> puestas;

@@ -1,6 +1,6 @@
-#include "cli/Declarante.h"
-#include "cli/Orden.h"
+#include "cli/Valores.h"
 #include "core/Periodos.h"
+#include "core/RutasPropias.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "core/cFecha.h"
@@ -14,12 +14,7 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <optional>
-
 using namespace Qt::StringLiterals;
-
-/// Why the command is refused; nothing when it can go on.
-using Rechazo = std::optional<Resultado>;
 
 static constexpr Opcion Opciones[] = {
     {u"dni", u"DNI", Msj::AyudaDni, Opcion::Obligatoria},
@@ -33,15 +28,37 @@ static constexpr Opcion Opciones[] = {
     {u"imprimir-en", u"IMPRESORA", Msj::AyudaImprimirEn},
 };
 
+/// Wrong usage that needs no look at what is stored.
+static Rechazo comprobarUso(const Argumentos &argumentos)
+{
+    for (const QStringView destino : {u"pdf", u"imprimir-en"})
+        if (argumentos.tiene(destino) && argumentos.valor(destino).isEmpty())
+            return malUso(msj(Msj::CliFaltaValor, conGuiones(destino)));
+    if (!argumentos.tiene(u"pdf") && !argumentos.tiene(u"imprimir-en"))
+        return malUso(msj(Msj::CliPdfOImpresora));
+    if (argumentos.tiene(u"borrador") && argumentos.tiene(u"copias"))
+        return malUso(
+            msj(Msj::CliOpcionesExcluyentes, conGuiones(u"borrador"), conGuiones(u"copias")));
+    const QString modelo = argumentos.valor(u"modelo");
+    if (modelo != Modelo430 && modelo != Modelo480)
+        return valorMalo(u"modelo", modelo);
+    if (numeroDado(argumentos, u"ejercicio", UltimoEjercicio) == 0)
+        return valorMalo(u"ejercicio", argumentos.valor(u"ejercicio"));
+    if (modelo == Modelo430 && !argumentos.tiene(u"periodo"))
+        return malUso(msj(Msj::CliFaltaOpcion, conGuiones(u"periodo")));
+    const int mes = numeroDado(argumentos, u"periodo", UltimoMes);
+    if (argumentos.tiene(u"periodo") && (mes == 0 || (modelo == Modelo480 && mes != PeriodoAnual)))
+        return valorMalo(u"periodo", argumentos.valor(u"periodo"));
+    return {};
+}
+
 /// Finds the return among the declarant's and makes it the header's and the request's.
 static Rechazo tomarDeclaracion(const Argumentos &argumentos)
 {
     const QString modelo = argumentos.valor(u"modelo");
-    if (modelo == Modelo430 && !argumentos.tiene(u"periodo"))
-        return malUso(msj(Msj::CliFaltaOpcion, conGuiones(u"periodo")));
-    const int ejercicio = argumentos.valor(u"ejercicio").toInt();
+    const int ejercicio = numeroDado(argumentos, u"ejercicio", UltimoEjercicio);
     const int periodo
-        = modelo == Modelo480 ? int(PeriodoAnual) : argumentos.valor(u"periodo").toInt();
+        = modelo == Modelo480 ? int(PeriodoAnual) : numeroDado(argumentos, u"periodo", UltimoMes);
 
     auto &cabecera = unico::la<cDecResumen>();
     const auto declaraciones = cabecera.CargarDeclaraciones();
@@ -98,7 +115,9 @@ static Resultado escribirPdf(TrabajoImpresion &trabajo, const QString &salida)
     const bool esCarpeta = QFileInfo(salida).isDir();
     const QString ruta
         = esCarpeta ? QDir(salida).filePath(trabajo.nombreFichero(trabajo.copias())) : salida;
-    const QString motivo = guardarPdfs(trabajo, {ruta});
+    QString motivo = motivoRutaRechazada(ruta);
+    if (motivo.isEmpty())
+        motivo = guardarPdfs(trabajo, {ruta});
     return motivo.isEmpty() ? hecho(msj(Msj::PdfGuardado, QDir::toNativeSeparators(ruta)))
                             : rechazado(motivo);
 }
@@ -114,18 +133,16 @@ static Resultado enviar(TrabajoImpresion &trabajo, const QString &impresora)
 
 static Resultado imprimir(const Argumentos &argumentos)
 {
-    const bool aPdf = argumentos.tiene(u"pdf");
-    if (!aPdf && !argumentos.tiene(u"imprimir-en"))
-        return malUso(msj(Msj::CliPdfOImpresora));
-    if (const QString motivo = tomarDeclarante(argumentos.valor(u"dni")); !motivo.isEmpty())
-        return rechazado(motivo);
-    for (const auto paso : {tomarDeclaracion, tomarCopias, tomarFecha})
+    const auto tomarDni
+        = [](const Argumentos &dados) { return tomarDeclarante(dados.valor(u"dni")); };
+    for (Rechazo (*paso)(const Argumentos &) :
+         {+comprobarUso, +tomarCopias, +tomarDni, +tomarDeclaracion, +tomarFecha})
         if (const Rechazo rechazo = paso(argumentos))
             return *rechazo;
 
     TrabajoImpresion trabajo(unico::la<cImOf>());
     Resultado resultado;
-    if (aPdf)
+    if (argumentos.tiene(u"pdf"))
         resultado = escribirPdf(trabajo, argumentos.valor(u"pdf"));
     if (resultado.salida == Salida::Hecho && argumentos.tiene(u"imprimir-en")) {
         const Resultado enviado = enviar(trabajo, argumentos.valor(u"imprimir-en"));

@@ -1,4 +1,3 @@
-#include "cli/Declarante.h"
 #include "cli/Orden.h"
 #include "core/Servicios.h"
 #include "core/Textos.h"

@@ -1,6 +1,5 @@
-#include "cli/Declarante.h"
-#include "cli/Orden.h"
 #include "cli/Tabla.h"
+#include "cli/Valores.h"
 #include "core/Importe.h"
 #include "core/Periodos.h"
 #include "core/Textos.h"
@@ -55,8 +54,8 @@ static Resultado listarDeclaraciones(const Argumentos &argumentos)
         {u"TIPOLOGIA", de<Fila, &Fila::tipologia>},
         {u"IMPORTE", euros, msj(Msj::ColumnaImporte), true, importe},
     };
-    if (const QString motivo = tomarDeclarante(argumentos.valor(u"dni")); !motivo.isEmpty())
-        return rechazado(motivo);
+    if (auto rechazo = tomarDeclarante(argumentos.valor(u"dni")))
+        return *rechazo;
     return listado<Fila>(argumentos, columnas, unico::la<cDecResumen>().CargarDeclaraciones(),
                          Msj::CliListaVaciaDeclaraciones);
 }

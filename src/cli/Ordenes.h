@@ -18,3 +18,7 @@ const Orden *buscarOrden(const QStringList &palabras);
 
 /// How many words name a command.
 qsizetype numeroPalabras(const Orden &orden);
+
+/// Help on the command that `palabras` names; when they name none, on every command that begins
+/// with them, or on all.
+QString textoAyuda(const QStringList &palabras);

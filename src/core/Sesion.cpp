@@ -80,3 +80,14 @@ void comprobarDatos()
 {
     servicioTraspaso()->Comprobar();
 }
+
+void leerIdiomaGuardado()
+{
+    try {
+        auto &entrada = unico::la<CEntrada>();
+        entrada.LeerIdioma();
+        entrada.AplicarIdioma();
+    } catch (const std::exception &) {
+        return;
+    }
+}

@@ -35,3 +35,6 @@ bool completarSesion();
 /// Lets the data service look through the whole database, once a process: for after the window is
 /// shown. Throws ErrorDatos.
 void comprobarDatos();
+
+/// Takes the stored language, when it can be read, and creates nothing; before there is a session.
+void leerIdiomaGuardado();

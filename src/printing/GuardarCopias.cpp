@@ -5,7 +5,6 @@
 #include "printing/TrabajoImpresion.h"
 #include "widgets/Ficheros.h"
 #include "widgets/Mensajes.h"
-#include "widgets/Procedimiento.h"
 
 #include <QDesktopServices>
 #include <QDir>

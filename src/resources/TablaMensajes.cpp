@@ -22,7 +22,7 @@ static void leer(const QString &ruta, QList<Mensaje> &tabla)
     }
 }
 
-const QList<Mensaje> &mensajes()
+const QList<Mensaje> &tablaMensajes()
 {
     static const QList<Mensaje> tabla = [] {
         QList<Mensaje> leidos;
@@ -36,8 +36,8 @@ const QList<Mensaje> &mensajes()
 
 QString textoMensaje(int numero, Idioma idioma)
 {
-    const auto hallado = std::ranges::lower_bound(mensajes(), numero, {}, &Mensaje::numero);
-    if (hallado == mensajes().end() || hallado->numero != numero)
+    const auto hallado = std::ranges::lower_bound(tablaMensajes(), numero, {}, &Mensaje::numero);
+    if (hallado == tablaMensajes().end() || hallado->numero != numero)
         return {};
     return idioma == Idioma::Castellano ? hallado->castellano : hallado->euskera;
 }

@@ -17,7 +17,7 @@ struct Mensaje
 };
 
 /// Every text of both files, by ascending number.
-const QList<Mensaje> &mensajes();
+const QList<Mensaje> &tablaMensajes();
 
 /// The text number `numero`; empty when there is none.
 QString textoMensaje(int numero, Idioma idioma);

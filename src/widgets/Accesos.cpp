@@ -1,6 +1,5 @@
-#include "widgets/Accesos.h"
-
 #include "core/Textos.h"
+#include "widgets/Disposicion.h"
 
 #include <QAbstractButton>
 #include <QKeySequence>

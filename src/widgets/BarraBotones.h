@@ -2,10 +2,29 @@
 
 #include "widgets/Iconos.h"
 
+#include <QToolButton>
 #include <QWidget>
 
 class QHBoxLayout;
 class QPushButton;
+
+/// Picture twin of a button: the same action, enabled state and tip. It is no tab stop, as the
+/// button beside it is.
+class BotonImagen : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    BotonImagen(const QString &nombre, Icono icono, QPushButton *gemelo);
+
+protected:
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
+
+private:
+    void copiarEstado();
+
+    QPushButton *m_gemelo;
+};
 
 /// The row of buttons at the foot of a screen, each with its picture twin beside it.
 class BarraBotones : public QWidget

@@ -2,6 +2,7 @@
 
 #include "widgets/PantallaBase.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QScopedValueRollback>
 #include <QTimer>
@@ -83,6 +84,13 @@ void Caja::alEditar(const QString &nuevo)
     }
     m_pendiente = m_pendiente || resultado != m_anterior;
     m_anterior = resultado;
+}
+
+void Caja::avisarDescartado(const QString &texto)
+{
+    QApplication::beep();
+    if (auto *pantalla = pantallaDe(this))
+        pantalla->decir(texto, true);
 }
 
 void Caja::focusInEvent(QFocusEvent *evento)

@@ -34,6 +34,9 @@ protected:
     /// change; null refuses the whole change.
     virtual QString admitir(QString &antes, const QString &insertado, QString &despues) = 0;
 
+    /// Beeps softly and says in the status bar why something typed was dropped.
+    void avisarDescartado(const QString &texto);
+
     void focusInEvent(QFocusEvent *evento) override;
     void focusOutEvent(QFocusEvent *evento) override;
     void hideEvent(QHideEvent *evento) override;

@@ -1,11 +1,16 @@
 #include "widgets/CajaImporte.h"
 
 #include "core/Importe.h"
+#include "core/Textos.h"
+#include "dataservice/Codigos.h"
 #include "widgets/Mensajes.h"
 #include "widgets/PantallaBase.h"
 
 #include <QKeyEvent>
 #include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -18,9 +23,31 @@ CajaImporte::CajaImporte(const QString &nombre, QWidget *padre)
     alConfirmar = [this] { return tomar(); };
 }
 
+/// The amount of "100+25,5-3": the sum of its terms, each read as an amount.
+static ImporteLeido leerSuma(const QString &texto)
+{
+    static const QRegularExpression termino(u"(?<=[^+-])(?=[+-])"_s);
+    if (texto.isEmpty())
+        return {};
+    ImporteLeido suma;
+    for (QString parte : texto.split(termino)) {
+        if (parte.startsWith(u'+'))
+            parte.remove(0, 1);
+        const ImporteLeido leido = leerImporte(parte);
+        if (!leido.valido())
+            return leido;
+        if (parte.isEmpty())
+            return {0, ImporteLeido::Ilegible};
+        suma.centimos += leido.centimos;
+    }
+    if (std::abs(suma.centimos) > ImporteMaximo)
+        return {0, ImporteLeido::DemasiadasCifras};
+    return suma;
+}
+
 bool CajaImporte::tomar()
 {
-    const auto leido = leerImporte(text());
+    const auto leido = leerSuma(text());
     if (!leido.valido()) {
         mensajes::aviso(this, tituloDe(this), leido.motivo(text()));
         return false;
@@ -45,16 +72,31 @@ QSize CajaImporte::sizeHint() const
     return tamano;
 }
 
-static bool puedeSerImporte(const QString &texto)
+static bool puedeSerTermino(const QString &texto)
 {
-    static const QRegularExpression forma(u"^-?[0-9.]*(,[0-9]{0,2})?$"_s);
     const auto enteros = texto.left(texto.indexOf(u',') < 0 ? texto.size() : texto.indexOf(u','));
     const auto cifras = std::ranges::count_if(enteros, [](QChar c) { return c.isDigit(); });
     // a lone point may still turn out to be the decimal one
+    return cifras <= CifrasEnteras
+        || (enteros.count(u'.') == 1 && leerImporte(texto).fallo != ImporteLeido::DemasiadasCifras);
+}
+
+/// Whether the text is an amount, or a sum of amounts, or the beginning of one.
+static bool puedeSerImporte(const QString &texto)
+{
+    static const QRegularExpression forma(
+        u"^-?[0-9.]*(,[0-9]{0,2})?([+-][0-9.]*(,[0-9]{0,2})?)*$"_s);
+    static const QRegularExpression signo(u"[+-]"_s);
     return forma.match(texto).hasMatch()
-        && (cifras <= CifrasEnteras
-            || (enteros.count(u'.') == 1
-                && leerImporte(texto).fallo != ImporteLeido::DemasiadasCifras));
+        && std::ranges::all_of(texto.split(signo), puedeSerTermino);
+}
+
+/// A pasted amount without its currency and without blanks between its groups.
+static QString sinAdornos(QString pegado)
+{
+    static const QRegularExpression adornos(u"[\\s\u00A0\u202F]|€|EUR"_s,
+                                            QRegularExpression::CaseInsensitiveOption);
+    return pegado.remove(adornos);
 }
 
 QString CajaImporte::admitir(QString &antes, const QString &insertado, QString &despues)
@@ -64,9 +106,12 @@ QString CajaImporte::admitir(QString &antes, const QString &insertado, QString &
         antes.remove(u'.');
         despues.remove(u'.');
     }
-    const QString limpio = insertado.trimmed();
-    if (!puedeSerImporte(antes + limpio + despues))
+    const QString limpio = sinAdornos(insertado);
+    if (!puedeSerImporte(antes + limpio + despues)) {
+        avisarDescartado(insertado.size() > 1 ? msj(Msj::ImporteIlegible, insertado)
+                                              : msj(Msj::TeclaNoAdmitida, insertado));
         return {};
+    }
     m_conPuntosNuestros = false;
     return limpio.isNull() ? u""_s : limpio;
 }

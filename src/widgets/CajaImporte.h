@@ -3,7 +3,8 @@
 #include "widgets/Caja.h"
 
 /// An amount box: 13 integer digits and 2 decimals, shown as "1.234.567,89", empty for zero. The
-/// keypad's point types a comma; text that cannot be an amount cannot be typed or pasted.
+/// keypad's point types a comma; text that cannot be an amount cannot be typed or pasted; a sum
+/// ("100+25,5-3") becomes its result, and a pasted amount loses its currency and blanks.
 class CajaImporte : public Caja
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 #include "widgets/CajaTexto.h"
 
 #include "core/FiltroTeclas.h"
+#include "core/Textos.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,14 +30,30 @@ QSize CajaTexto::minimumSizeHint() const
         {fontMetrics().horizontalAdvance(QString(AnchoMinimo, u'X')), Caja::sizeHint().height()});
 }
 
+/// The character to take for `c`; pasted texts keep the accented capitals that files carry.
+QChar CajaTexto::admitido(QChar c, bool pegado) const
+{
+    if (m_filtro == Cifras)
+        return filtrarCifra(c);
+    const QChar mayuscula = c.toUpper();
+    return pegado && admitidoEnFichero(mayuscula) ? mayuscula : filtrarTexto(c);
+}
+
 QString CajaTexto::admitir(QString &antes, const QString &insertado, QString &despues)
 {
     QString limpio = u""_s;
-    const auto hueco = m_limite - antes.size() - despues.size();
+    QString descartados;
     for (const QChar c : insertado) {
-        const QChar tomado = m_filtro == Cifras ? filtrarCifra(c) : filtrarTexto(c);
-        if (!tomado.isNull() && tomado != TeclaRetroceso && limpio.size() < hueco)
+        const QChar tomado = admitido(c, insertado.size() > 1);
+        if (!tomado.isNull() && tomado != TeclaRetroceso)
             limpio += tomado;
+        else if (!descartados.contains(c))
+            descartados += c;
     }
-    return limpio;
+    const auto hueco = std::max<qsizetype>(0, m_limite - antes.size() - despues.size());
+    if (!descartados.isEmpty())
+        avisarDescartado(msj(Msj::TeclaNoAdmitida, descartados));
+    else if (limpio.size() > hueco)
+        avisarDescartado(msj(Msj::LimiteCasilla, QString::number(m_limite)));
+    return limpio.left(hueco);
 }

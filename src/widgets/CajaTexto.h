@@ -20,6 +20,8 @@ protected:
     QString admitir(QString &antes, const QString &insertado, QString &despues) override;
 
 private:
+    QChar admitido(QChar c, bool pegado) const;
+
     int m_limite;
     Filtro m_filtro;
 };

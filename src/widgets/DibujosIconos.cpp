@@ -1,4 +1,4 @@
-#include "widgets/DibujosIconos.h"
+#include "widgets/Dibujo.h"
 
 using enum Tono;
 
@@ -154,14 +154,29 @@ static constexpr Trazo Informacion[] = {
     {Blanco, 0, u"O 12 7.4 1.4"},
 };
 
+static constexpr Trazo Aviso[] = {
+    {Ambar, 0,
+     u"M 12 2.6 C 12.8 2.6 13.4 3 13.8 3.7 L 22 18.4 C 22.8 19.9 21.9 21.4 20.2 21.4 "
+     "L 3.8 21.4 C 2.1 21.4 1.2 19.9 2 18.4 L 10.2 3.7 C 10.6 3 11.2 2.6 12 2.6 Z"},
+    {Tinta, 2.2, u"M 12 9 L 12 14"},
+    {Tinta, 0, u"O 12 17.8 1.4"},
+};
+static constexpr Trazo Pregunta[] = {
+    {Acento, 0, Redondo},
+    {Blanco, 2.2,
+     u"M 8.8 9.4 C 8.8 7.4 10.2 6.2 12 6.2 C 13.8 6.2 15.2 7.4 15.2 9.2 C 15.2 11.4 12 "
+     "11.6 12 14"},
+    {Blanco, 0, u"O 12 17.4 1.4"},
+};
+
 /// In the order of the icons.
 static constexpr std::span<const Trazo> Dibujos[] = {
-    Nuevo,      Abrir,     Eliminar,    Ayuda,    Salir,       Aceptar,
-    Cancelar,   Siguiente, Anterior,    Imprimir, Declaracion, {}, // the program: Emblema.h
-    Declarante, Copia,     Restaurar,   Importar, Exportar,    Preferencias,
-    Lista,      Buscar,    VistaPrevia, Pdf,      Asistencia,  Informacion,
+    Nuevo,      Abrir,       Eliminar,  Ayuda,       Salir,       Aceptar,      Cancelar,
+    Siguiente,  Anterior,    Imprimir,  Declaracion, {}, // the program: its emblem
+    Declarante, Copia,       Restaurar, Importar,    Exportar,    Preferencias, Lista,
+    Buscar,     VistaPrevia, Pdf,       Asistencia,  Informacion, Aviso,        Pregunta,
 };
-static_assert(std::size(Dibujos) == static_cast<std::size_t>(Icono::Informacion) + 1);
+static_assert(std::size(Dibujos) == static_cast<std::size_t>(Icono::Pregunta) + 1);
 
 std::span<const Trazo> dibujo(Icono cual)
 {

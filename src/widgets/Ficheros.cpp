@@ -4,6 +4,9 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QSettings>
+
+using namespace Qt::StringLiterals;
 
 namespace ficheros {
 
@@ -45,6 +48,11 @@ QString guardar(QWidget *padre, const QString &titulo, const QString &propuesto,
     dialogo.setDefaultSuffix(fichero.suffix());
     dialogo.selectFile(fichero.fileName());
     return elegirFichero(dialogo);
+}
+
+void sinRastro()
+{
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, u"/dev/null"_s);
 }
 
 } // namespace ficheros

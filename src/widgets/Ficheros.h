@@ -22,4 +22,8 @@ QString guardar(QWidget *padre, const QString &titulo, const QString &propuesto,
 using Observador = std::function<void(QFileDialog &)>;
 void observar(Observador observador);
 
+/// Keeps Qt's own file dialogue from remembering its settings in the user's folders. Once, before
+/// the first dialogue.
+void sinRastro();
+
 } // namespace ficheros

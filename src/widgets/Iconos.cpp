@@ -1,8 +1,6 @@
 #include "widgets/Iconos.h"
 
-#include "widgets/Camino.h"
-#include "widgets/DibujosIconos.h"
-#include "widgets/Emblema.h"
+#include "widgets/Dibujo.h"
 
 #include <QGuiApplication>
 #include <QIconEngine>

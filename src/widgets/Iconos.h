@@ -29,6 +29,8 @@ enum class Icono {
     Pdf, ///< save as PDF
     Asistencia, ///< help on the network
     Informacion, ///< about the program
+    Aviso, ///< something the user must know
+    Pregunta, ///< something the user decides
 };
 
 QIcon icono(Icono cual);

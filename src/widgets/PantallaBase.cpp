@@ -1,7 +1,6 @@
 #include "widgets/PantallaBase.h"
 
 #include "core/Textos.h"
-#include "widgets/Accesos.h"
 #include "widgets/Confirmable.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Iconos.h"

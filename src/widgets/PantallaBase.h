@@ -1,6 +1,6 @@
 #pragma once
 
-#include "widgets/Procedimiento.h"
+#include "widgets/Mensajes.h"
 
 #include <QWidget>
 

@@ -1,10 +1,44 @@
 #include "widgets/cUtilidadesGrid.h"
 
-#include "widgets/CajaBusqueda.h"
+#include "core/Textos.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QTableView>
+
+using namespace Qt::StringLiterals;
+
+static constexpr int AnchoMinimo = 160;
+
+CajaBusqueda::CajaBusqueda(QWidget *padre)
+    : QLineEdit(padre)
+{
+    setObjectName(u"txtBusqueda"_s);
+    setFocusPolicy(Qt::NoFocus);
+    hide();
+}
+
+void CajaBusqueda::mostrarEn(const QRect &lugar)
+{
+    setGeometry(lugar.x(), lugar.y(), std::max(lugar.width(), AnchoMinimo), lugar.height());
+    setAccessibleName(msj(Msj::AccesibleCuadroBusqueda));
+    show();
+    raise();
+}
+
+void CajaBusqueda::vaciar()
+{
+    clear();
+    hide();
+}
+
+void CajaBusqueda::hallado(bool algo)
+{
+    QPalette colores;
+    if (!algo)
+        colores.setColor(QPalette::Text, Qt::red);
+    setPalette(colores);
+}
 
 cUtilidadesGrid::cUtilidadesGrid(QTableView *Flex, std::function<bool(const QString &)> filtrar)
     : QObject(Flex)

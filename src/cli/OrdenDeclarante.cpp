@@ -1,15 +1,17 @@
-#include "cli/DatosAlta.h"
-
+#include "cli/Valores.h"
 #include "core/FiltroTeclas.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
+#include "declarants/CamposDeclarante.h"
 #include "declarants/Listas.h"
+#include "declarants/MensajesDeclarante.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
-QString opcionDe(const campos::Definicion &campo)
+/// The option of a field: its property's name in small letters.
+static QString opcionDe(const campos::Definicion &campo)
 {
     return campo.nombre.toString().toLower();
 }
@@ -21,14 +23,14 @@ static bool vaTalCual(campos::Campo campo)
     return campo != NUMERO && campo != VIA && campo != CODPROV && campo != CODMUN;
 }
 
-static Rechazo valorMalo(QStringView opcion, const QString &valor)
-{
-    return rechazado(msj(Msj::CliValorNoValido, conGuiones(opcion), valor));
-}
-
 static QString texto(const Argumentos &argumentos, QStringView opcion)
 {
     return argumentos.valor(opcion).trimmed().toUpper();
+}
+
+static Rechazo valorRechazado(QStringView opcion, const QString &valor)
+{
+    return rechazado(msj(Msj::CliValorNoValido, conGuiones(opcion), valor));
 }
 
 static Rechazo tomarTexto(const campos::Definicion &campo, const QString &valor)
@@ -47,7 +49,7 @@ static Rechazo tomarTexto(const campos::Definicion &campo, const QString &valor)
 static Rechazo tomarNumero(const QString &valor)
 {
     if (!sonCifras(valor))
-        return valorMalo(u"numero", valor);
+        return valorRechazado(u"numero", valor);
     unico::la<cDecDatos>().NUMERO(valor.toInt());
     return {};
 }
@@ -83,7 +85,7 @@ static Rechazo tomarMunicipio(const QString &codigo, const QString &nombre)
     auto &declarante = unico::la<cDecDatos>();
     if (!declarante.enProvinciaPropia()) {
         declarante.NOMMUN(nombre);
-        return codigo.isEmpty() ? Rechazo() : valorMalo(u"codmun", codigo);
+        return codigo.isEmpty() ? Rechazo() : valorRechazado(u"codmun", codigo);
     }
     if (codigo.isEmpty())
         return {};
@@ -93,11 +95,12 @@ static Rechazo tomarMunicipio(const QString &codigo, const QString &nombre)
               declarante.NOMMUN(municipio.nombre);
           });
     if (!fallo && !nombre.isEmpty() && nombre != declarante.NOMMUN())
-        return valorMalo(u"nommun", nombre);
+        return valorRechazado(u"nommun", nombre);
     return fallo;
 }
 
-Rechazo tomarDatosAlta(const Argumentos &argumentos)
+/// Makes the declarant record a new one of the options given.
+static Rechazo tomarDatosAlta(const Argumentos &argumentos)
 {
     unico::la<cDecDatos>().MODO(Modo::Alta);
     for (const auto &campo : campos::tabla) {
@@ -116,3 +119,41 @@ Rechazo tomarDatosAlta(const Argumentos &argumentos)
             return fallo;
     return tomarMunicipio(texto(argumentos, u"codmun"), texto(argumentos, u"nommun"));
 }
+
+static Resultado declaranteAlta(const Argumentos &argumentos)
+{
+    if (auto fallo = tomarDatosAlta(argumentos))
+        return *fallo;
+    const auto &declarante = unico::la<cDecDatos>();
+    const qint16 regla = declarante.ValidarDatosDeclarante(declarante.RegistroValidacion());
+    if (regla != 0)
+        return rechazado(
+            msj(Msj::CliOpcionMal,
+                conGuiones(opcionDe(campos::deValidacion(campoValidacionDeclarante(regla)))),
+                textoValidacionDeclarante(regla)));
+    const qint16 guardado = declarante.GuardarDeclarante(declarante.RegistroCompleto());
+    if (guardado != 0)
+        return rechazado(textoGuardarDeclarante(guardado));
+    return hecho(msj(Msj::CliDeclaranteAlta, declarante.DNI(), declarante.NOMBRE()));
+}
+
+static constexpr Opcion Opciones[] = {
+    {u"dni", u"DNI", Msj::AyudaDni, Opcion::Obligatoria},
+    {u"nombre", u"TEXTO", Msj::AyudaNombre, Opcion::Obligatoria},
+    {u"domicilio", u"TEXTO", Msj::AyudaDomicilio, Opcion::Obligatoria},
+    {u"codpos", u"NNNNN", Msj::AyudaCodpos, Opcion::Obligatoria},
+    {u"telefono", u"NNNNNNNNN", Msj::AyudaTelefono, Opcion::Obligatoria},
+    {u"codmun", u"NNN", Msj::AyudaCodmun},
+    {u"via", u"SIGLA", Msj::AyudaVia},
+    {u"numero", u"N", Msj::AyudaNumero},
+    {u"letra", u"L", Msj::AyudaLetra},
+    {u"escalera", u"E", Msj::AyudaEscalera},
+    {u"piso", u"P", Msj::AyudaPiso},
+    {u"mano", u"M", Msj::AyudaMano},
+    {u"codprov", u"NN", Msj::AyudaCodprov},
+    {u"nommun", u"TEXTO", Msj::AyudaNommun},
+};
+
+extern constinit const Orden OrdenDeclaranteAlta = {
+    u"declarante alta", Msj::AyudaAlta, {}, Opciones, Msj::NoSePudoGuardar, declaranteAlta,
+};

@@ -1,4 +1,4 @@
-#include "app/Mandos.h"
+#include "app/Menus.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -33,7 +33,7 @@ static QString motivoContra(const EntradaMenu &entrada, const Situacion &situaci
     return {};
 }
 
-Mandos::Mandos(QMainWindow *ventana)
+Menus::Menus(QMainWindow *ventana)
     : QObject(ventana)
 {
     crearMenus(ventana);
@@ -41,16 +41,16 @@ Mandos::Mandos(QMainWindow *ventana)
     Anadir_captions();
 }
 
-void Mandos::crearMenus(QMainWindow *ventana)
+void Menus::crearMenus(QMainWindow *ventana)
 {
     for (const auto &datos : tablaMenus()) {
         auto *menu = ventana->menuBar()->addMenu(QString());
         menu->setObjectName(nombreDe(datos.nombre));
         menu->setToolTipsVisible(true);
-        m_menus.append(menu);
+        m_desplegables.append(menu);
     }
     for (const auto &entrada : tablaEntradas()) {
-        auto *menu = m_menus.at(entrada.menu);
+        auto *menu = m_desplegables.at(entrada.menu);
         if (entrada.trasSeparador)
             menu->addSeparator();
         auto *accion = menu->addAction(icono(entrada.icono), QString());
@@ -62,7 +62,7 @@ void Mandos::crearMenus(QMainWindow *ventana)
     }
 }
 
-void Mandos::crearBarra(QMainWindow *ventana)
+void Menus::crearBarra(QMainWindow *ventana)
 {
     m_barra = ventana->addToolBar(QString());
     m_barra->setObjectName(u"barra"_s);
@@ -82,10 +82,10 @@ void Mandos::crearBarra(QMainWindow *ventana)
     }
 }
 
-void Mandos::Anadir_captions()
+void Menus::Anadir_captions()
 {
-    for (qsizetype i = 0; i < m_menus.size(); ++i)
-        m_menus.at(i)->setTitle(msj(tablaMenus()[static_cast<std::size_t>(i)].texto));
+    for (qsizetype i = 0; i < m_desplegables.size(); ++i)
+        m_desplegables.at(i)->setTitle(msj(tablaMenus()[static_cast<std::size_t>(i)].texto));
     for (const auto &entrada : tablaEntradas())
         m_acciones.value(QLatin1StringView(entrada.nombre))->setText(msj(entrada.texto));
     m_barra->setWindowTitle(msj(Msj::AccesibleBarraHerramientas));
@@ -95,7 +95,7 @@ void Mandos::Anadir_captions()
     aplicar(m_situacion);
 }
 
-void Mandos::aplicar(const Situacion &situacion)
+void Menus::aplicar(const Situacion &situacion)
 {
     m_situacion = situacion;
     for (const auto &entrada : tablaEntradas()) {

@@ -20,14 +20,14 @@ struct Situacion
 };
 
 /// The menus and the tool bar of the main window, made from their tables.
-class Mandos : public QObject
+class Menus : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit Mandos(QMainWindow *ventana);
+    explicit Menus(QMainWindow *ventana);
 
-    QMenu *menu(int posicion) const { return m_menus.at(posicion); }
+    QMenu *menu(int posicion) const { return m_desplegables.at(posicion); }
     void Anadir_captions();
     void aplicar(const Situacion &situacion);
 
@@ -38,7 +38,7 @@ private:
     void crearMenus(QMainWindow *ventana);
     void crearBarra(QMainWindow *ventana);
 
-    QList<QMenu *> m_menus;
+    QList<QMenu *> m_desplegables;
     QHash<QLatin1StringView, QAction *> m_acciones; ///< by the names of the table
     QToolBar *m_barra = nullptr;
     Situacion m_situacion;
