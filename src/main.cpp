@@ -1,4 +1,5 @@
 #include "app/Arranque.h"
+#include "app/DialogosVentana.h"
 #include "cli/Cli.h"
 #include "core/Rutas.h"
 #include "server/Servidor.h"
@@ -58,6 +59,7 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(OSTREL_VERSION));
     if (const auto codigo = sinVentana(argc, argv))
         return *codigo;
-    registrarServidor();
+    DialogosVentana dialogos;
+    registrarServidor(&dialogos);
     return abrirVentana(argc, argv);
 }

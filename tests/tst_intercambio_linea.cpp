@@ -1,6 +1,6 @@
+#include "core/Windows1252.h"
 #include "exchange/LectorLineas.h"
 #include "exchange/LineaIntercambio.h"
-#include "exchange/Windows1252.h"
 #include "support/LineasPrueba.h"
 
 #include <QBuffer>

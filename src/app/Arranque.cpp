@@ -5,10 +5,12 @@
 #include "app/TextosQt.h"
 #include "app/Version.h"
 #include "app/frmInicio.h"
-#include "core/Servicios.h"
 #include "core/Sesion.h"
+#include "core/Unico.h"
 #include "help/TeclaAyuda.h"
+#include "maintenance/BuscarActualizacion.h"
 #include "maintenance/FrmIdioma.h"
+#include "maintenance/cActOnline.h"
 #include "widgets/Ficheros.h"
 #include "widgets/Mensajes.h"
 
@@ -32,27 +34,30 @@ static void crearMutex()
 #endif
 }
 
-static InicioSesion prepararSesion()
+InicioSesion prepararSesion()
 {
     const PunteroOcupado ocupado;
-    return iniciarSesion();
+    InicioSesion inicio = iniciarSesion();
+    if (!inicio.terminar) {
+        auto &actualizacion = unico::la<cActOnline>();
+        inicio.intentar([&] { actualizacion.ObtenerURLAct(); });
+        inicio.intentar([&] { actualizacion.LeerActOnline(); });
+    }
+    return inicio;
 }
 
-static void contarFallos(const QStringList &fallos)
+void contarFallos(const InicioSesion &inicio)
 {
-    if (!fallos.isEmpty()) {
+    if (!inicio.fallos.isEmpty()) {
         mensajes::aviso(nullptr, msj(Msj::TituloPrograma),
-                        msj(Msj::InicioConFallos, fallos.join(u'\n')));
+                        msj(Msj::InicioConFallos, inicio.textos().join(u'\n')));
     }
 }
 
-static bool pideBusqueda()
+Arranque::Arranque(EsperasInicio esperas)
+    : buscarActualizacion([] { ::buscarActualizacion(); })
+    , m_esperas(esperas)
 {
-    try {
-        return servicioDatos()->ObtenerActOnline() == 1;
-    } catch (const std::exception &) {
-        return false; // the settings could not be read, which has been told
-    }
 }
 
 /// In the middle of the screen, or over all of it when it is small.
@@ -83,7 +88,7 @@ std::unique_ptr<MDIOstrel> Arranque::iniciar()
     const auto sesion = prepararSesion();
     if (sesion.terminar)
         return nullptr;
-    contarFallos(sesion.textos());
+    contarFallos(sesion);
     if (sesion.primeraVez())
         elegirIdioma();
     mostrarInicio();
@@ -104,7 +109,7 @@ void Arranque::elegirIdioma()
 void Arranque::mostrarInicio()
 {
     frmInicio inicio;
-    if (!pideBusqueda()) {
+    if (unico::la<cActOnline>().ActOnline() != 1) {
         inicio.mostrarDurante(m_esperas.normal, {});
         return;
     }

@@ -5,7 +5,7 @@
 #include <memory>
 
 class MDIOstrel;
-class QString;
+struct InicioSesion;
 
 /// How long the start screen stays.
 struct EsperasInicio
@@ -19,14 +19,11 @@ struct EsperasInicio
 class Arranque
 {
 public:
-    explicit Arranque(EsperasInicio esperas = {})
-        : m_esperas(esperas)
-    {
-    }
+    explicit Arranque(EsperasInicio esperas = {});
 
     /// Looks for a newer version of the program; runs while the start screen is shown, when the
     /// stored switch asks for it.
-    std::function<void()> buscarActualizacion = [] {};
+    std::function<void()> buscarActualizacion;
 
     /// The main window, shown; null when the program is to end at once.
     std::unique_ptr<MDIOstrel> iniciar();
@@ -37,6 +34,12 @@ private:
 
     EsperasInicio m_esperas;
 };
+
+/// Prepares the session's data and everything that is read once a session; at the start and after a
+/// restore.
+InicioSesion prepararSesion();
+/// Tells the user what could not be done.
+void contarFallos(const InicioSesion &inicio);
 
 /// The program with its window, until it is closed; the exit code.
 int abrirVentana(int &argc, char **argv);

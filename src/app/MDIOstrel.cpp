@@ -1,11 +1,13 @@
 #include "app/MDIOstrel.h"
 
+#include "app/Arranque.h"
 #include "app/FondoMdi.h"
 #include "app/Menus.h"
 #include "app/Pantallas.h"
 #include "app/Recientes.h"
 #include "app/Version.h"
 #include "core/CEntrada.h"
+#include "core/Servicios.h"
 #include "core/Sesion.h"
 #include "core/Unico.h"
 #include "declarants/cDecDatos.h"
@@ -13,12 +15,15 @@
 #include "declarants/cDecResumen.h"
 #include "help/TeclaAyuda.h"
 #include "help/TemasAyuda.h"
+#include "maintenance/BuscarActualizacion.h"
+#include "maintenance/cActOnline.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QStatusBar>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -44,6 +49,7 @@ MDIOstrel::MDIOstrel(QWidget *padre)
     conectar();
     Anadir_captions();
     alCambiarDatos();
+    buscarSiSeAplazo();
 }
 
 MDIOstrel::~MDIOstrel()
@@ -64,7 +70,10 @@ void MDIOstrel::conectar()
     }
     connect(m_pantallas, &Pantallas::cambiadas, this, &MDIOstrel::actualizarEstados);
     connect(m_pantallas, &Pantallas::dicho, this, &MDIOstrel::mostrarEnEstado);
-    connect(m_pantallas, &Pantallas::datosCambiados, this, &MDIOstrel::alCambiarDatos);
+    connect(m_pantallas, &Pantallas::datosCambiados, this, [this] {
+        m_algoGuardado = true;
+        alCambiarDatos();
+    });
 }
 
 void MDIOstrel::Anadir_captions()
@@ -77,10 +86,7 @@ void MDIOstrel::Anadir_captions()
 
 void MDIOstrel::CambiarIdioma()
 {
-    for (auto *ventana : QApplication::topLevelWidgets()) {
-        QEvent cambio(QEvent::LanguageChange);
-        QApplication::sendEvent(ventana, &cambio);
-    }
+    anunciarIdioma();
 }
 
 void MDIOstrel::changeEvent(QEvent *evento)
@@ -98,6 +104,7 @@ void MDIOstrel::closeEvent(QCloseEvent *evento)
     }
     DescargarTodosLosFormularios();
     evento->accept();
+    copiaDelDia();
 }
 
 void MDIOstrel::DescargarTodosLosFormularios()
@@ -122,6 +129,14 @@ void MDIOstrel::cumplir(Mando mando)
         return listaDeclarantes(Modo::Consulta);
     case Mando::Eliminar:
         return listaDeclarantes(Modo::Eliminar);
+    case Mando::Copia:
+        return servicioCopia(false, winId())->CrearBackup();
+    case Mando::Restaurar:
+        return restaurar();
+    case Mando::Asistencia:
+        return asistencia(false);
+    case Mando::Descripcion:
+        return asistencia(true);
     case Mando::Contenido:
         return abrirAyuda(ayuda::portada());
     case Mando::Salir:
@@ -165,6 +180,44 @@ void MDIOstrel::mostrarEnEstado(const QString &texto, bool pasajera)
         statusBar()->showMessage(texto, milisegundos);
     else
         m_estado->setText(texto);
+}
+
+void MDIOstrel::asistencia(bool descripcion)
+{
+    auto servicio = servicio::crear<SvrKtComunLib::cMiscelaneos>();
+    servicio->Idioma(desplazamientoIdioma());
+    servicio->Parent(winId());
+    descripcion ? servicio->MostrarOnlineInfo() : servicio->AccesoAyuOnline();
+}
+
+void MDIOstrel::restaurar()
+{
+    if (!servicioCopia(true, winId())->CrearRestore())
+        return;
+    // the keys that it shows may be those of others now
+    m_pantallas->cerrar(Pantalla::Resumen);
+    const auto sesion = prepararSesion();
+    if (sesion.terminar) {
+        close();
+        return;
+    }
+    contarFallos(sesion);
+    CambiarIdioma();
+    m_pantallas->actualizar();
+    m_algoGuardado = false; // what is there now has its copy
+}
+
+/// A copy is made at the end of a session in which something was saved, once a day.
+void MDIOstrel::copiaDelDia()
+{
+    if (std::exchange(m_algoGuardado, false))
+        procedimiento(this, [this] { servicioCopia(false, winId())->CrearBackupDelDia(); });
+}
+
+void MDIOstrel::buscarSiSeAplazo()
+{
+    if (unico::la<cActOnline>().ActOnline() == -1)
+        QTimer::singleShot(0, this, [this] { buscarActualizacion(this); });
 }
 
 void MDIOstrel::alCambiarDatos()

@@ -37,6 +37,10 @@ private:
     void DescargarTodosLosFormularios();
     void mostrarEnEstado(const QString &texto, bool pasajera);
     void alCambiarDatos();
+    void asistencia(bool descripcion);
+    void restaurar();
+    void copiaDelDia();
+    void buscarSiSeAplazo();
     void actualizarEstados();
 
     Menus *m_menus;
@@ -44,4 +48,5 @@ private:
     Pantallas *m_pantallas;
     QLabel *m_estado; ///< what was last done
     QLabel *m_version;
+    bool m_algoGuardado = false; ///< since the start or the last restore
 };

@@ -36,6 +36,8 @@ public:
     void cerrar(Pantalla cual);
     /// Whether every screen may close; asks where something would be lost.
     bool puedenCerrarse();
+    /// Shows the stored data again in every screen that is not editing, and says that they changed.
+    void actualizar() { avisarCambio(nullptr); }
     /// Closes them all; from then on none opens.
     void terminar();
     /// Whether a screen is open that owns its record.

@@ -10,6 +10,7 @@
 #include "declarations/FrmDatos480c.h"
 #include "exchange/FrmExportar.h"
 #include "exchange/frmimport.h"
+#include "maintenance/frmPreferencias.h"
 #include "printing/FrmImOf.h"
 
 #include <algorithm>
@@ -36,6 +37,7 @@ static constexpr DatosPantalla Tabla[] = {
     {Pantalla::Impresion, crear<FrmImOf>, DatosPantalla::Modal},
     {Pantalla::Exportar, crear<FrmExportar>, DatosPantalla::Amplio},
     {Pantalla::Importar, crear<frmimport>, DatosPantalla::Ajustado},
+    {Pantalla::Preferencias, crear<frmPreferencias>, DatosPantalla::Modal},
     {Pantalla::AcercaDe, crear<frmAbout>, DatosPantalla::Modal},
 };
 

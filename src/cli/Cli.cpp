@@ -51,7 +51,7 @@ static Resultado enSesion(const Orden &orden, const Argumentos &argumentos)
     if (!QFileInfo(rutas().programa).isDir())
         return rechazado(msj(Msj::CliCarpetaNoExiste, rutas().programa));
     const InicioSesion inicio = iniciarSesion();
-    if (inicio.terminar || !inicio.fallos.isEmpty())
+    if (inicio.terminar || !(inicio.fallos.isEmpty() || orden.aunqueFalle))
         return rechazado(inicio.textos().join(u'\n'));
     try {
         return orden.ejecutar(argumentos);

@@ -52,6 +52,7 @@ struct Orden
     std::span<const Opcion> opciones;
     Msj alFallar; ///< what could not be done when an exception ends it; %1 the reason
     Resultado (*ejecutar)(const Argumentos &); ///< runs in a session that has begun
+    bool aunqueFalle = false; ///< also in one whose data cannot be used
 };
 
 inline Resultado hecho(const QString &texto)

@@ -17,6 +17,8 @@ extern const Orden OrdenListarDeclaraciones;
 extern const Orden OrdenImprimir;
 extern const Orden OrdenImportar;
 extern const Orden OrdenExportar;
+extern const Orden OrdenCopia;
+extern const Orden OrdenRestaurar;
 
 static Resultado idioma(const Argumentos &argumentos)
 {
@@ -46,6 +48,8 @@ static constexpr const Orden *Tabla[] = {
     &OrdenImprimir,
     &OrdenImportar,
     &OrdenExportar,
+    &OrdenCopia,
+    &OrdenRestaurar,
     &OrdenIdioma,
 };
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "core/Rutas.h"
+#include "core/Textos.h"
 #include "dataservice/ErrorDatos.h"
+#include "dataservice/SvrKtComunLib.h"
 #include "dataservice/SvrOstr.h"
 
 #include <utility>
@@ -50,3 +52,7 @@ template <class F> decltype(auto) nombrando(const QString &nombre, F &&f)
         throw ErrorDatos(error.fallo(), nombre);
     }
 }
+
+/// The copy of the model database, ready for CrearBackup, or for CrearRestore when `restaurar`.
+/// `ventana`: native handle of the window that owns its dialogues.
+std::unique_ptr<SvrKtComunLib::cSaveAsRestore> servicioCopia(bool restaurar, quintptr ventana = 0);

@@ -5,18 +5,15 @@
 #include "core/Textos.h"
 #include "core/Unico.h"
 
-#include <functional>
-
 static bool pendiente = false; // the settings could not be read yet
 
-/// Runs a step; what it fails with is kept.
-static bool intentar(InicioSesion &inicio, const std::function<void()> &paso)
+bool InicioSesion::intentar(const std::function<void()> &paso)
 {
     try {
         paso();
         return true;
     } catch (...) {
-        inicio.fallos.append(std::current_exception());
+        fallos.append(std::current_exception());
         return false;
     }
 }
@@ -50,7 +47,7 @@ bool InicioSesion::primeraVez() const
 InicioSesion iniciarSesion()
 {
     InicioSesion inicio;
-    intentar(inicio, [&] { inicio.terminar = servicioTraspaso()->Traspaso(); });
+    inicio.intentar([&] { inicio.terminar = servicioTraspaso()->Traspaso(); });
     if (!inicio.terminar)
         leerSesion(inicio);
     return inicio;
@@ -59,9 +56,9 @@ InicioSesion iniciarSesion()
 void leerSesion(InicioSesion &inicio)
 {
     auto &entrada = unico::la<CEntrada>();
-    intentar(inicio, [&] { entrada.InicializarContadores(); });
-    intentar(inicio, [&] { entrada.LeerEjercicioPeriodoMinMax(); });
-    inicio.ajustesLeidos = intentar(inicio, [&] { entrada.LeerIdioma(); });
+    inicio.intentar([&] { entrada.InicializarContadores(); });
+    inicio.intentar([&] { entrada.LeerEjercicioPeriodoMinMax(); });
+    inicio.ajustesLeidos = inicio.intentar([&] { entrada.LeerIdioma(); });
     entrada.AplicarIdioma();
     pendiente = !inicio.ajustesLeidos;
 }

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <exception>
+#include <functional>
 
 /// Preparation of the session's data, the same for the window and the command line. The paths
 /// (Rutas.h) must be set.
@@ -18,6 +19,8 @@ struct InicioSesion
 
     /// No language was ever chosen.
     bool primeraVez() const;
+    /// Runs a further step; what it fails with is kept.
+    bool intentar(const std::function<void()> &paso);
 };
 
 /// Lets the data service bring the databases up to date, then reads the session's state. A step

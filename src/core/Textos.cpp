@@ -79,6 +79,10 @@ static Msj mensajeDe(Fallo fallo)
         return Msj::FalloSinDeclarante;
     case Fallo::SinDeclaracion:
         return Msj::FalloSinDeclaracion;
+    case Fallo::NoEsFichero:
+        return Msj::FalloNoEsFichero;
+    case Fallo::EsElPropio:
+        return Msj::FalloEsElPropio;
     case Fallo::TieneDeclaraciones:
         return Msj::AvisoTieneDeclaraciones;
     }

@@ -24,6 +24,8 @@ enum class Fallo {
     TiposDeMas, ///< more rates in a year than a return has bands; `objeto` is the year
     SinDeclarante, ///< the declarant is not stored (any more); `objeto` its name, where known
     SinDeclaracion, ///< the same of a return
+    NoEsFichero, ///< a folder, a device, a pipe
+    EsElPropio, ///< the file to restore from is the one in use
     TieneDeclaraciones, ///< the declarant to delete still has returns
 };
 

@@ -22,6 +22,9 @@ public:
     virtual void MostrarOnlineInfo() = 0;
 };
 
+/// Copies of the model database. What has to be asked or told goes through the service's dialogue;
+/// where it has none, nothing is asked, RutaOrigen with ArchivoOrigen is what is restored, and a
+/// failure is an ErrorDatos.
 class cSaveAsRestore : public servicio::Objeto
 {
 public:
@@ -39,7 +42,12 @@ public:
     virtual void BDCampo(const QString &campo) = 0;
 
     virtual void CrearBackup() = 0;
+    /// A copy of this day in RutaDestino, in files of its own that tell their day; false when there
+    /// is one already. Nothing is told unless it fails.
+    virtual bool CrearBackupDelDia() = 0;
     virtual bool CrearRestore() = 0; ///< true when the model database was replaced
+    /// Where the last CrearRestore has kept the data that were there; empty when there were none.
+    virtual QString DatosAnteriores() const = 0;
 };
 
 } // namespace SvrKtComunLib

@@ -1,8 +1,8 @@
 #include "exchange/LineaIntercambio.h"
 
 #include "core/FiltroTeclas.h"
+#include "core/Windows1252.h"
 #include "declarants/CamposDeclarante.h"
-#include "exchange/Windows1252.h"
 
 #include <algorithm>
 #include <array>

@@ -2,12 +2,15 @@
 
 #include "core/CEntrada.h"
 #include "core/Modos.h"
-#include "core/Servicios.h"
 #include "core/Unico.h"
+#include "maintenance/BuscarActualizacion.h"
+#include "maintenance/cActOnline.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Iconos.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
+#include <QEventLoop>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -102,20 +105,34 @@ void FrmIdioma::cargar()
 {
     const bool castellano = unico::la<CEntrada>().IDI() == CodigoIdioma::Castellano;
     (castellano ? m_cmdcastellano : m_cmdeuskera)->setFocus();
-    procedimiento(this,
-                  [this] { m_chkActOnline->setChecked(servicioDatos()->ObtenerActOnline() == 1); });
+    m_chkActOnline->setChecked(unico::la<cActOnline>().ActOnline() == 1);
 }
 
 void FrmIdioma::guardarActOnline(bool activa)
 {
-    const bool guardado
-        = procedimiento(this, [activa] { servicioDatos()->GuardarActOnline(activa ? 1 : 0); });
-    if (!guardado)
+    auto &estado = unico::la<cActOnline>();
+    const auto anterior = estado.ActOnline();
+    estado.ActOnline(activa ? 1 : 0);
+    if (!procedimiento(this, [&] { estado.GuardarActOnline(); })) {
+        estado.ActOnline(anterior);
         m_chkActOnline->setChecked(!activa);
+    }
 }
 
 void FrmIdioma::elegir(const QString &codigo)
 {
     unico::la<CEntrada>().IDI(codigo);
+    anunciarIdioma();
+    if (unico::la<cActOnline>().ActOnline() == -1)
+        buscar();
     cerrarA(Pantalla::Ninguna);
+}
+
+void FrmIdioma::buscar()
+{
+    m_chkActOnline->setEnabled(false);
+    m_lblAct->show();
+    buscarActualizacion(this);
+    while (unico::la<cActOnline>().SitAct() == cActOnline::SinBuscar)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }

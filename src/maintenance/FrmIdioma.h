@@ -23,6 +23,7 @@ private:
     void cargar();
     void guardarActOnline(bool activa);
     void elegir(const QString &codigo);
+    void buscar();
 
     QPushButton *m_cmdcastellano;
     QPushButton *m_cmdeuskera;

@@ -101,7 +101,8 @@ QByteArray leerCabecera(const QString &ruta)
 {
     rechazarEnlaceRoto(ruta);
     if (!identidad(ruta))
-        throw ErrorDatos(Fallo::NoExiste, ruta, u"no such file"_s);
+        throw ErrorDatos(QFileInfo::exists(ruta) ? Fallo::NoEsFichero : Fallo::NoExiste, ruta,
+                         u"no such file"_s);
     QFile fichero(ruta);
     if (!fichero.open(QIODevice::ReadOnly))
         throw ErrorDatos(Fallo::Lectura, ruta, fichero.errorString());
@@ -144,10 +145,10 @@ qint32 comprobarCabecera(const QString &ruta, const Formato &formato, Version ve
     return esquema;
 }
 
-void comprobarContenido(SQLite::Database &base, const QString &ruta)
+void comprobarContenido(SQLite::Database &base, const QString &ruta, const char *comprobacion)
 {
     conErrores(ruta, [&] {
-        SQLite::Statement sentencia(base, "PRAGMA quick_check(1)");
+        SQLite::Statement sentencia(base, comprobacion);
         sentencia.executeStep();
         const QString resultado = QString::fromStdString(sentencia.getColumn(0).getString());
         if (resultado != u"ok")

@@ -55,8 +55,10 @@ qint32 comprobarCabecera(const QString &ruta, const Formato &formato, Version ve
 SQLite::Database abrir(const QString &ruta, const Formato &formato,
                        Version version = Version::Actual);
 
-/// SQLite's own check of the whole content. Throws ErrorDatos; `ruta` names the file.
-void comprobarContenido(SQLite::Database &base, const QString &ruta);
+/// SQLite's own check of the whole content. Throws ErrorDatos; `ruta` names the file. The quick one
+/// leaves the indexes out.
+void comprobarContenido(SQLite::Database &base, const QString &ruta,
+                        const char *comprobacion = "PRAGMA quick_check(1)");
 
 /// Both.
 SQLite::Database abrirComprobada(const QString &ruta, const Formato &formato,

@@ -27,8 +27,6 @@ using namespace Qt::StringLiterals;
 
 namespace servidor {
 
-namespace {
-
 Fallo falloDeSistema(int codigo)
 {
     switch (codigo) {
@@ -48,6 +46,8 @@ Fallo falloDeSistema(int codigo)
         return Fallo::LecturaEscritura;
     }
 }
+
+namespace {
 
 #ifdef Q_OS_UNIX
 void sincronizar(const QString &ruta)
@@ -262,6 +262,10 @@ void copiarFichero(SQLite::Database &origen, const QString &destino,
         auto base = abrirNueva(provisional.ruta());
         copiarContenido(origen, base, destino);
     });
+    conErrores(destino, [&] {
+        SQLite::Database copia(provisional.ruta().toStdString(), SQLite::OPEN_READONLY);
+        comprobarContenido(copia, destino);
+    });
     if (antes)
         antes();
     provisional.colocar();
@@ -271,7 +275,12 @@ void copiarContenido(SQLite::Database &origen, SQLite::Database &destino, const 
 {
     conErrores(ruta, [&] {
         SQLite::Backup copia(destino, origen);
-        const int resultado = copia.executeStep();
+        int resultado = SQLITE_OK;
+        try {
+            resultado = copia.executeStep();
+        } catch (const SQLite::Exception &error) {
+            throw traducir(error, ruta); // now: closing changes the system's error code
+        }
         if (resultado != SQLITE_DONE) // "busy" and "locked" come back as results
             throw SQLite::Exception("copy not finished", resultado);
     });

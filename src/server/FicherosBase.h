@@ -12,6 +12,9 @@
 
 namespace servidor {
 
+/// What an error number of the system means for the user.
+Fallo falloDeSistema(int codigo);
+
 /// Tells whether the file at a path is still the same one.
 struct Identidad
 {

@@ -23,7 +23,9 @@ void registrarServidor(Dialogos *dialogos)
     registrarClase<servidor::cDeclarante>();
     registrarClase<servidor::cDeclaracion>();
     registrarClase<servidor::cTraspaso>();
-    registrarClase<servidor::cSaveAsRestore>();
+    servicio::registrar(servidor::cSaveAsRestore::ID, [dialogos] {
+        return std::make_unique<servidor::cSaveAsRestore>(dialogos);
+    });
     servicio::registrar(servidor::cMiscelaneos::ID,
                         [dialogos] { return std::make_unique<servidor::cMiscelaneos>(dialogos); });
 }

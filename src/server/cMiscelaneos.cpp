@@ -34,14 +34,8 @@ void cMiscelaneos::AccesoAyuOnline()
 
 void cMiscelaneos::MostrarOnlineInfo()
 {
-    if (!m_dialogos)
-        return;
-    const QString texto = idiomaDe(m_idioma) == Idioma::Castellano
-        ? u"La asistencia en línea está en la dirección %1 y se abre con el "
-          "navegador. El programa no envía ningún dato suyo."_s
-        : u"Lineako laguntza %1 helbidean dago, eta nabigatzailearekin irekitzen da. "
-          "Programak ez du zure daturik bidaltzen."_s;
-    m_dialogos->informar(texto.arg(direccionAyuda()), m_padre);
+    if (m_dialogos)
+        m_dialogos->informarAsistencia(direccionAyuda(), m_padre);
 }
 
 } // namespace servidor

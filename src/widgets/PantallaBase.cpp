@@ -42,6 +42,14 @@ QString tituloDe(QWidget *control)
     return (pantalla ? pantalla : control->window())->windowTitle();
 }
 
+void anunciarIdioma()
+{
+    for (auto *ventana : QApplication::topLevelWidgets()) {
+        QEvent cambio(QEvent::LanguageChange);
+        QApplication::sendEvent(ventana, &cambio);
+    }
+}
+
 void PantallaBase::hacerModal()
 {
     setWindowFlag(Qt::Dialog);

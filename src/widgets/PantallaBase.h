@@ -21,6 +21,7 @@ enum class Pantalla {
     Impresion,
     Exportar,
     Importar,
+    Preferencias,
     AcercaDe,
 };
 
@@ -122,5 +123,7 @@ private:
 
 /// The screen that a control is on; null outside of one.
 PantallaBase *pantallaDe(QWidget *control);
+/// Takes the session's language to every window and screen; called after a change of it.
+void anunciarIdioma();
 /// Caption of the window that a control is in, for what is told about it.
 QString tituloDe(QWidget *control);

@@ -1,4 +1,4 @@
-#include "exchange/Windows1252.h"
+#include "core/Windows1252.h"
 
 #include <algorithm>
 #include <array>

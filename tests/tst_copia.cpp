@@ -1,0 +1,463 @@
+#include "app/DialogosVentana.h"
+#include "app/MDIOstrel.h"
+#include "core/CEntrada.h"
+#include "core/Servicios.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+#include "dataservice/ErrorDatos.h"
+#include "server/Comprobacion.h"
+#include "server/Conexion.h"
+#include "server/Servidor.h"
+#include "support/ConductorMensajes.h"
+#include "support/Entorno.h"
+#include "support/ServidorPrueba.h"
+#include "widgets/Ficheros.h"
+#include "widgets/PantallaBase.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
+#include <QLabel>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QTableView>
+
+#include <SQLiteCpp/Database.h>
+#include <csignal>
+#include <optional>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+/// Backup and restore, by window and by command line, and what may go wrong with them.
+class PruebaCopia : public QObject
+{
+    Q_OBJECT
+
+private:
+    DialogosVentana m_dialogos;
+    std::optional<Entorno> m_entorno;
+    std::unique_ptr<MDIOstrel> m_ventana;
+    QString m_propuesta, m_filtro;
+
+    QString copias(const QString &nombre = {}) const
+    {
+        return m_entorno->ruta(u"backups/"_s + nombre);
+    }
+    static QStringList en(const QString &carpeta)
+    {
+        return QDir(carpeta).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
+    }
+    static int declarantes(const QString &ruta)
+    {
+        return servidor::abrirComprobada(ruta, servidor::FormatoDatos)
+            .execAndGet("SELECT count(*) FROM DECLARANTES")
+            .getInt();
+    }
+    void abrirPrograma()
+    {
+        m_ventana = std::make_unique<MDIOstrel>();
+        m_ventana->show();
+    }
+    void menu(const char *entrada) const
+    {
+        m_ventana->findChild<QAction *>(QString::fromLatin1(entrada))->trigger();
+        QCoreApplication::processEvents();
+    }
+    /// The next file dialogue gets `ruta`; empty: it is accepted as it opens.
+    void elegir(const QString &ruta)
+    {
+        ficheros::observar([this, ruta](QFileDialog &dialogo) {
+            m_propuesta = dialogo.selectedFiles().value(0);
+            m_filtro = dialogo.nameFilters().join(u'|');
+            if (!ruta.isEmpty())
+                dialogo.selectFile(ruta);
+            QTimer::singleShot(0, &dialogo,
+                               [&dialogo] { static_cast<QDialog &>(dialogo).done(1); });
+        });
+    }
+    struct Salida
+    {
+        int codigo = 0;
+        QString texto, error;
+    };
+    /// `antes` runs in the new process.
+    Salida ostrel(const QStringList &argumentos, const std::function<void()> &antes = {}) const
+    {
+        QProcess proceso;
+        proceso.setChildProcessModifier(antes);
+        proceso.start(QStringLiteral(OSTREL),
+                      argumentos + QStringList{u"--carpeta"_s, m_entorno->ruta({})});
+        proceso.waitForFinished();
+        return {proceso.exitCode(), QString::fromUtf8(proceso.readAllStandardOutput()),
+                QString::fromUtf8(proceso.readAllStandardError())};
+    }
+    /// So much that a copy takes some time.
+    static void llenar(int cuantos)
+    {
+        SQLite::Database base(rutas().datos.toStdString(), SQLite::OPEN_READWRITE);
+        base.exec(
+            "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < "
+            + std::to_string(cuantos)
+            + ") INSERT INTO DECLARANTES (DNI, NOMBRE, CLAVE, VIA, DOMICILIO, NUMERO, LETRA, "
+              "ESCALERA, PISO, MANO, CODPROV, CODPOS, CODMUN, NOMMUN, TELEFONO) SELECT 'D' || i, "
+              "'N' || i, 'N' || i, 'CL', 'MAYOR', 1, '', '', '', '', 20, '20001', 1, 'M', '' "
+              "FROM n");
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_entorno.emplace();
+        registrarServidor(&m_dialogos);
+    }
+    void cleanup()
+    {
+        ficheros::observar({});
+        m_ventana.reset();
+        m_entorno.reset();
+        fijarIdioma(Idioma::Castellano);
+    }
+
+    void copiaDesdeElMenu()
+    {
+        Entorno::altaDeclarante();
+        abrirPrograma();
+        ConductorMensajes mensajes;
+        mensajes.responder(QMessageBox::Ok);
+        menu("mnuBackup");
+        const auto caja = mensajes.tomar().value(0);
+        QCOMPARE(caja.icono, QMessageBox::Information);
+        QCOMPARE(caja.titulo, u"Crear copia de seguridad"_s);
+        static const QRegularExpression texto(
+            u"^Se ha creado la copia de seguridad\\.\n\nFichero: (.+)\nTamaño: \\d+,\\d kB\n"
+            "Fecha: (\\d\\d/\\d\\d/\\d{4}) \\d\\d:\\d\\d$"_s);
+        const auto leido = texto.match(caja.texto);
+        QVERIFY2(leido.hasMatch(), qPrintable(caja.texto));
+        QCOMPARE(QDir::fromNativeSeparators(leido.captured(1)), copias(u"OstrMod_bak.mdb"_s));
+        QCOMPARE(leido.captured(2), QDate::currentDate().toString(u"dd/MM/yyyy"));
+        QCOMPARE(declarantes(copias(u"OstrMod_bak.mdb"_s)), 1);
+    }
+
+    void restauraConLaListaYElResumenAbiertos()
+    {
+        const qint32 uno = Entorno::altaDeclarante();
+        Entorno::altaDeclaracion(uno, 2026, 1);
+        servicioCopia(false); // a service that is not used does nothing
+        {
+            ConductorMensajes mensajes;
+            mensajes.responder(QMessageBox::Ok);
+            servicioCopia(false)->CrearBackup();
+        }
+        Entorno::altaDeclarante(u"A58818501"_s, u"SEGUROS DOS"_s);
+        unico::la<CEntrada>().IDI(u"E"_s);
+        abrirPrograma();
+        menu("d1");
+        menu("mnuAbrirDeclarante");
+        const auto *tabla = m_ventana->findChild<QTableView *>(u"flxDeclarantes"_s);
+        QCOMPARE(tabla->model()->rowCount(), 2);
+
+        elegir({});
+        ConductorMensajes mensajes;
+        mensajes.responder(QMessageBox::No);
+        const QByteArray antes = bytes(rutas().datos);
+        menu("mnuRestore");
+        auto caja = mensajes.tomar().value(0);
+        QCOMPARE(m_propuesta, copias(u"OstrMod_bak.mdb"_s));
+        QCOMPARE(m_filtro, u"archivos mdb (*.mdb)"_s);
+        QCOMPARE(caja.titulo, u"Segurtasun kopia leheneratu"_s);
+        QCOMPARE(caja.porDefecto, QMessageBox::No);
+        static const QRegularExpression pregunta(
+            u"^Oraingo datuak .+\n\nOraingo datuak: \\d{4}/\\d\\d/\\d\\d \\d\\d:\\d\\d, 2 "
+            u"aitortzaile, "
+            "1 aitorpen\nKopia: .+, 1 aitortzaile, 1 aitorpen$"_s);
+        QVERIFY2(pregunta.match(caja.texto).hasMatch(), qPrintable(caja.texto));
+        QCOMPARE(bytes(rutas().datos), antes);
+        QCOMPARE(tabla->model()->rowCount(), 2);
+
+        mensajes.responder(QMessageBox::Yes);
+        mensajes.responder(QMessageBox::Ok);
+        menu("mnuRestore");
+        mensajes.tomar();
+        QCOMPARE(tabla->model()->rowCount(), 1);
+        QTRY_VERIFY(!m_ventana->findChild<PantallaBase *>(u"FrmDecResumen"_s));
+        QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 1);
+        QVERIFY(!m_ventana->findChild<QAction *>(u"d2"_s)->isVisible());
+        QVERIFY(m_ventana->windowTitle().startsWith(u"Ostrel de seguros")); // the copy's language
+        QCOMPARE(m_ventana->findChild<PantallaBase *>(u"FrmDecLista"_s)->windowTitle(),
+                 u"Abrir Declarante"_s);
+        QCOMPARE(declarantes(copias(u"OstrMod_antes.mdb"_s)), 2);
+        QCOMPARE(en(rutas().tablas), QStringList({u"OstrLec.mdb"_s, u"OstrMod.mdb"_s}));
+
+        // and back again
+        elegir(copias(u"OstrMod_antes.mdb"_s));
+        mensajes.responder(QMessageBox::Yes);
+        mensajes.responder(QMessageBox::Ok);
+        menu("mnuRestore");
+        QVERIFY(mensajes.tomar().value(1).texto.contains(u"OstrMod_antes.mdb"));
+        QCOMPARE(tabla->model()->rowCount(), 2);
+        QCOMPARE(declarantes(copias(u"OstrMod_antes.mdb"_s)), 1);
+        QCOMPARE(declarantes(copias(u"OstrMod_antes.1.mdb"_s)), 2);
+    }
+
+    void candidatasRechazadas_data()
+    {
+        QTest::addColumn<QString>("caso");
+        QTest::addColumn<QString>("motivo");
+        QTest::newRow("truncated") << u"t"_s << u"está dañado."_s;
+        QTest::newRow("empty") << u"v"_s << u"está dañado."_s;
+        QTest::newRow("page damaged") << u"p"_s << u"está dañado."_s;
+        QTest::newRow("without tables")
+            << u"s"_s << u"está incompleto: le faltan tablas o datos."_s;
+        QTest::newRow("foreign") << u"a"_s << u"no es una base de datos de este programa."_s;
+        QTest::newRow("newer") << u"n"_s << u"procede de una versión más nueva del programa."_s;
+        QTest::newRow("folder") << u"c"_s << u"no es un fichero."_s;
+        QTest::newRow("pipe") << u"f"_s << u"no es un fichero."_s;
+        QTest::newRow("itself") << u"m"_s << u"es el que el programa está usando."_s;
+        QTest::newRow("itself by link") << u"l"_s << u"es el que el programa está usando."_s;
+    }
+    void candidatasRechazadas()
+    {
+        QFETCH(QString, caso);
+        QFETCH(QString, motivo);
+        llenar(300);
+        const QByteArray buena = bytes(rutas().datos);
+        const QString candidata = m_entorno->ruta(u"candidata.mdb"_s);
+        const auto nativo = [](const QString &ruta) { return QFile::encodeName(ruta); };
+        escribir(candidata, preparada(caso, buena));
+        if (caso == u"c" || caso == u"f" || caso == u"l")
+            QVERIFY(QFile::remove(candidata));
+        if (caso == u"c")
+            QVERIFY(QDir().mkdir(candidata));
+        else if (caso == u"f")
+            QCOMPARE(::mkfifo(nativo(candidata), 0600), 0);
+        else if (caso == u"l")
+            QCOMPARE(::link(nativo(rutas().datos), nativo(candidata)), 0);
+        else if (caso == u"s")
+            SQLite::Database(candidata.toStdString(), SQLite::OPEN_READWRITE)
+                .exec("DROP TABLE DATOS430; DROP TABLE DATOS480; DROP TABLE DECLARACIONES");
+        const auto salida = ostrel({u"restaurar"_s, caso == u"m" ? rutas().datos : candidata});
+        QCOMPARE(salida.codigo, 1);
+        QVERIFY2(salida.error.contains(motivo), qPrintable(salida.error));
+        QCOMPARE(bytes(rutas().datos), buena);
+        QCOMPARE(en(rutas().tablas), QStringList({u"OstrLec.mdb"_s, u"OstrMod.mdb"_s}));
+        QVERIFY(en(copias()).isEmpty());
+    }
+
+    void ilegible()
+    {
+        const QString candidata = m_entorno->ruta(u"candidata.mdb"_s);
+        escribir(candidata, bytes(rutas().datos));
+        QFile::setPermissions(candidata, {});
+        QFile::setPermissions(m_entorno->ruta({}), QFile::Permissions(0x7555));
+        const QByteArray buena = bytes(rutas().datos);
+        const auto salida = ostrel({u"restaurar"_s, candidata}, [] {
+            if (::geteuid() == 0 && ::setuid(65534) != 0) // root reads everything
+                ::_exit(9);
+        });
+        QCOMPARE(salida.codigo, 1);
+        QVERIFY2(salida.error.contains(u": no hay permiso o falla el disco."),
+                 qPrintable(salida.error));
+        QCOMPARE(bytes(rutas().datos), buena);
+    }
+
+    void rechazoEnLaVentana()
+    {
+        escribir(m_entorno->ruta(u"otra.mdb"_s), "no database");
+        abrirPrograma();
+        elegir(m_entorno->ruta(u"otra.mdb"_s));
+        ConductorMensajes mensajes;
+        mensajes.responder(QMessageBox::Ok);
+        menu("mnuRestore");
+        const auto caja = mensajes.tomar().value(0);
+        QCOMPARE(caja.icono, QMessageBox::Warning);
+        QCOMPARE(caja.titulo, u"Restaurar copia de seguridad"_s);
+        QVERIFY2(caja.texto.contains(u"otra.mdb» está dañado."), qPrintable(caja.texto));
+    }
+
+    /// A copy made by hand while a save was being written: what was half done is undone.
+    void candidataConSuDiario()
+    {
+        llenar(3000);
+        const QString candidata = m_entorno->ruta(u"candidata.mdb"_s);
+        {
+            SQLite::Database otro(rutas().datos.toStdString(), SQLite::OPEN_READWRITE);
+            otro.exec("PRAGMA cache_size = 5; BEGIN IMMEDIATE; UPDATE DECLARANTES SET NOMBRE = "
+                      "NOMBRE || 'MUCHO MAS LARGO', NUMERO = 77");
+            QVERIFY(QFile::copy(rutas().datos, candidata));
+            QVERIFY(QFile::copy(rutas().datos + u"-journal"_s, candidata + u"-journal"_s));
+            otro.exec("ROLLBACK; DELETE FROM DECLARANTES");
+        }
+        const QByteArray suya = bytes(candidata);
+        QCOMPARE(ostrel({u"restaurar"_s, candidata}).codigo, 0);
+        auto base = servidor::abrirComprobada(rutas().datos, servidor::FormatoDatos);
+        QCOMPARE(base.execAndGet("SELECT count(*) FROM DECLARANTES WHERE NUMERO = 1").getInt(),
+                 3000);
+        QCOMPARE(base.execAndGet("PRAGMA integrity_check").getString(), "ok");
+        QCOMPARE(bytes(candidata), suya);
+        QCOMPARE(en(rutas().tablas), QStringList({u"OstrLec.mdb"_s, u"OstrMod.mdb"_s}));
+    }
+
+    void ordenesEnLosDosIdiomas()
+    {
+        Entorno::altaDeclarante();
+        auto salida = ostrel({u"copia"_s});
+        QCOMPARE(salida.codigo, 0);
+        QVERIFY(salida.texto.startsWith(u"Se ha creado la copia de seguridad.\n"));
+        QVERIFY(salida.texto.contains(copias(u"OstrMod_bak.mdb"_s)));
+        // restored over a database that cannot be used, which is kept
+        escribir(rutas().datos, "rubbish");
+        unico::reiniciar();
+        salida = ostrel({u"restaurar"_s});
+        QCOMPARE(salida.error, QString());
+        QCOMPARE(declarantes(rutas().datos), 1);
+        const QString apartada = QDir(rutas().tablas).entryList({u"OstrMod.mdb.*"_s}).value(0);
+        QCOMPARE(bytes(rutas().tablas + apartada), "rubbish");
+        QCOMPARE(
+            salida.texto,
+            u"Se han restaurado los datos de «%1».\nLos datos anteriores están en «%2».\n"_s.arg(
+                copias(u"OstrMod_bak.mdb"_s), rutas().tablas + apartada));
+        ostrel({u"idioma"_s, u"E"_s});
+        QVERIFY(ostrel({u"copia"_s}).texto.startsWith(u"Segurtasun kopia sortu da.\n"));
+        salida = ostrel({u"restaurar"_s, u"no-hay.mdb"_s});
+        QCOMPARE(salida.codigo, 1);
+        QVERIFY2(salida.error.contains(u"fitxategia ez dago."), qPrintable(salida.error));
+    }
+
+    void copiaDelDia()
+    {
+        const QString hoy
+            = u"OstrMod_auto_%1.mdb"_s.arg(QDate::currentDate().toString(Qt::ISODate));
+        const ConductorMensajes ninguno;
+        abrirPrograma();
+        m_ventana->close();
+        QVERIFY(en(copias()).isEmpty()); // nothing was saved
+        QVERIFY(QDir().mkpath(copias()));
+        QStringList viejas;
+        for (int dia = 1; dia <= 6; ++dia) {
+            viejas.append(u"OstrMod_auto_2020-01-0%1.mdb"_s.arg(dia));
+            escribir(copias(viejas.last()), "old");
+        }
+        escribir(copias(u"OstrMod_bak.mdb"_s), "the user's own");
+        const auto guardarYSalir = [this] {
+            abrirPrograma();
+            menu("mnuNuevoDeclarante");
+            auto *pantalla = m_ventana->findChild<PantallaBase *>(u"frmDecDatos"_s);
+            Q_EMIT pantalla->datosCambiados();
+            m_ventana->close();
+        };
+        Entorno::altaDeclarante();
+        guardarYSalir();
+        QCOMPARE(en(copias()), viejas.mid(2) << hoy << u"OstrMod_bak.mdb"_s);
+        QCOMPARE(declarantes(copias(hoy)), 1);
+        QCOMPARE(bytes(copias(u"OstrMod_bak.mdb"_s)), "the user's own");
+        Entorno::altaDeclarante(u"A58818501"_s);
+        guardarYSalir();
+        QCOMPARE(declarantes(copias(hoy)), 1); // one a day
+    }
+
+    void copiaDelDiaQueFallaSeCuenta()
+    {
+        escribir(copias().chopped(1), "a file where the folder should be");
+        ConductorMensajes mensajes;
+        mensajes.responder(QMessageBox::Ok);
+        QVERIFY(!servicioCopia(false)->CrearBackupDelDia());
+        const QString texto = mensajes.texto();
+        QVERIFY2(texto.startsWith(u"No se ha podido hacer la copia de seguridad automática."),
+                 qPrintable(texto));
+    }
+
+    void discoLleno()
+    {
+        llenar(6000);
+        ostrel({u"copia"_s});
+        llenarMas();
+        const QByteArray base = bytes(rutas().datos);
+        const QByteArray copia = bytes(copias(u"OstrMod_bak.mdb"_s));
+        const auto sinSitio = [] {
+            const rlimit limite{200'000, 200'000};
+            ::signal(SIGXFSZ, SIG_IGN);
+            ::setrlimit(RLIMIT_FSIZE, &limite);
+        };
+        for (const QString &orden : {u"copia"_s, u"restaurar"_s}) {
+            const auto salida = ostrel({orden}, sinSitio);
+            QCOMPARE(salida.codigo, 1);
+            QVERIFY2(salida.error.contains(u"No queda espacio en el disco"),
+                     qPrintable(salida.error));
+            QCOMPARE(bytes(rutas().datos), base);
+            QCOMPARE(en(copias()), QStringList(u"OstrMod_bak.mdb"_s));
+            QCOMPARE(bytes(copias(u"OstrMod_bak.mdb"_s)), copia);
+        }
+    }
+
+    /// Killed at any moment: the old one or the new one, whole, in its place.
+    void matarEnCualquierMomento_data()
+    {
+        QTest::addColumn<QString>("orden");
+        QTest::newRow("backup") << u"copia"_s;
+        QTest::newRow("restore") << u"restaurar"_s;
+    }
+    void matarEnCualquierMomento()
+    {
+        QFETCH(QString, orden);
+        llenar(8000);
+        ostrel({u"copia"_s});
+        llenarMas();
+        const bool copia = orden == u"copia";
+        const QString ruta = copia ? copias(u"OstrMod_bak.mdb"_s) : rutas().datos;
+        const int veces = qEnvironmentVariableIntValue("OSTREL_MUERTES");
+        QElapsedTimer reloj;
+        reloj.start();
+        ostrel({orden});
+        const int dura = int(reloj.elapsed());
+        int acabadas = 0;
+        for (int i = 0; i < std::max(veces, 12); ++i) {
+            if (!copia)
+                llenarMas();
+            QProcess proceso;
+            proceso.start(QStringLiteral(OSTREL), {orden, u"--carpeta"_s, m_entorno->ruta({})});
+            QVERIFY(proceso.waitForStarted());
+            QTest::qSleep(QRandomGenerator::global()->bounded(dura + dura / 5));
+            proceso.kill();
+            proceso.waitForFinished();
+            acabadas += proceso.exitStatus() == QProcess::NormalExit;
+            auto base = servidor::abrirComprobada(ruta, servidor::FormatoDatos);
+            QCOMPARE(base.execAndGet("PRAGMA integrity_check").getString(), "ok");
+            const int hay = base.execAndGet("SELECT count(*) FROM DECLARANTES").getInt();
+            QVERIFY2(hay == 8000 || hay == 8001, qPrintable(QString::number(hay)));
+        }
+        qInfo() << "finished before the kill:" << acabadas;
+        QCOMPARE(ostrel({orden}).codigo, 0);
+    }
+
+private:
+    /// One declarant more than llenar() put there, if it is not there yet.
+    static void llenarMas()
+    {
+        SQLite::Database base(rutas().datos.toStdString(), SQLite::OPEN_READWRITE, 2000);
+        base.exec(
+            "INSERT OR IGNORE INTO DECLARANTES (DNI, NOMBRE, CLAVE, VIA, DOMICILIO, NUMERO, LETRA, "
+            "ESCALERA, PISO, MANO, CODPROV, CODPOS, CODMUN, NOMMUN, TELEFONO) VALUES ('UNO MAS', "
+            "'N', 'N', 'CL', 'MAYOR', 1, '', '', '', '', 20, '20001', 1, 'M', '')");
+    }
+    static QByteArray preparada(const QString &caso, const QByteArray &buena)
+    {
+        if (caso == u"t")
+            return buena.chopped(4096);
+        if (caso == u"v")
+            return {};
+        if (caso == u"p")
+            return QByteArray(buena).replace(3 * 4096, 4096, QByteArray(4096, 'z'));
+        if (caso == u"a")
+            return QByteArray(buena).replace(68, 4, "ABCD");
+        if (caso == u"n")
+            return QByteArray(buena).replace(60, 4, QByteArray("\0\0\3\1", 4));
+        return buena;
+    }
+};
+
+QTEST_MAIN(PruebaCopia)
+#include "tst_copia.moc"

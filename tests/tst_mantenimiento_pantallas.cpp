@@ -1,0 +1,240 @@
+#include "app/Arranque.h"
+#include "app/MDIOstrel.h"
+#include "core/CEntrada.h"
+#include "core/Servicios.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+#include "maintenance/FrmIdioma.h"
+#include "maintenance/cActOnline.h"
+#include "support/ConductorMensajes.h"
+#include "support/Entorno.h"
+#include "support/Manos.h"
+#include "support/ServidorVersion.h"
+#include "widgets/PantallaBase.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QPointer>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+/// Preferences, choice of language and what a stored switch makes the program do.
+class PruebaMantenimiento : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::optional<Entorno> m_entorno;
+
+    static qint16 guardado() { return servicioDatos()->ObtenerActOnline(); }
+    static PantallaBase *pantalla(const QString &nombre)
+    {
+        for (auto *una : QApplication::topLevelWidgets()) {
+            if (una->objectName() == nombre && una->isVisible())
+                return qobject_cast<PantallaBase *>(una);
+        }
+        return nullptr;
+    }
+    /// Presses a button of a screen as soon as it is there; how often it was there.
+    struct AlAparecer
+    {
+        AlAparecer(const QString &nombre, const char *boton,
+                   const std::function<void(PantallaBase &)> &antes = {})
+        {
+            QObject::connect(&reloj, &QTimer::timeout, &reloj, [=, this] {
+                if (auto *hallada = pantalla(nombre)) {
+                    ++veces;
+                    if (antes)
+                        antes(*hallada);
+                    Manos(*hallada).pulsar(boton);
+                }
+            });
+            reloj.start(1);
+        }
+        int veces = 0;
+        QTimer reloj;
+    };
+    static cActOnline &sinEsperas(qint16 interruptor)
+    {
+        auto &estado = unico::la<cActOnline>();
+        estado.espera = 0ms;
+        estado.limite = 300ms;
+        estado.ActOnline(interruptor);
+        return estado;
+    }
+    static std::unique_ptr<MDIOstrel> abrirPrograma()
+    {
+        auto principal = std::make_unique<MDIOstrel>();
+        principal->show();
+        return principal;
+    }
+    /// The preferences, opened from the menu.
+    static PantallaBase *preferencias(MDIOstrel &principal)
+    {
+        principal.findChild<QAction *>(u"mnuPreferencias"_s)->trigger();
+        return pantalla(u"frmPreferencias"_s);
+    }
+
+private Q_SLOTS:
+    void init() { m_entorno.emplace(); }
+    void cleanup()
+    {
+        m_entorno.reset();
+        fijarIdioma(Idioma::Castellano);
+    }
+
+    void preferenciasGuardanYTraducen()
+    {
+        servicioDatos()->GuardarActOnline(1);
+        unico::la<cActOnline>().LeerActOnline();
+        Entorno::altaDeclarante();
+        const auto principal = abrirPrograma();
+        principal->findChild<QAction *>(u"mnuAbrirDeclarante"_s)->trigger();
+        QPointer abierta = preferencias(*principal);
+        QVERIFY(abierta && abierta->isModal());
+        const Manos manos(*abierta);
+        QStringList textos{abierta->windowTitle()};
+        for (const char *nombre :
+             {"lblIdioma", "lblActualizaciones", "chkActOnline", "lblActAhora"})
+            textos.append(manos.texto(nombre).remove(u'&'));
+        QCOMPARE(textos,
+                 QStringList({u"Preferencias"_s, u"Idioma"_s, u"Actualizaciones"_s,
+                              u"Activar actualizaciones al iniciar programa"_s,
+                              u"Buscando actualización"_s}));
+        QVERIFY(manos.control<QAbstractButton>("optCast")->isChecked());
+        QVERIFY(manos.control<QAbstractButton>("chkActOnline")->isChecked());
+        manos.pulsar("chkActOnline");
+        manos.pulsar("optEusk");
+        QCOMPARE(guardado(), 1); // not yet
+        QCOMPARE(unico::la<CEntrada>().IDI(), u"C"_s);
+        manos.pulsar("cmdAceptar");
+        QTRY_VERIFY(!abierta);
+        QCOMPARE(guardado(), 0);
+        QCOMPARE(servicioDatos()->ObtenerIdioma(), u"E"_s);
+        QVERIFY(principal->windowTitle().startsWith(u"Aseguruen Ostrel"));
+        QCOMPARE(principal->findChild<PantallaBase *>(u"FrmDecLista"_s)->windowTitle(),
+                 u"Ireki aitortzailea"_s);
+    }
+
+    void cancelarNoCambiaNada()
+    {
+        const auto principal = abrirPrograma();
+        sinEsperas(-1);
+        QPointer abierta = preferencias(*principal);
+        const Manos manos(*abierta);
+        QVERIFY(!manos.control<QAbstractButton>("chkActOnline")->isChecked());
+        manos.pulsar("chkActOnline");
+        manos.pulsar("optEusk");
+        manos.pulsar("cmdCancelar");
+        QTRY_VERIFY(!abierta);
+        QCOMPARE(guardado(), 0);
+        QCOMPARE(unico::la<cActOnline>().ActOnline(), -1);
+        QCOMPARE(unico::la<CEntrada>().IDI(), u"C"_s);
+        QCOMPARE(principal->windowTitle(), u"Ostrel de seguros"_s);
+    }
+
+    void buscarAhoraConLaMismaVersion()
+    {
+        ServidorVersion servidor([](QTcpSocket &c, const QByteArray &) {
+            ServidorVersion::responder(c,
+                                       "[informacion]\ncurrentversion="
+                                           + QCoreApplication::applicationVersion().toLatin1()
+                                           + "\ndownloadurl=https://v.example/\ndescripcion=");
+        });
+        const auto principal = abrirPrograma();
+        sinEsperas(0).URLAct(servidor.direccion());
+        QPointer abierta = preferencias(*principal);
+        bool puede = true;
+        bool ocupado = true;
+        const AlAparecer version(u"FrmVersionCheck"_s, "CmdContinuar", [&](PantallaBase &vista) {
+            puede = vista.findChild<QWidget *>(u"CmdActualizar"_s)->isEnabled();
+            ocupado = QApplication::overrideCursor();
+        });
+        Manos(*abierta).pulsar("lblActAhora");
+        QCOMPARE(version.veces, 1);
+        QVERIFY(!puede);
+        QVERIFY(!ocupado);
+        QVERIFY(abierta && abierta->isVisible());
+    }
+
+    void sinConexionSoloCambiaLaSesion()
+    {
+        servicioDatos()->GuardarActOnline(1);
+        const auto principal = abrirPrograma();
+        auto &estado = sinEsperas(1);
+        QPointer abierta = preferencias(*principal);
+        bool marcada = true;
+        const AlAparecer sinConexion(u"FrmSinConexion"_s, "CmdContinuar", [&](PantallaBase &vista) {
+            const Manos manos(vista);
+            marcada = manos.control<QAbstractButton>("ChkNoPreg")->isChecked();
+            manos.pulsar("ChkNoPreg");
+            QCOMPARE(estado.ActOnline(), 0);
+        });
+        Manos(*abierta).pulsar("lblActAhora");
+        QCOMPARE(sinConexion.veces, 1);
+        QVERIFY(!marcada);
+        QCOMPARE(guardado(), 1); // saved by nobody here
+        QVERIFY(!Manos(*abierta).control<QAbstractButton>("chkActOnline")->isChecked());
+        Manos(*abierta).pulsar("cmdAceptar");
+        QCOMPARE(guardado(), 0);
+    }
+
+    void elegirIdiomaBuscaSoloConMenosUno_data()
+    {
+        QTest::addColumn<qint16>("interruptor");
+        QTest::addColumn<int>("busquedas");
+        QTest::newRow("1") << qint16(1) << 0;
+        QTest::newRow("0") << qint16(0) << 0;
+        QTest::newRow("-1") << qint16(-1) << 1;
+    }
+    void elegirIdiomaBuscaSoloConMenosUno()
+    {
+        QFETCH(qint16, interruptor);
+        QFETCH(int, busquedas);
+        auto &estado = sinEsperas(interruptor);
+        estado.SitAct(0);
+        FrmIdioma eleccion;
+        eleccion.hacerModal();
+        eleccion.show();
+        const Manos manos(eleccion);
+        bool marcable = true;
+        QCOMPARE(manos.control<QAbstractButton>("chkActOnline")->isChecked(), interruptor == 1);
+        const AlAparecer sinConexion(u"FrmSinConexion"_s, "CmdContinuar", [&](PantallaBase &) {
+            marcable = eleccion.findChild<QWidget *>(u"chkActOnline"_s)->isEnabled();
+        });
+        manos.pulsar("cmdeuskera");
+        QVERIFY(eleccion.isHidden());
+        QCOMPARE(sinConexion.veces, busquedas);
+        QCOMPARE(int(estado.SitAct()), busquedas);
+        QCOMPARE(marcable, busquedas == 0);
+        QCOMPARE(servicioDatos()->ObtenerIdioma(), u"E"_s);
+    }
+
+    void laVentanaBuscaSoloConMenosUno_data() { elegirIdiomaBuscaSoloConMenosUno_data(); }
+    void laVentanaBuscaSoloConMenosUno()
+    {
+        QFETCH(qint16, interruptor);
+        QFETCH(int, busquedas);
+        sinEsperas(interruptor);
+        const AlAparecer sinConexion(u"FrmSinConexion"_s, "CmdContinuar");
+        const auto principal = abrirPrograma();
+        QTest::qWait(60);
+        QCOMPARE(sinConexion.veces, busquedas);
+    }
+
+    void alIniciarSeLeenDireccionEInterruptor()
+    {
+        servicioDatos()->GuardarActOnline(1);
+        QVERIFY(prepararSesion().fallos.isEmpty());
+        const auto &estado = unico::la<cActOnline>();
+        QCOMPARE(estado.ActOnline(), 1);
+        QCOMPARE(estado.URLAct(), u"https://www.varlenda.example/ostrel/version"_s);
+    }
+};
+
+QTEST_MAIN(PruebaMantenimiento)
+#include "tst_mantenimiento_pantallas.moc"
