@@ -1,6 +1,6 @@
 // Pictures of the screens: imagenes DATA-FOLDER OUTPUT-FOLDER C|E. See scripts/imagenes.sh.
 
-#include "app/Apariencia.h"
+#include "app/Estilo.h"
 #include "app/Arranque.h"
 #include "app/DialogosVentana.h"
 #include "app/MDIOstrel.h"

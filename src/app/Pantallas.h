@@ -37,7 +37,7 @@ public:
     /// Whether every screen may close; asks where something would be lost.
     bool puedenCerrarse();
     /// Shows the stored data again in every screen that is not editing, and says that they changed.
-    void actualizar() { avisarCambio(nullptr); }
+    void actualizar() { avisarCambio(nullptr, 0); }
     /// Closes them all; from then on none opens.
     void terminar();
     /// Whether a screen is open that owns its record.

@@ -7,7 +7,7 @@
 #include "maintenance/FrmVersionCheck.h"
 #include "maintenance/cActOnline.h"
 #include "maintenance/frmPreferencias.h"
-#include "widgets/Procedimiento.h"
+#include "widgets/Mensajes.h"
 
 #include <QEventLoop>
 #include <QFile>
