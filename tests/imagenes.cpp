@@ -1,8 +1,8 @@
 // Pictures of the screens: imagenes DATA-FOLDER OUTPUT-FOLDER C|E. See scripts/imagenes.sh.
 
-#include "app/Estilo.h"
 #include "app/Arranque.h"
 #include "app/DialogosVentana.h"
+#include "app/Estilo.h"
 #include "app/MDIOstrel.h"
 #include "app/TextosQt.h"
 #include "core/CEntrada.h"

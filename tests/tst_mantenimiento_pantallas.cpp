@@ -62,7 +62,7 @@ private:
     {
         auto &estado = unico::la<cActOnline>();
         estado.espera = 0ms;
-        estado.limite = 300ms;
+        estado.limite = 5s;
         estado.ActOnline(interruptor);
         return estado;
     }
@@ -80,6 +80,7 @@ private:
     }
 
 private Q_SLOTS:
+    void initTestCase() { QCoreApplication::setApplicationVersion(u"1.2.3"_s); }
     void init() { m_entorno.emplace(); }
     void cleanup()
     {
