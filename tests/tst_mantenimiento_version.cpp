@@ -7,13 +7,13 @@
 #include "support/ConductorMensajes.h"
 #include "support/Entorno.h"
 #include "support/Manos.h"
+#include "support/ServidorPrueba.h"
 #include "support/ServidorVersion.h"
 #include "widgets/Navegador.h"
 #include "widgets/PantallaBase.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QFile>
 
 #include <optional>
 
@@ -34,13 +34,10 @@ class PruebaVersion : public QObject
     Q_OBJECT
 
 private:
+    using Conducta = std::function<void(ServidorVersion &, QTcpSocket &)>;
+
     std::optional<Entorno> m_entorno;
 
-    QByteArray fichero(const QString &nombre) const
-    {
-        QFile f(m_entorno->ruta(nombre));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
     static cActOnline &preparar(const QString &url)
     {
         auto &estado = unico::la<cActOnline>();
@@ -105,10 +102,7 @@ private Q_SLOTS:
     {
         const auto leida = leerVersion(respuesta("1.2.3"));
         QVERIFY(leida);
-        QCOMPARE(leida->partes, QStringList({u"1"_s, u"2"_s, u"3"_s}));
-        QCOMPARE(leida->direccion, u"https://www.varlenda.example/x/y.exe"_s);
-        QCOMPARE(leida->descripcion, u"Corrección: a, b; c €"_s);
-        QCOMPARE(ficheroDe(leida->direccion), u"y.exe"_s);
+        QCOMPARE(leida->partes.join(u'.'), u"1.2.3"_s); // the rest is seen on the screen
         QCOMPARE(valorPerfil("\xEF\xBB\xBF[s]\nk=\xC3\xB1", u"S"_s, u"K"_s), u"ñ"_s);
         QVERIFY(!valorPerfil("[s]\n[t]\nk=1", u"s"_s, u"k"_s));
         QCOMPARE(valorPerfil("[s]\nk=", u"s"_s, u"k"_s), QString());
@@ -117,74 +111,63 @@ private Q_SLOTS:
     void servidorBueno_data()
     {
         QTest::addColumn<QString>("idioma");
-        QTest::addColumn<QByteArray>("pedido");
-        QTest::newRow("castellano") << u"C"_s << QByteArray("&idioma=c ");
-        QTest::newRow("euskera") << u"E"_s << QByteArray("&idioma=e ");
+        for (const char *idioma : {"C", "E"})
+            QTest::newRow(idioma) << QString::fromLatin1(idioma);
     }
     void servidorBueno()
     {
         QFETCH(QString, idioma);
-        QFETCH(QByteArray, pedido);
         m_entorno.emplace(idioma);
-        ServidorVersion servidor([](QTcpSocket &c, const QByteArray &) {
-            c.write("");
-            ServidorVersion::responder(c, respuesta("1.20.2"));
-        });
+        ServidorVersion servidor(respuesta("1.20.2"));
         auto &estado = preparar(servidor.direccion());
-        QByteArray textos;
+        QString textos;
         const auto vistas = buscar([&](PantallaBase &pantalla) {
             const Manos manos(pantalla);
             QCOMPARE(estado.SitAct(), 0); // the version screen comes first
-            for (const char *nombre : {"LblActual", "LblDisponible", "TxtUrl", "TxtPath"})
-                textos += manos.texto(nombre).toUtf8() + '|';
+            textos = manos.textos("LblActual LblDisponible TxtUrl TxtPath");
             QCOMPARE(manos.control("TxtInfo")->property("plainText").toString(),
                      u"Corrección: a, b; c €"_s);
             QVERIFY(manos.control("CmdActualizar")->isEnabled());
         });
         QCOMPARE(vistas, QStringList(u"FrmVersionCheck"_s));
-        QCOMPARE(textos, "1.20.3|1.20.2|https://www.varlenda.example/x/y.exe|y.exe|");
+        QCOMPARE(textos, u"1.20.3|1.20.2|https://www.varlenda.example/x/y.exe|y.exe"_s);
         QCOMPARE(estado.SitAct(), 3);
-        QCOMPARE(fichero(u"version.ini"_s), respuesta("1.20.2"));
-        QVERIFY(servidor.peticiones.first().startsWith(
-            "GET /version?Programa=OSTREL%20DE%20SEGUROS&idioma="));
-        QVERIFY(servidor.peticiones.first().contains(pedido));
+        QCOMPARE(bytes(m_entorno->ruta(u"version.ini"_s)), respuesta("1.20.2"));
+        const QString pedido = u"GET /version?Programa=OSTREL%20DE%20SEGUROS&idioma="_s;
+        QVERIFY(
+            servidor.peticiones.first().startsWith((pedido + idioma.toLower() + u' ').toUtf8()));
     }
 
     void servidorHostil_data()
     {
-        using Servidor = std::function<void(ServidorVersion &, QTcpSocket &, const QByteArray &)>;
-        QTest::addColumn<Servidor>("conducta");
+        QTest::addColumn<Conducta>("conducta");
         QTest::addColumn<int>("situacion");
-        const auto fila = [](const char *nombre, int situacion, const Servidor &conducta) {
+        const auto fila = [](const char *nombre, const Conducta &conducta, int situacion = 1) {
             QTest::newRow(nombre) << conducta << situacion;
         };
         const auto cuerpo = [&](const char *nombre, int situacion, const QByteArray &texto,
-                                const QByteArray &estado = "200 OK") {
-            fila(nombre, situacion, [=](ServidorVersion &, QTcpSocket &c, const QByteArray &) {
-                ServidorVersion::responder(c, texto, estado);
-            });
+                                const char *estado = "200 OK", const QByteArray &mas = {}) {
+            fila(
+                nombre, [=](auto &, auto &c) { ServidorVersion::responder(c, texto, estado, mas); },
+                situacion);
         };
         const auto redirige = [&](const char *nombre, const QByteArray &lugar) {
-            fila(nombre, 1, [=](ServidorVersion &, QTcpSocket &c, const QByteArray &) {
-                ServidorVersion::responder(c, respuesta("1.20.3"), "302 Found",
-                                           "Location: " + lugar + "\r\n");
-            });
+            cuerpo(nombre, 1, respuesta("1.20.3"), "302 Found", "Location: " + lugar + "\r\n");
         };
-        fila("silent", 1, [](ServidorVersion &, QTcpSocket &, const QByteArray &) {});
-        fila("closes", 1, [](ServidorVersion &, QTcpSocket &c, const QByteArray &) { c.abort(); });
-        fila("byte by byte", 1, [](ServidorVersion &s, QTcpSocket &c, const QByteArray &) {
-            c.write("HTTP/1.1 200 OK\r\n\r\n");
-            s.sinFin(c, "x", 20);
-        });
-        fila("endless body", 1, [](ServidorVersion &s, QTcpSocket &c, const QByteArray &) {
-            c.write("HTTP/1.1 200 OK\r\n\r\n");
-            s.sinFin(c, QByteArray(10000, 'x'));
-        });
-        fila("endless headers", 1, [](ServidorVersion &s, QTcpSocket &c, const QByteArray &) {
-            c.write("HTTP/1.1 200 OK\r\n");
-            s.sinFin(c, QByteArray("X-A: ").append(10000, 'x').append("\r\n"));
-        });
-        fila("cut short", 1, [](ServidorVersion &, QTcpSocket &c, const QByteArray &) {
+        const auto sinFin
+            = [&](const char *nombre, const char *cabecera, const QByteArray &trozo, int cada = 0) {
+                  fila(nombre, [=](auto &servidor, auto &c) {
+                      c.write("HTTP/1.1 200 OK\r\n");
+                      c.write(cabecera);
+                      servidor.sinFin(c, trozo, cada);
+                  });
+              };
+        fila("silent", [](auto &, auto &) {});
+        fila("closes", [](auto &, auto &c) { c.abort(); });
+        sinFin("byte by byte", "\r\n", "x", 20);
+        sinFin("endless body", "\r\n", QByteArray(10000, 'x'));
+        sinFin("endless headers", "", QByteArray("X-A: ").append(10000, 'x').append("\r\n"));
+        fila("cut short", [](auto &, auto &c) {
             c.write("HTTP/1.1 200 OK\r\nContent-Length: 4000\r\n\r\n" + respuesta("1.20.3"));
             c.disconnectFromHost();
         });
@@ -201,38 +184,30 @@ private Q_SLOTS:
     }
     void servidorHostil()
     {
-        QFETCH(std::function<void(ServidorVersion &, QTcpSocket &, const QByteArray &)>, conducta);
+        QFETCH(Conducta, conducta);
         QFETCH(int, situacion);
-        ServidorVersion servidor(
-            [&](QTcpSocket &c, const QByteArray &pedido) { conducta(servidor, c, pedido); });
-        QFile vieja(m_entorno->ruta(u"version.ini"_s));
-        QVERIFY(vieja.open(QIODevice::WriteOnly));
-        vieja.write(respuesta("1.20.3")); // of an earlier check, never to be read again
-        vieja.close();
+        ServidorVersion servidor([&](QTcpSocket &c, const QByteArray &) { conducta(servidor, c); });
+        // of an earlier check, never to be read again
+        escribir(m_entorno->ruta(u"version.ini"_s), respuesta("1.20.3"));
         auto &estado = preparar(servidor.direccion());
         estado.SitAct(3);
         QElapsedTimer reloj;
         reloj.start();
-        QStringList textos;
+        QString textos;
         const auto vistas = buscar([&](PantallaBase &pantalla) {
             QCOMPARE(int(estado.SitAct()), situacion);
-            const Manos manos(pantalla);
-            textos
-                = {manos.texto("lblTituloC"), manos.texto("lblTituloE"), manos.texto("lblMensaje")};
+            textos = Manos(pantalla).textos("lblTituloC lblTituloE lblMensaje");
         });
         QCOMPARE(vistas, QStringList(u"FrmSinConexion"_s));
         QVERIFY(reloj.elapsed() < estado.limite.count() + 600);
         QCOMPARE(int(estado.SitAct()), situacion);
-        if (situacion == 1)
-            QCOMPARE(textos,
-                     QStringList({u"Fallo en la conexión"_s, u"Konexio akatsa gertatu da"_s,
-                                  u"No dispone de conexión a Internet en estos momentos o el "
-                                  "servidor se encuentra inactivo"_s}));
-        else
-            QCOMPARE(textos,
-                     QStringList({u"Datos erroneos"_s, u"Datu okerrak dira"_s,
-                                  u"Error en la recuperación o lectura de los datos de "
-                                  "actualización."_s}));
+        QCOMPARE(textos,
+                 situacion == 1
+                     ? u"Fallo en la conexión|Konexio akatsa gertatu da|No dispone de "
+                       "conexión a Internet en estos momentos o el servidor se encuentra "
+                       "inactivo"_s
+                     : u"Datos erroneos|Datu okerrak dira|Error en la recuperación o "
+                       "lectura de los datos de actualización."_s);
         QVERIFY(servidor.peticiones.size() <= 4);
         QVERIFY(servidor.enviados < 500'000); // the system's buffers take some of it
     }
@@ -253,9 +228,7 @@ private Q_SLOTS:
 
     void igualNoMuestraNada()
     {
-        ServidorVersion servidor([](QTcpSocket &c, const QByteArray &) {
-            ServidorVersion::responder(c, respuesta("1.20.3"));
-        });
+        ServidorVersion servidor(respuesta("1.20.3"));
         auto &estado = preparar(servidor.direccion());
         QCOMPARE(buscar(), QStringList());
         QCOMPARE(estado.SitAct(), 3);
@@ -266,30 +239,25 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("direccion");
         QTest::addColumn<QByteArray>("accion"); // empty: refused
-        const auto sana = [](const char *d) { QTest::newRow(d) << QByteArray(d) << QByteArray(d); };
-        sana("https://www.varlenda.example/x/y.exe");
-        sana("http://www.varlenda.example/a?b=1&c=%20");
-        const auto otra = [](const char *d, const char *a) {
-            QTest::newRow(d) << QByteArray(d) << QByteArray(a);
+        const auto caso = [](const char *direccion, const char *accion) {
+            QTest::newRow(direccion) << QByteArray(direccion) << QByteArray(accion);
         };
-        otra("https://v.example/' onload='alert(1)", "https://v.example/%27%20onload=%27alert(1)");
-        otra("https://v.example/><script>", "https://v.example/%3E%3Cscript%3E");
-        otra("javascript:alert(1)", "");
-        otra("file:///etc/passwd", "");
-        otra("//v.example/x", "");
-        otra("https:", "");
+        for (const char *sana :
+             {"https://www.varlenda.example/x/y.exe", "http://www.varlenda.example/a?b=1&c=%20"})
+            caso(sana, sana);
+        caso("https://v.example/' onload='alert(1)", "https://v.example/%27%20onload=%27alert(1)");
+        caso("https://v.example/><script>", "https://v.example/%3E%3Cscript%3E");
+        for (const char *mala :
+             {"javascript:alert(1)", "file:///etc/passwd", "//v.example/x", "https:"})
+            caso(mala, "");
     }
     void paginaTemporalDeDescarga()
     {
         QFETCH(QByteArray, direccion);
         QFETCH(QByteArray, accion);
-        QFile vieja(m_entorno->ruta(u"temphtm.HTM"_s));
-        QVERIFY(vieja.open(QIODevice::WriteOnly));
-        vieja.write(QByteArray(2000, 'v'));
-        vieja.close();
-        ServidorVersion servidor([&](QTcpSocket &c, const QByteArray &) {
-            ServidorVersion::responder(c, respuesta("2.0.0", direccion));
-        });
+        const QString pagina = m_entorno->ruta(u"temphtm.HTM"_s);
+        escribir(pagina, QByteArray(2000, 'v'));
+        ServidorVersion servidor(respuesta("2.0.0", direccion));
         preparar(servidor.direccion());
         QList<QUrl> abiertas;
         navegador::sustituir([&](const QUrl &url) {
@@ -305,18 +273,16 @@ private Q_SLOTS:
             QVERIFY(mensajes.texto().contains(QString::fromLatin1(direccion)));
             return;
         }
-        QCOMPARE(abiertas, {QUrl::fromLocalFile(m_entorno->ruta(u"temphtm.HTM"_s))});
-        QCOMPARE(fichero(u"temphtm.HTM"_s),
-                 QByteArray("<HTML> ") + " <BODY ONLOAD='document.formulario.submit();'> "
-                     + " <FORM NAME='formulario' action='" + accion + "' method=post> "
-                     + " </FORM></BODY> </HTML>");
+        QCOMPARE(abiertas, {QUrl::fromLocalFile(pagina)});
+        QCOMPARE(bytes(pagina),
+                 "<HTML>  <BODY ONLOAD='document.formulario.submit();'>  <FORM NAME='formulario' "
+                 "action='"
+                     + accion + "' method=post>  </FORM></BODY> </HTML>");
     }
 
     void sinNavegador()
     {
-        ServidorVersion servidor([&](QTcpSocket &c, const QByteArray &) {
-            ServidorVersion::responder(c, respuesta("2.0.0"));
-        });
+        ServidorVersion servidor(respuesta("2.0.0"));
         preparar(servidor.direccion());
         navegador::sustituir([](const QUrl &) { return false; });
         ConductorMensajes mensajes;

@@ -43,17 +43,11 @@ private Q_SLOTS:
                                                                 10, QChar(u'0'))))
                              .getInt(),
                          Reg480::posicion(clase, columna) + 1);
-        for (const auto &[nombre, valor] : {std::pair{"C70", 47},
-                                            {"C73", 48},
-                                            {"C76", 49},
-                                            {"C79", 50},
-                                            {"C74", 800},
-                                            {"C77", 600},
-                                            {"C75", 53},
-                                            {"C78", 54},
-                                            {"C80", 55},
-                                            {"C81", 56}})
-            QCOMPARE(fila.getColumn(nombre).getInt(), valor);
+        QVariantList resto;
+        for (const char *nombre :
+             {"C70", "C73", "C76", "C79", "C74", "C77", "C75", "C78", "C80", "C81"})
+            resto += fila.getColumn(nombre).getInt();
+        QCOMPARE(resto, (QVariantList{47, 48, 49, 50, 800, 600, 53, 54, 55, 56}));
         Filas filas;
         QCOMPARE(objeto->dameResultado(filas, m_declarante), 2);
         QCOMPARE(filas[0].toList(),
@@ -120,18 +114,13 @@ private Q_SLOTS:
         const int base = int(Figuras) + Reg430::BASELIQ;
         const int total = int(Figuras) + Reg430::CUOTATOT;
         QCOMPARE(m_servidor->declaraciones()->Guardar430(bueno.first(bueno.size() - 1)), 0);
-        for (const auto &[campo, valor] : {std::pair{base, QVariant(1.5)},
-                                           {base, QVariant(qQNaN())},
-                                           {base, QVariant(u"1"_s)},
-                                           {total, QVariant(qInf())},
-                                           {total, QVariant(1e15)},
-                                           {int(Figuras) + Reg430::TIPOLIQ, QVariant(8.123F)},
-                                           {int(PERIODO), QVariant(13)},
-                                           {int(MODELO), QVariant(u"480"_s)},
-                                           {int(PERIODICIDAD), QVariant(2)},
-                                           {int(CSCO), QVariant(0)}}) {
+        const QList<int> campos{
+            base,    base,   base,         total, total, int(Figuras) + Reg430::TIPOLIQ,
+            PERIODO, MODELO, PERIODICIDAD, CSCO};
+        const QVariantList malos{1.5, qQNaN(), u"1"_s, qInf(), 1e15, 8.123F, 13, u"480"_s, 2, 0};
+        for (qsizetype i = 0; i < campos.size(); ++i) {
             Registro datos = bueno;
-            datos[campo] = valor;
+            datos[campos[i]] = malos[i];
             QCOMPARE(m_servidor->declaraciones()->Guardar430(datos), 0);
         }
         QCOMPARE(importes(), QVariantList());

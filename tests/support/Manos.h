@@ -66,6 +66,14 @@ public:
         QTest::keyClick(foco ? foco : &m_pantalla, tecla, con);
     }
 
+    /// The texts of the controls named, with "|" between them.
+    QString textos(const char *nombres) const
+    {
+        QStringList partes;
+        for (const QByteArray &nombre : QByteArray(nombres).split(' '))
+            partes += texto(nombre);
+        return partes.join(u'|');
+    }
     QString texto(const char *nombre) const { return control(nombre)->property("text").toString(); }
 
     /// Name of the control with the focus.

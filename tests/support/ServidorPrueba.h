@@ -6,9 +6,12 @@
 #include "server/Servidor.h"
 
 #include <QFile>
+#include <QHash>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <SQLiteCpp/Database.h>
 #include <functional>
 #include <optional>
 
@@ -118,4 +121,40 @@ inline void escribir(const QString &ruta, const QByteArray &contenido)
     QFile fichero(ruta);
     QVERIFY(fichero.open(QIODevice::WriteOnly | QIODevice::Truncate));
     QCOMPARE(fichero.write(contenido), contenido.size());
+}
+
+/// Puts `cuantos` declarants into a database past the data service, those that are not there yet.
+inline void llenar(const QString &ruta, int cuantos, const QString &prefijo = u"D"_s)
+{
+    SQLite::Database(ruta.toStdString(), SQLite::OPEN_READWRITE, 2000)
+        .exec(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1) "
+              "INSERT OR IGNORE INTO DECLARANTES (DNI, NOMBRE, CLAVE, VIA, DOMICILIO, NUMERO, "
+              "LETRA, ESCALERA, PISO, MANO, CODPROV, CODPOS, CODMUN, NOMMUN, TELEFONO) SELECT "
+              "'%2' || i, 'N' || i, 'N' || i, 'CL', 'MAYOR', 1, '', '', '', '', 20, '20001', 1, "
+              "'M', '' FROM n"_s.arg(cuantos)
+                  .arg(prefijo)
+                  .toStdString());
+}
+
+/// A sound database file spoilt in the way called `caso`; another one, `otro`, in its place.
+inline QByteArray estropeado(const QString &caso, const QByteArray &bueno, const QByteArray &otro)
+{
+    QByteArray azar(8192, 0);
+    QRandomGenerator(7).generate(azar.begin(), azar.end());
+    const QByteArray pagina(4096, 'z');
+    const auto con = [&](int lugar, const char *numero) {
+        return QByteArray(bueno).replace(lugar, 4, QByteArray(numero, 4));
+    };
+    const QHash<QString, QByteArray> malos{
+        {u"empty"_s, {}},
+        {u"truncated"_s, bueno.chopped(4096)},
+        {u"short"_s, bueno.first(50)},
+        {u"text"_s, QByteArray("this is no database\n").repeated(500)},
+        {u"random"_s, azar},
+        {u"damaged"_s, QByteArray(bueno).replace(4096, 4096, pagina)},
+        {u"fourth page"_s, QByteArray(bueno).replace(3 * 4096, 4096, pagina)},
+        {u"foreign"_s, con(68, "ABCD")},
+        {u"unnamed"_s, con(68, "\0\0\0\0")},
+        {u"newer"_s, con(60, "\0\0\3\1")}};
+    return malos.value(caso, otro);
 }

@@ -29,6 +29,12 @@ public:
         });
     }
 
+    /// Answers everything with this body.
+    explicit ServidorVersion(const QByteArray &cuerpo)
+        : ServidorVersion([cuerpo](QTcpSocket &c, const QByteArray &) { responder(c, cuerpo); })
+    {
+    }
+
     QString direccion() const { return u"http://127.0.0.1:%1/version"_s.arg(serverPort()); }
 
     QList<QByteArray> peticiones;
