@@ -1,13 +1,12 @@
 #include "printing/SalidaImpresora.h"
 #include "printing/TrabajoImpresion.h"
 #include "support/DeclaracionesPrueba.h"
+#include "support/ServidorPrueba.h"
 
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTcpServer>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -28,13 +27,14 @@ class TstImpresoCola : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        for (const char *nombre : {"cupsd", "lpadmin", "cups-pdf"})
-            if (programa(QString::fromLatin1(nombre)).isEmpty())
+        for (const QString &nombre : {u"cupsd"_s, u"lpadmin"_s, u"cups-pdf"_s})
+            if (programa(nombre).isEmpty())
                 QSKIP("needs cups and printer-driver-cups-pdf");
         QVERIFY(iniciarCups());
-        QTRY_VERIFY(ejecutar(u"lpadmin"_s,
-                             {u"-p"_s, Cola, u"-E"_s, u"-v"_s, u"cups-pdf:/"_s, u"-m"_s,
-                              u"lsb/usr/cups-pdf/CUPS-PDF_opt.ppd"_s}));
+        QTRY_VERIFY(!salidaDe(u"lpadmin"_s,
+                              {u"-p"_s, Cola, u"-E"_s, u"-v"_s, u"cups-pdf:/"_s, u"-m"_s,
+                               u"lsb/usr/cups-pdf/CUPS-PDF_opt.ppd"_s})
+                         .isNull());
         QTRY_VERIFY(SalidaImpresora::hayImpresoras());
     }
 
@@ -51,19 +51,13 @@ private Q_SLOTS:
         const QDir cola(m_carpeta.filePath(u"cola"_s));
         QTRY_COMPARE(cola.entryList({u"d*"_s}, QDir::Files).size(), 2);
         const QStringList trabajos = cola.entryList({u"d*"_s}, QDir::Files, QDir::Name);
-        const char *leyendas[] = {"ADMINISTRACIÓN", "INTERESADO"};
-        for (int i = 0; i < 2; ++i) {
-            QProcess texto;
-            texto.start(u"pdftotext"_s, {cola.filePath(trabajos[i]), u"-"_s});
-            QVERIFY(texto.waitForFinished());
-            QVERIFY(texto.readAllStandardOutput().contains(leyendas[i]));
-        }
+        for (int i = 0; i < 2; ++i)
+            QVERIFY(salidaDe(u"pdftotext"_s, {cola.filePath(trabajos[i]), u"-"_s})
+                        .contains(i == 0 ? "ADMINISTRACIÓN" : "INTERESADO"));
     }
 
     void cleanupTestCase()
     {
-        if (m_cups.state() == QProcess::NotRunning)
-            return;
         m_cups.terminate();
         m_cups.waitForFinished(5000);
     }
@@ -79,16 +73,18 @@ private:
         for (const char *sub : {"estado", "cola", "tmp", "cache"})
             QDir(m_carpeta.path()).mkpath(QString::fromLatin1(sub));
         const QString raiz = m_carpeta.path();
-        escribir(u"cups-files.conf"_s,
+        escribir(raiz + u"/cups-files.conf"_s,
                  u"ServerRoot %1\nStateDir %1/estado\nRequestRoot %1/cola\nTempDir %1/tmp\n"
                  "CacheDir %1/cache\nErrorLog %1/error_log\nAccessLog %1/access_log\n"
-                 "PageLog %1/page_log\nFileDevice Yes\n"_s.arg(raiz));
+                 "PageLog %1/page_log\nFileDevice Yes\n"_s.arg(raiz)
+                     .toUtf8());
         escribir(
-            u"cupsd.conf"_s,
+            raiz + u"/cupsd.conf"_s,
             u"Listen %1\nBrowsing Off\nDefaultAuthType None\nPreserveJobFiles Yes\n"
             "PreserveJobHistory Yes\n<Location />\nOrder allow,deny\nAllow all\n</Location>\n"
             "<Policy default>\n<Limit All>\nOrder allow,deny\nAllow all\n</Limit>\n</Policy>\n"_s
-                .arg(servidor));
+                .arg(servidor)
+                .toUtf8());
         qputenv("CUPS_SERVER", servidor.toLatin1());
         m_cups.start(
             programa(u"cupsd"_s),
@@ -96,18 +92,14 @@ private:
         return m_cups.waitForStarted();
     }
 
-    bool ejecutar(const QString &nombre, const QStringList &argumentos)
+    /// What a program writes; null when it fails.
+    static QByteArray salidaDe(const QString &nombre, const QStringList &argumentos)
     {
         QProcess proceso;
         proceso.start(programa(nombre), argumentos);
-        return proceso.waitForFinished() && proceso.exitCode() == 0;
-    }
-
-    void escribir(const QString &nombre, const QString &texto)
-    {
-        QFile fichero(m_carpeta.filePath(nombre));
-        QVERIFY(fichero.open(QIODevice::WriteOnly));
-        fichero.write(texto.toUtf8());
+        return proceso.waitForFinished() && proceso.exitCode() == 0
+            ? proceso.readAllStandardOutput().append('\n')
+            : QByteArray();
     }
 
     QTemporaryDir m_carpeta;

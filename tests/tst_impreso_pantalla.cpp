@@ -4,6 +4,7 @@
 #include "printing/FrmImOf.h"
 #include "support/DeclaracionesPrueba.h"
 #include "support/PantallaAbierta.h"
+#include "support/ServidorPrueba.h"
 #include "widgets/Ficheros.h"
 
 #include <QAbstractButton>
@@ -31,9 +32,23 @@ struct Opciones : PantallaAbierta<FrmImOf>
         unico::la<cImOf>().PedirBorrador();
         abrir();
     }
-    QAbstractButton *boton(const char *nombre) const
+    QString aviso(const char *nombre)
     {
-        return manos->control<QAbstractButton>(nombre);
+        responderYPulsar(QMessageBox::Ok, nombre);
+        return mensajes.texto();
+    }
+    /// The marked choices, and the controls that cannot be used.
+    QString marcas() const
+    {
+        QStringList lista;
+        for (const char *nombre :
+             {"optTipoImpreso0", "optTipoImpreso1", "chkCopiaInteresado", "chkCopiaAdministracion",
+              "chkUnPdf", "btnAceptar", "PicAce", "btnGuardarPdf"}) {
+            const auto *uno = manos->control<QAbstractButton>(nombre);
+            if (uno->isChecked() || !uno->isEnabled())
+                lista += (uno->isEnabled() ? QString() : u"-"_s) + uno->objectName();
+        }
+        return lista.join(u' ');
     }
     QString fecha() const { return manos->texto("txtFechaPresentacion"); }
     /// The captions of the whole screen.
@@ -51,6 +66,9 @@ struct Opciones : PantallaAbierta<FrmImOf>
 
     qint32 csde = 0;
 };
+
+static const QString ConDosCopias
+    = u"optTipoImpreso0 chkCopiaInteresado chkCopiaAdministracion chkUnPdf"_s;
 
 static cImOf &peticion()
 {
@@ -75,9 +93,11 @@ private Q_SLOTS:
         QCOMPARE(unico::la<cDatos430>().CSDE(), o.csde);
         // the request starts afresh
         QCOMPARE(peticion().TIPOIMP(), u"O"_s);
-        for (const char *marcado :
-             {"optTipoImpreso0", "chkCopiaInteresado", "chkCopiaAdministracion"})
-            QVERIFY2(o.boton(marcado)->isChecked(), marcado);
+        QCOMPARE(o.marcas(), ConDosCopias);
+        QCOMPARE(o.manos->texto("lblDeclaracion"),
+                 u"430 ENERO 2026\nA58818501 - ASEGURADORA UNO, S.A."_s);
+        if (!SalidaImpresora::hayImpresoras())
+            QCOMPARE(o.manos->texto("lblImpresora"), u"Impresora: ninguna"_s);
         o.manos->escribir("txtFechaPresentacion", u"29/02/2024"_s);
         Entorno::pasarAEuskera(*o.pantalla);
         QCOMPARE(o.rotulos(),
@@ -85,6 +105,7 @@ private Q_SLOTS:
                  "Interesatuaren kopia|Administrazioaren kopia|Inprimagailuaren aukerak|Ados|"
                  "Utzi"_s);
         QCOMPARE(o.fecha(), u"2024/02/29"_s);
+        QVERIFY(o.manos->texto("lblDeclaracion").startsWith(u"430 URTARRILA 2026"_s));
         QCOMPARE(Opciones(u"430"_s, u"E"_s).fecha(),
                  QDate::currentDate().toString(u"yyyy/MM/dd"_s));
     }
@@ -92,30 +113,24 @@ private Q_SLOTS:
     void tiposYCopias()
     {
         Opciones o(u"480"_s);
-        auto *interesado = o.boton("chkCopiaInteresado");
-        auto *administracion = o.boton("chkCopiaAdministracion");
-        const auto comprobarImprimible = [&](bool puede) {
-            for (const char *nombre : {"btnAceptar", "PicAce", "btnGuardarPdf"})
-                QCOMPARE(o.boton(nombre)->isEnabled(), puede);
-        };
-        o.manos->pulsar("optTipoImpreso1");
-        QCOMPARE(peticion().TIPOIMP(), u"B"_s);
-        QCOMPARE(peticion().COPIAADM() + peticion().COPIAINT(), QString());
-        QVERIFY(!interesado->isChecked() && !interesado->isEnabled());
-        QVERIFY(!administracion->isChecked() && !administracion->isEnabled());
-        comprobarImprimible(true);
-
-        o.manos->pulsar("optTipoImpreso0");
-        QVERIFY(interesado->isChecked() && interesado->isEnabled() && administracion->isChecked());
-        o.manos->pulsar("chkCopiaInteresado");
-        QCOMPARE(peticion().COPIAINT(), QString());
-        comprobarImprimible(true);
-        QVERIFY(!o.boton("chkUnPdf")->isEnabled());
-        o.manos->pulsar("chkCopiaAdministracion");
-        comprobarImprimible(false);
-        o.manos->pulsar("chkCopiaInteresado");
-        QCOMPARE(peticion().COPIAINT(), u"X"_s);
-        comprobarImprimible(true);
+        QCOMPARE(o.manos->texto("lblDeclaracion").section(u'\n', 0, 0), u"480 ANUAL 2026"_s);
+        for (const auto &[pulsado, marcas, pedidas] :
+             {std::tuple{"optTipoImpreso1",
+                         u"optTipoImpreso1 -chkCopiaInteresado -chkCopiaAdministracion -chkUnPdf"_s,
+                         u"B||"_s},
+              {"optTipoImpreso0", ConDosCopias, u"O|X|X"_s},
+              {"chkCopiaInteresado", u"optTipoImpreso0 chkCopiaAdministracion -chkUnPdf"_s,
+               u"O|X|"_s},
+              {"chkCopiaAdministracion",
+               u"optTipoImpreso0 -chkUnPdf -btnAceptar -PicAce -btnGuardarPdf"_s, u"O||"_s},
+              {"chkCopiaInteresado", u"optTipoImpreso0 chkCopiaInteresado -chkUnPdf"_s,
+               u"O||X"_s}}) {
+            o.manos->pulsar(pulsado);
+            QCOMPARE(o.marcas(), marcas);
+            QCOMPARE(peticion().TIPOIMP() + u'|' + peticion().COPIAADM() + u'|'
+                         + peticion().COPIAINT(),
+                     pedidas);
+        }
     }
 
     void sinImpresora()
@@ -123,8 +138,7 @@ private Q_SLOTS:
         if (SalidaImpresora::hayImpresoras())
             QSKIP("a printer is installed");
         Opciones o(u"430"_s, u"E"_s);
-        o.responderYPulsar(QMessageBox::Ok, "PicAce");
-        QCOMPARE(o.mensajes.texto(), u"Ezin da inprimatu. Ez dago inprimagailurik instalatuta"_s);
+        QCOMPARE(o.aviso("PicAce"), u"Ezin da inprimatu. Ez dago inprimagailurik instalatuta"_s);
         QVERIFY(o.pantalla->isVisible());
     }
 
@@ -132,12 +146,11 @@ private Q_SLOTS:
     {
         Opciones o(u"430"_s);
         o.manos->escribir("txtFechaPresentacion", u"31/12/2001"_s);
-        o.responderYPulsar(QMessageBox::Ok, "btnGuardarPdf");
-        QCOMPARE(o.mensajes.texto(),
+        QCOMPARE(o.aviso("btnGuardarPdf"),
                  u"La Fecha de presentación no puede ser anterior al 01/01/2002"_s);
         o.manos->escribir("txtFechaPresentacion", u"29/02/2023"_s);
-        o.responderYPulsar(QMessageBox::Ok, "btnVistaPrevia");
-        QCOMPARE(o.mensajes.texto(), u"La Fecha de presentación introducida no es correcta"_s);
+        QCOMPARE(o.aviso("btnVistaPrevia"),
+                 u"La Fecha de presentación introducida no es correcta"_s);
         QVERIFY(o.pantalla->isVisible());
         QCOMPARE(peticion().FECHAPRE(), 20260131);
     }
@@ -161,46 +174,28 @@ private Q_SLOTS:
     void vistaPrevia()
     {
         Opciones o(u"480"_s);
-        int paginas = 0;
+        const QSize libre = o.pantalla->screen()->availableSize();
         QStringList visibles;
-        QSize tamano;
-        auto zoom = QPrintPreviewWidget::CustomZoom;
         QTimer::singleShot(0, o.pantalla.get(), [&] {
             auto *dialogo = QApplication::activeModalWidget();
             const auto *vista = dialogo->findChild<QPrintPreviewWidget *>();
-            paginas = vista->pageCount();
-            zoom = vista->zoomMode();
-            tamano = dialogo->size();
             for (const QAction *accion : dialogo->findChildren<QAction *>())
                 if (accion->isVisible())
                     visibles << accion->text();
             dialogo->close();
+            QCOMPARE(vista->pageCount(), 2);
+            QCOMPARE(vista->zoomMode(), QPrintPreviewWidget::FitToWidth);
+            QVERIFY(dialogo->width() > libre.width() * 0.8);
+            QVERIFY(dialogo->height() > libre.height() * 0.8);
         });
         o.manos->pulsar("btnVistaPrevia");
-        QCOMPARE(paginas, 2);
-        QCOMPARE(zoom, QPrintPreviewWidget::FitToWidth);
-        const QSize libre = o.pantalla->screen()->availableSize();
-        QVERIFY(tamano.width() > libre.width() * 0.8 && tamano.height() > libre.height() * 0.8);
         QVERIFY(visibles.contains(u"Zoom in") && !visibles.contains(u"Print"));
         QVERIFY(o.pantalla->isVisible());
     }
 
-    void queSeImprimeYDonde()
-    {
-        Opciones o(u"430"_s);
-        QCOMPARE(o.manos->texto("lblDeclaracion"),
-                 u"430 ENERO 2026\nA58818501 - ASEGURADORA UNO, S.A."_s);
-        if (!SalidaImpresora::hayImpresoras())
-            QCOMPARE(o.manos->texto("lblImpresora"), u"Impresora: ninguna"_s);
-        Entorno::pasarAEuskera(*o.pantalla);
-        QVERIFY(o.manos->texto("lblDeclaracion").startsWith(u"430 URTARRILA 2026"_s));
-        QCOMPARE(Opciones(u"480"_s).manos->texto("lblDeclaracion").section(u'\n', 0, 0),
-                 u"480 ANUAL 2026"_s);
-    }
-
     /// Saves as `elegido` in the real file dialogue and answers to what is told; what was proposed.
     static QString guardarComo(Opciones &o, const QString &elegido,
-                               const QList<QMessageBox::StandardButton> &respuestas)
+                               QMessageBox::StandardButton respuesta = QMessageBox::Ok)
     {
         QString propuesto;
         ficheros::observar([&](QFileDialog &dialogo) {
@@ -209,9 +204,7 @@ private Q_SLOTS:
             QTimer::singleShot(0, &dialogo,
                                [&dialogo] { static_cast<QDialog &>(dialogo).accept(); });
         });
-        for (const auto respuesta : respuestas)
-            o.mensajes.responder(respuesta);
-        o.manos->pulsar("btnGuardarPdf");
+        o.responderYPulsar(respuesta, "btnGuardarPdf");
         return propuesto;
     }
 
@@ -223,9 +216,8 @@ private Q_SLOTS:
             Opciones o(u"430"_s);
             QDir carpeta(salida.filePath(unoSolo ? u"uno"_s : u"dos"_s));
             QVERIFY(carpeta.mkpath(u"."_s));
-            o.boton("chkUnPdf")->setChecked(unoSolo);
-            const QString propuesto
-                = guardarComo(o, carpeta.filePath(u"x_AD-IT.pdf"_s), {QMessageBox::Ok});
+            o.manos->control<QAbstractButton>("chkUnPdf")->setChecked(unoSolo);
+            const QString propuesto = guardarComo(o, carpeta.filePath(u"x_AD-IT.pdf"_s));
             QCOMPARE(QFileInfo(propuesto).fileName(), u"430_2026-01_A58818501_AD-IT.pdf"_s);
             // the folder of the session's last one is proposed
             if (!anterior.isEmpty())
@@ -234,8 +226,7 @@ private Q_SLOTS:
             QCOMPARE(carpeta.entryList(QDir::Files).join(u' '),
                      unoSolo ? u"x_AD-IT.pdf"_s : u"x_AD.pdf x_IT.pdf"_s);
             const auto dicho = o.mensajes.tomar();
-            QCOMPARE(dicho.size(), 1);
-            QCOMPARE(dicho[0].icono, QMessageBox::Information);
+            QVERIFY(dicho.size() == 1 && dicho[0].icono == QMessageBox::Information);
             QVERIFY(dicho[0].texto.contains(unoSolo ? u"x_AD-IT.pdf"_s : u"x_IT.pdf"_s));
             QVERIFY(!o.pantalla->isVisible());
             QCOMPARE(o.siguiente, Pantalla::Resumen);
@@ -251,7 +242,7 @@ private Q_SLOTS:
             Opciones o(u"430"_s);
             QVERIFY(QDir().mkpath(o.entorno.ruta(u"salida"_s)));
             m_abierto.clear();
-            guardarComo(o, o.entorno.ruta(u"salida/y.pdf"_s), {boton});
+            guardarComo(o, o.entorno.ruta(u"salida/y.pdf"_s), boton);
             QCOMPARE(m_abierto, o.entorno.ruta(abierto));
         }
         QDesktopServices::unsetUrlHandler(u"file"_s);
@@ -261,13 +252,10 @@ private Q_SLOTS:
     void elFicheroPropioSeRechaza()
     {
         Opciones o(u"430"_s);
-        QFile modelo(rutas().datos);
-        QVERIFY(modelo.open(QIODevice::ReadOnly));
-        const QByteArray antes = modelo.readAll();
-        guardarComo(o, rutas().datos, {QMessageBox::Ok});
+        const QByteArray antes = bytes(rutas().datos);
+        guardarComo(o, rutas().datos);
         QVERIFY(o.mensajes.texto().contains(u"OstrMod.mdb"_s));
-        modelo.seek(0);
-        QCOMPARE(modelo.readAll(), antes);
+        QVERIFY(!antes.isEmpty() && bytes(rutas().datos) == antes);
         QVERIFY(o.pantalla->isVisible());
     }
 
@@ -279,30 +267,25 @@ private Q_SLOTS:
         const QString elegido = o.entorno.ruta(u"salida/z.pdf"_s);
         bool elegible = false;
         QTimer::singleShot(0, o.pantalla.get(), [&] {
-            auto *dialogo = QApplication::activeModalWidget();
+            auto *dialogo = qobject_cast<QDialog *>(QApplication::activeModalWidget());
             auto *impresoras = dialogo->findChild<QComboBox *>(u"printers"_s);
             auto *fichero = dialogo->findChild<QLineEdit *>(u"filename"_s);
-            elegible = impresoras && fichero && qobject_cast<QDialog *>(dialogo);
-            if (elegible) {
-                impresoras->setCurrentIndex(impresoras->count() - 1);
-                fichero->setText(elegido);
-                qobject_cast<QDialog *>(dialogo)->accept();
-            } else {
-                dialogo->close();
-            }
+            elegible = impresoras && fichero;
+            if (!elegible)
+                return dialogo->reject();
+            impresoras->setCurrentIndex(impresoras->count() - 1);
+            fichero->setText(elegido);
+            dialogo->accept();
         });
         o.manos->pulsar("btnOpcionesImpresora");
         if (!elegible)
             QSKIP("the printer dialogue of this platform is another one");
         QVERIFY(o.manos->texto("lblImpresora").contains(u"z.pdf"_s));
         o.manos->escribir("txtFechaPresentacion", u"31/12/2001"_s);
-        o.responderYPulsar(QMessageBox::Ok, "btnAceptar");
-        QCOMPARE(o.mensajes.texto(),
-                 u"La Fecha de presentación no puede ser anterior al 01/01/2002"_s);
+        QVERIFY(o.aviso("btnAceptar").startsWith(u"La Fecha de presentación"_s));
         QVERIFY(QDir(o.entorno.ruta(u"salida"_s)).isEmpty());
         o.manos->escribir("txtFechaPresentacion", u"01/01/2002"_s);
-        o.responderYPulsar(QMessageBox::Ok, "btnAceptar");
-        QVERIFY(o.mensajes.texto().contains(u"z_IT.pdf"_s));
+        QVERIFY(o.aviso("btnAceptar").contains(u"z_IT.pdf"_s));
         QCOMPARE(QDir(o.entorno.ruta(u"salida"_s)).entryList(QDir::Files).join(u' '),
                  u"z_AD.pdf z_IT.pdf"_s);
         QCOMPARE(peticion().FECHAPRE(), 20020101);

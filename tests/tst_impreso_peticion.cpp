@@ -20,11 +20,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("texto");
         QTest::addColumn<qint32>("fecha"); // 0 refused
         QTest::addColumn<QString>("mensaje");
-        QTest::newRow("C") << u"29/02/2024"_s << 20240229 << QString();
         QTest::newRow("C first") << u"01/01/2002"_s << 20020101 << QString();
-        QTest::newRow("C early") << u"31/12/2001"_s << 0
-                                 << u"La Fecha de presentación no puede ser anterior al "
-                                    "01/01/2002"_s;
+        QTest::newRow("C early")
+            << u"31/12/2001"_s << 0
+            << u"La Fecha de presentación no puede ser anterior al 01/01/2002"_s;
         QTest::newRow("C wrong") << u"29/02/2023"_s << 0
                                  << u"La Fecha de presentación introducida no es correcta"_s;
         QTest::newRow("E first") << u"2002/01/01"_s << 20020101 << QString();
@@ -35,36 +34,28 @@ private Q_SLOTS:
     void fechas()
     {
         QFETCH(QString, texto);
-        QFETCH(qint32, fecha);
-        QFETCH(QString, mensaje);
         cFecha formato;
         formato.fecidioma(QString::fromLatin1(QTest::currentDataTag()).first(1));
         fijarIdioma(formato.fecidioma() == u"E" ? Idioma::Euskera : Idioma::Castellano);
         const auto leida = comprobarFechaPresentacion(texto, formato);
-        QCOMPARE(leida.fecha, fecha);
-        QCOMPARE(leida.mensaje, mensaje);
-        if (fecha == 0)
-            QCOMPARE(leida.titulo, msj(Msj::TituloErrorDatosFecha));
+        QTEST(leida.fecha, "fecha");
+        QTEST(leida.mensaje, "mensaje");
+        QCOMPARE(leida.titulo, leida.fecha ? QString() : msj(Msj::TituloErrorDatosFecha));
     }
 
     void copias()
     {
-        const auto pedidas = [](const QString &modelo, const QString &tipo, const QString &adm,
-                                const QString &inter) {
+        // model, kind, copy for the administration, for the payer: what is printed
+        for (const QString &caso : u"430|O|X|X|AD IT,480|O|X||AD,480|O||X|IT,430|O|||,430|B|||BO,"
+                                   "999|O|X|X|"_s.split(u',')) {
+            const QStringList partes = caso.split(u'|');
             cImOf p;
-            p.MODELO(modelo);
-            p.TIPOIMP(tipo);
-            p.COPIAADM(adm);
-            p.COPIAINT(inter);
-            return copiasPedidas(p).join(u' ');
-        };
-        const QString x = u"X"_s;
-        QCOMPARE(pedidas(u"430"_s, u"O"_s, x, x), u"AD IT"_s);
-        QCOMPARE(pedidas(u"480"_s, u"O"_s, x, {}), u"AD"_s);
-        QCOMPARE(pedidas(u"480"_s, u"O"_s, {}, x), u"IT"_s);
-        QCOMPARE(pedidas(u"430"_s, u"O"_s, {}, {}), QString());
-        QCOMPARE(pedidas(u"430"_s, u"B"_s, {}, {}), u"BO"_s);
-        QCOMPARE(pedidas(u"999"_s, u"O"_s, x, x), QString());
+            p.MODELO(partes[0]);
+            p.TIPOIMP(partes[1]);
+            p.COPIAADM(partes[2]);
+            p.COPIAINT(partes[3]);
+            QCOMPARE(copiasPedidas(p).join(u' '), partes[4]);
+        }
     }
 
     void nombres()

@@ -33,6 +33,26 @@ inline qint32 guardarDistinta(qint32 csco, const QString &modelo)
                                              + figurasDistintas(modelo));
 }
 
+/// The returns stored for a declarant, as the summary lists them.
+inline Filas declaracionesDe(qint32 csco)
+{
+    Filas filas;
+    servicioDeclaracion()->dameResultado(filas, csco);
+    return filas;
+}
+
+/// Makes a return of 2026 of the declarant the one that the summary has chosen.
+inline void tomarCabecera(qint32 csco, const QString &modelo, quint8 periodo,
+                          const QString &dni = u"12345678Z"_s,
+                          const QString &nombre = u"SEGUROS UNO"_s)
+{
+    auto &cabecera = unico::la<cDecResumen>();
+    cabecera.TomarDeclarante(csco, dni, nombre);
+    cabecera.EJERCICIO(2026);
+    cabecera.CambiarModelo(modelo);
+    cabecera.PERIODO(periodo);
+}
+
 /// Stores a declarant and a return, every field different, and makes it the print request, as the
 /// summary does; the return's key.
 inline qint32 pedirImpresion(const QString &modelo)
@@ -43,11 +63,7 @@ inline qint32 pedirImpresion(const QString &modelo)
          u"DCH"_s, u"20"_s, u"20001"_s, u"001"_s, u"OTRO NOMBRE"_s, u"943111222"_s, 0, 0});
     const qint32 csco = servicioDeclarante()->ObtenerCodigoDeclarante(dni);
     const qint32 csde = guardarDistinta(csco, modelo);
-    auto &cabecera = unico::la<cDecResumen>();
-    cabecera.TomarDeclarante(csco, dni, u"ASEGURADORA UNO, S.A."_s);
-    cabecera.EJERCICIO(2026);
-    cabecera.CambiarModelo(modelo);
-    cabecera.PERIODO(modelo == u"480" ? 12 : 1);
+    tomarCabecera(csco, modelo, modelo == u"480" ? 12 : 1, dni, u"ASEGURADORA UNO, S.A."_s);
     auto &p = unico::la<cImOf>();
     p.CSCO(csco);
     p.CSDE(csde);

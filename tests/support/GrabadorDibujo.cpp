@@ -32,20 +32,11 @@ public:
             m_brocha = estado.brush();
     }
     void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override {}
-    void drawLines(const QLineF *lineas, int cuantas) override
+    void drawLines(const QLineF *, int) override {}
+    void drawPath(const QPainterPath &camino) override
     {
-        for (int i = 0; i < cuantas; ++i)
-            m_dueno.lineas += m_transformacion.map(lineas[i]);
-    }
-    void drawRects(const QRectF *rectas, int cuantos) override
-    {
-        for (int i = 0; i < cuantos; ++i)
-            anotar(rectas[i]);
-    }
-    void drawPath(const QPainterPath &camino) override { anotar(camino.boundingRect()); }
-    void drawPolygon(const QPointF *puntos, int cuantos, PolygonDrawMode) override
-    {
-        anotar(QPolygonF(QList<QPointF>(puntos, puntos + cuantos)).boundingRect());
+        m_dueno.recuadros += {m_transformacion.mapRect(camino.boundingRect()),
+                              m_brocha == QBrush(Qt::white, Qt::SolidPattern)};
     }
     void drawTextItem(const QPointF &base, const QTextItem &item) override
     {
@@ -56,12 +47,6 @@ public:
     }
 
 private:
-    void anotar(const QRectF &rect)
-    {
-        const bool blanco = m_brocha.style() == Qt::SolidPattern && m_brocha.color() == Qt::white;
-        m_dueno.recuadros += {m_transformacion.mapRect(rect), blanco};
-    }
-
     GrabadorDibujo &m_dueno;
     QTransform m_transformacion;
     QPen m_pluma;
@@ -84,21 +69,8 @@ QPaintEngine *GrabadorDibujo::paintEngine() const
 
 int GrabadorDibujo::metric(PaintDeviceMetric que) const
 {
-    switch (que) {
-    case PdmWidth:
-        return 2100;
-    case PdmHeight:
-        return 2970;
-    case PdmDpiX:
-    case PdmDpiY:
-    case PdmPhysicalDpiX:
-    case PdmPhysicalDpiY:
-        return Ppp;
-    case PdmDevicePixelRatio:
-        return 1;
-    case PdmDevicePixelRatioScaled:
-        return static_cast<int>(devicePixelRatioFScale());
-    default:
-        return 0;
-    }
+    static const QMap<PaintDeviceMetric, int> medidas{
+        {PdmWidth, 2100}, {PdmHeight, 2970},      {PdmDpiX, Ppp},
+        {PdmDpiY, Ppp},   {PdmPhysicalDpiX, Ppp}, {PdmPhysicalDpiY, Ppp}};
+    return medidas.contains(que) ? medidas[que] : QPaintDevice::metric(que);
 }

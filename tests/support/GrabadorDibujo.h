@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QColor>
-#include <QLineF>
 #include <QList>
 #include <QPaintDevice>
 #include <QRectF>
@@ -23,7 +22,6 @@ public:
     {
         QRectF caja;
         bool blanco = false; ///< filled with white
-        bool operator==(const Recuadro &) const = default;
     };
 
     GrabadorDibujo();
@@ -31,7 +29,6 @@ public:
 
     QList<Texto> textos;
     QList<Recuadro> recuadros;
-    QList<QLineF> lineas;
 
     QPaintEngine *paintEngine() const override;
 
