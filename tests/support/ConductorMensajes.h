@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QMessageBox>
+#include <QMetaEnum>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -45,6 +46,18 @@ public:
     {
         const auto cajas = tomar();
         return cajas.size() == 1 ? cajas.front().texto : QString();
+    }
+    /// The only box shown since the last call as "icon|title|text|default button".
+    QString ficha()
+    {
+        const auto cajas = tomar();
+        if (cajas.size() != 1)
+            return {};
+        const auto boton
+            = QMetaEnum::fromType<QMessageBox::StandardButtons>().valueToKey(cajas[0].porDefecto);
+        return QStringList{QVariant::fromValue(cajas[0].icono).toString(), cajas[0].titulo,
+                           cajas[0].texto, QString::fromLatin1(boton)}
+            .join(u'|');
     }
 
 private:

@@ -33,6 +33,15 @@ private:
     InicioSesion m_inicio;
 };
 
+/// A whole record in one text, "a|b|c".
+inline QString unidos(const QVariantList &valores)
+{
+    QStringList textos;
+    for (const QVariant &valor : valores)
+        textos += valor.toString();
+    return textos.join(u'|');
+}
+
 /// While it lives, the session's model database is nowhere to be found.
 class ModeloPerdido
 {
