@@ -6,13 +6,11 @@
 #include "server/Servidor.h"
 #include "support/ConductorMensajes.h"
 #include "support/Entorno.h"
+#include "support/LineasPrueba.h"
 #include "support/Manos.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QLabel>
 #include <QPointer>
 
@@ -47,29 +45,19 @@ private:
     std::optional<Entorno> m_entorno;
     std::optional<ConductorMensajes> m_mensajes;
 
-    static QWidget *ventana(const QString &nombre)
-    {
-        for (auto *una : QApplication::topLevelWidgets()) {
-            if (una->objectName() == nombre && una->isVisible())
-                return una;
-        }
-        return nullptr;
-    }
     /// Does something with a window as soon as it is there, while the start-up runs.
     static void cuandoEste(const QString &nombre, const std::function<void(QWidget &)> &accion)
     {
         auto *reloj = new QTimer(qApp);
-        reloj->setInterval(1);
-        connect(reloj, &QTimer::timeout, qApp, [=] {
-            if (auto *hallada = ventana(nombre)) {
+        connect(reloj, &QTimer::timeout, reloj, [=] {
+            if (auto *hallada = ventanaVisible(nombre)) {
                 reloj->deleteLater();
                 reloj->stop();
                 accion(*hallada);
             }
         });
-        reloj->start();
+        reloj->start(1);
     }
-    static QString idiomaGuardado() { return servicioDatos()->ObtenerIdioma(); }
 
 private Q_SLOTS:
     void init()
@@ -82,12 +70,6 @@ private Q_SLOTS:
         m_mensajes.reset();
         m_entorno.reset();
         fijarIdioma(Idioma::Castellano);
-    }
-
-    void esperasDelPrograma()
-    {
-        QCOMPARE(EsperasInicio().normal, 3000ms);
-        QCOMPARE(EsperasInicio().conBusqueda, 4000ms);
     }
 
     void terminaSinMensajesSiLoPideElServicio()
@@ -104,13 +86,11 @@ private Q_SLOTS:
 
     void inicioMuestraVersionYAbreLaVentana()
     {
-        QString version;
-        QString titulo;
-        bool lblActVisible = true;
+        QStringList visto;
         cuandoEste(u"frmInicio"_s, [&](QWidget &inicio) {
-            version = inicio.findChild<QLabel *>(u"lblVersion"_s)->text();
-            titulo = inicio.findChild<QLabel *>(u"lblTitulo"_s)->text();
-            lblActVisible = inicio.findChild<QLabel *>(u"lblAct"_s)->isVisible();
+            const Manos manos(inicio);
+            visto = QStringList{manos.texto("lblVersion"), manos.texto("lblTitulo"),
+                                manos.control("lblAct")->isVisible() ? u"buscando"_s : QString()};
         });
         bool buscado = false;
         Arranque arranque(Breves);
@@ -119,31 +99,30 @@ private Q_SLOTS:
         reloj.start();
         const auto principal = arranque.iniciar();
         QVERIFY(reloj.elapsed() >= Breves.normal.count());
-        QVERIFY(principal);
-        QVERIFY(principal->isVisible());
-        QVERIFY(!ventana(u"frmInicio"_s));
-        QCOMPARE(version, u"Bertsioa/Versión "_s + QCoreApplication::applicationVersion());
-        QCOMPARE(version.count(u'.'), 2);
-        QCOMPARE(titulo, u"Ostrel de Seguros"_s);
-        QVERIFY(!lblActVisible);
+        QVERIFY(principal && principal->isVisible());
+        QVERIFY(!ventanaVisible(u"frmInicio"_s));
+        QCOMPARE(visto,
+                 QStringList({u"Bertsioa/Versión "_s + qApp->applicationVersion(),
+                              u"Ostrel de Seguros"_s, QString()}));
+        QCOMPARE(qApp->applicationVersion().count(u'.'), 2);
         QVERIFY(!buscado);
     }
 
     void conActualizacionEsperaMasYAvisa()
     {
+        QCOMPARE(EsperasInicio().normal, 3000ms);
+        QCOMPARE(EsperasInicio().conBusqueda, 4000ms);
         servicioDatos()->GuardarActOnline(1);
         bool visibleMientras = false;
-        QPointer<QLabel> lblAct;
         Arranque arranque(Breves);
         arranque.buscarActualizacion = [&] {
-            lblAct = ventana(u"frmInicio"_s)->findChild<QLabel *>(u"lblAct"_s);
+            auto *lblAct = Manos(*ventanaVisible(u"frmInicio"_s)).control("lblAct");
             visibleMientras = lblAct->isVisible();
-            QTimer::singleShot(0, lblAct, [&] { visibleMientras &= lblAct->isHidden(); });
+            QTimer::singleShot(0, lblAct, [&, lblAct] { visibleMientras &= lblAct->isHidden(); });
         };
         QElapsedTimer reloj;
         reloj.start();
-        const auto principal = arranque.iniciar();
-        QVERIFY(principal);
+        QVERIFY(arranque.iniciar());
         QVERIFY(visibleMientras);
         QVERIFY(reloj.elapsed() >= Breves.conBusqueda.count());
     }
@@ -153,7 +132,7 @@ private Q_SLOTS:
         m_entorno.emplace(QString());
         QString antesDelInicio;
         cuandoEste(u"FrmIdioma"_s, [&](QWidget &eleccion) {
-            antesDelInicio = ventana(u"frmInicio"_s) ? u"tarde"_s : u"antes"_s;
+            antesDelInicio = ventanaVisible(u"frmInicio"_s) ? u"tarde"_s : u"antes"_s;
             QCOMPARE(eleccion.windowTitle(), u"Hautatu Hizkuntza/Selección de idioma"_s);
             const Manos manos(eleccion);
             QCOMPARE(manos.foco(), u"cmdeuskera"_s);
@@ -161,16 +140,16 @@ private Q_SLOTS:
             QCOMPARE(manos.foco(), u"chkActOnline"_s);
             manos.tecla(Qt::Key_Return);
             QCOMPARE(manos.foco(), u"cmdcastellano"_s);
-            manos.pulsar("chkActOnline");
-            QCOMPARE(servicioDatos()->ObtenerActOnline(), qint16(1));
-            manos.pulsar("chkActOnline");
-            QCOMPARE(servicioDatos()->ObtenerActOnline(), qint16(0));
+            for (const qint16 activa : {qint16(1), qint16(0)}) {
+                manos.pulsar("chkActOnline");
+                QCOMPARE(servicioDatos()->ObtenerActOnline(), activa);
+            }
             manos.pulsar("cmdeuskera");
         });
         const auto principal = Arranque(Breves).iniciar();
         QVERIFY(principal);
         QCOMPARE(antesDelInicio, u"antes"_s);
-        QCOMPARE(idiomaGuardado(), u"E"_s);
+        QCOMPARE(servicioDatos()->ObtenerIdioma(), u"E"_s);
         QCOMPARE(principal->windowTitle(), u"Aseguruen Ostrel"_s);
     }
 
@@ -181,7 +160,7 @@ private Q_SLOTS:
                    [&](QWidget &eleccion) { QTest::keyClick(&eleccion, Qt::Key_Escape); });
         const auto principal = Arranque(Breves).iniciar();
         QVERIFY(principal);
-        QCOMPARE(idiomaGuardado(), QString());
+        QCOMPARE(servicioDatos()->ObtenerIdioma(), QString());
         QCOMPARE(principal->windowTitle(), u"Ostrel de seguros"_s);
     }
 
@@ -190,19 +169,13 @@ private Q_SLOTS:
         const QByteArray basura("this is no database");
         fijarRutas(Rutas::desde(m_entorno->ruta(u"otra"_s)));
         QVERIFY(QDir().mkpath(rutas().tablas));
-        QFile danada(rutas().datos);
-        QVERIFY(danada.open(QIODevice::WriteOnly));
-        QCOMPARE(danada.write(basura), qint64(basura.size()));
-        danada.close();
-
+        lineas::escribir(rutas().datos, basura);
         m_mensajes->responder(QMessageBox::Ok);
-        const auto principal = Arranque(Breves).iniciar();
-        QVERIFY(principal);
+        QVERIFY(Arranque(Breves).iniciar());
         const QString texto = m_mensajes->texto();
-        QVERIFY2(texto.contains(u"OstrMod.mdb"), qPrintable(texto));
-        QVERIFY2(texto.contains(u"restaurar una copia"), qPrintable(texto));
-        QVERIFY(danada.open(QIODevice::ReadOnly));
-        QCOMPARE(danada.readAll(), basura);
+        QVERIFY2(texto.contains(u"OstrMod.mdb") && texto.contains(u"restaurar una copia"),
+                 qPrintable(texto));
+        QCOMPARE(lineas::leer(rutas().datos), basura);
     }
 };
 

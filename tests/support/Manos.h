@@ -7,6 +7,16 @@
 #include <QTest>
 #include <QTimer>
 
+/// The top-level window called `nombre`, when it can be seen.
+inline QWidget *ventanaVisible(const QString &nombre)
+{
+    for (auto *una : QApplication::topLevelWidgets()) {
+        if (una->objectName() == nombre && una->isVisible())
+            return una;
+    }
+    return nullptr;
+}
+
 /// The hands of a person at a screen: everything by the controls' names, with clicks and keys.
 class Manos
 {
