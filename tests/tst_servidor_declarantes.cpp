@@ -153,8 +153,7 @@ private Q_SLOTS:
         QCOMPARE(leer(), (QVariantList{claves[0], claves[3], claves[2], claves[1]}));
     }
 
-    // Each way of meeting a stored identifier, with one that repeats an earlier one of the same
-    // set.
+    // A stored identifier, with one that repeats an earlier one of the same set.
     void conjunto_data()
     {
         QTest::addColumn<Existentes>("existentes");
@@ -166,12 +165,6 @@ private Q_SLOTS:
         QTest::newRow("replace") << Existentes::Sustituir
                                  << QList<int>{Nuevo, Incorrecto, Sustituido, Sustituido, Nuevo}
                                  << QStringList{u"DOS"_s, u"NUEVA"_s, u"TRES"_s};
-        QTest::newRow("keep") << Existentes::Conservar
-                              << QList<int>{Nuevo, Incorrecto, Conservado, Conservado, Nuevo}
-                              << QStringList{u"TRES"_s, u"UNO"_s, u"VIEJA"_s};
-        QTest::newRow("look") << Existentes::Examinar
-                              << QList<int>{Nuevo, Incorrecto, Conservado, Nuevo, Nuevo}
-                              << QStringList{u"VIEJA"_s};
     }
     void conjunto()
     {
