@@ -85,7 +85,7 @@ private Q_SLOTS:
         r.abrir();
         QCOMPARE(cabecera().MODO(), u"L"_s);
         QVERIFY(r.manos->texto("lbldni").contains(u"12345678Z"_s));
-        QCOMPARE(r.manos->textos(u"lblnombre lblNumDecla"_s),
+        QCOMPARE(r.manos->textos("lblnombre lblNumDecla"),
                  u"SEGUROS UNO|4 declaraciones seleccionadas"_s);
         QCOMPARE(r.titulos(), u"Ejercicio|Período|Modelo|Importe"_s);
         QCOMPARE(r.fila(0), u"%1|2025|1|ENERO|430|1|0,00|1"_s.arg(r.claves[0]));
@@ -97,6 +97,18 @@ private Q_SLOTS:
             QVERIFY(r.manos->control(boton)->isEnabled());
         r.tecla(Qt::Key_Up);
         QCOMPARE(cabecera().CSDE(), r.claves[1]);
+        // back from an entry screen, the return is selected again
+        cabecera().ENTRADA(u"P"_s);
+        cabecera().CSDE(clave);
+        r.abrir();
+        QCOMPARE(cabecera().CSDE(), clave);
+        QCOMPARE(r.grid()->currentIndex().row(), 1);
+        QVERIFY(r.manos->control("cmdDatos")->isEnabled());
+        r.manos->pulsar("cmdDeclarante");
+        QCOMPARE(r.siguiente, Pantalla::DatosDeclarante);
+        const auto &datos = unico::la<cDecDatos>();
+        QCOMPARE(unidos({datos.MODO(), datos.CSCO(), datos.NUM430(), datos.NUM480()}),
+                 u"C|%1|3|1"_s.arg(r.csco));
     }
 
     /// The months left out before the one proposed stand beside it.
@@ -127,12 +139,7 @@ private Q_SLOTS:
         }
         QCOMPARE(cabecera().MODO() + r.propuesta(), u"L"_s);
         r.nueva(u"2025/430/FEBRERO"_s);
-    }
-
-    /// A list that cannot be read again leaves nothing to be opened or deleted.
-    void listaQueFalla()
-    {
-        Resumen r({1});
+        // a list that cannot be read again leaves nothing to be opened or deleted
         {
             const ModeloPerdido perdido;
             r.mensajes.responder(QMessageBox::Ok);
@@ -145,14 +152,6 @@ private Q_SLOTS:
         const ModeloPerdido perdido;
         QVERIFY_EXCEPTION_THROWN(FrmDecResumen(), ErrorDatos);
         QCOMPARE(int(cabecera().EJERCICIO()), 2024);
-    }
-
-    void propuesta()
-    {
-        Resumen r({12});
-        QCOMPARE(r.propuesta(), QString());
-        r.nueva(u"2025/480/ANUAL"_s);
-        QCOMPARE(cabecera().MODO() + r.manos->foco(), u"Ntxtejer"_s);
     }
 
     /// By hand, from an empty proposal; the last entry is committed by the press itself.
@@ -249,11 +248,13 @@ private Q_SLOTS:
 
     void abandonar()
     {
-        Resumen r({1});
+        Resumen r({12});
+        QCOMPARE(r.propuesta(), QString());
         // with what is proposed, and with something that is not in the list
         for (const bool conError : {false, true})
             for (const bool escape : {true, false}) {
-                r.manos->pulsar("ImgNueva");
+                r.nueva(u"2025/480/ANUAL"_s);
+                QCOMPARE(cabecera().MODO() + r.manos->foco(), u"Ntxtejer"_s);
                 if (conError)
                     r.manos->escribir("cmbperiodo", u"x9"_s);
                 if (escape)
@@ -343,27 +344,6 @@ private Q_SLOTS:
         QCOMPARE(r.mensajes.tomar()[1].texto,
                  msj(Msj::EliminadoEnOtraCopia, u"430 FEBRERO 2025"_s));
         QCOMPARE(r.filas(), 1);
-    }
-
-    /// Back from an entry screen, the return is selected again.
-    void volver()
-    {
-        Resumen r({1, 2, 3});
-        cabecera().ENTRADA(u"P"_s);
-        cabecera().CSDE(r.claves[1]);
-        r.abrir();
-        QCOMPARE(cabecera().CSDE(), r.claves[1]);
-        QCOMPARE(r.grid()->currentIndex().row(), 1);
-        QVERIFY(r.manos->control("cmdDatos")->isEnabled());
-    }
-
-    void declarante()
-    {
-        Resumen r({1});
-        r.manos->pulsar("cmdDeclarante");
-        QCOMPARE(r.siguiente, Pantalla::DatosDeclarante);
-        const auto &datos = unico::la<cDecDatos>();
-        QCOMPARE(unidos({datos.MODO(), datos.CSCO(), datos.NUM430()}), u"C|%1|1"_s.arg(r.csco));
     }
 
     void idioma()

@@ -23,15 +23,10 @@
 
 using namespace Qt::StringLiterals;
 
-static void comprobarPropuesta(const cDecResumen &resumen, int propuesta)
+/// The header as "exercise|period|periodicity|type|model".
+static QString cabeceraDe(const cDecResumen &r)
 {
-    const bool anual = propuesta % 100 == 13;
-    const int clase = propuesta == 0 ? 0 : anual ? 2 : 1;
-    QCOMPARE(int(resumen.EJERCICIO()), propuesta / 100);
-    QCOMPARE(int(resumen.PERIODO()), anual ? 12 : propuesta % 100);
-    QCOMPARE(int(resumen.PERIODICIDAD()), clase);
-    QCOMPARE(int(resumen.TIPOLOGIA()), clase);
-    QCOMPARE(resumen.MODELO(), QStringList({{}, u"430"_s, u"480"_s})[clase]);
+    return unidos({r.EJERCICIO(), r.PERIODO(), r.PERIODICIDAD(), r.TIPOLOGIA(), r.MODELO()});
 }
 
 /// Lookups in which the rates differ by the month: 20 + month; 26.126 and 7.014 in 2026.
@@ -73,12 +68,9 @@ private Q_SLOTS:
         QVERIFY(m_entorno->inicio().fallos.isEmpty());
         QVERIFY(m_entorno->inicio().primeraVez());
         const auto &entrada = unico::la<CEntrada>();
-        QCOMPARE(entrada.EJERMIN(), 2002);
-        QCOMPARE(entrada.PERMIN(), 1);
-        QCOMPARE(entrada.EJERMAX(), 2030);
-        QCOMPARE(entrada.PERMAX(), 12);
-        QCOMPARE(entrada.NUMDECLA(), 0);
-        QCOMPARE(desplazamientoIdioma(), qint16(0));
+        QCOMPARE(unidos({entrada.EJERMIN(), entrada.PERMIN(), entrada.EJERMAX(), entrada.PERMAX(),
+                         entrada.NUMDECLA(), desplazamientoIdioma()}),
+                 u"2002|1|2030|12|0|0"_s);
 
         Entorno::altaDeclarante();
         unico::la<CEntrada>().InicializarContadores();
@@ -88,16 +80,16 @@ private Q_SLOTS:
     void idiomaGuardaAntesDeCambiar()
     {
         auto &entrada = unico::la<CEntrada>();
+        const auto estado = [&entrada] {
+            return unidos({entrada.IDI(), desplazamientoIdioma(), unico::la<cFecha>().fecidioma()});
+        };
         {
             const ModeloPerdido perdido;
             QVERIFY_EXCEPTION_THROWN(entrada.IDI(u"E"_s), ErrorDatos);
-            QCOMPARE(entrada.IDI(), u"C"_s);
-            QCOMPARE(desplazamientoIdioma(), qint16(0));
-            QCOMPARE(unico::la<cFecha>().fecidioma(), u"C"_s);
+            QCOMPARE(estado(), u"C|0|C"_s);
         }
         entrada.IDI(u"E"_s);
-        QCOMPARE(desplazamientoIdioma(), qint16(10000));
-        QCOMPARE(unico::la<cFecha>().fecidioma(), u"E"_s);
+        QCOMPARE(estado(), u"E|10000|E"_s);
         CEntrada otra;
         otra.LeerIdioma();
         QCOMPARE(otra.IDI(), u"E"_s);
@@ -108,17 +100,13 @@ private Q_SLOTS:
         auto &d = unico::la<cDecDatos>();
         for (int vez = 0; vez < 2; ++vez) {
             d.MODO(u"A"_s);
-            QStringList valores;
-            for (const QVariant &valor : d.RegistroCompleto())
-                valores += valor.toString();
-            QCOMPARE(valores.join(u'|'), u"0|||CL||0|||||20|||||0|0"_s);
-            QCOMPARE(d.NOMPROV(), u"VARLENDA"_s);
+            QCOMPARE(unidos(d.RegistroCompleto() + Registro{d.NOMPROV()}),
+                     u"0|||CL||0|||||20|||||0|0|VARLENDA"_s);
             d.DNI(u"12345678Z"_s);
             d.CSCO(7);
         }
         d.MODO(u"C"_s);
-        QCOMPARE(d.DNI(), u"12345678Z"_s);
-        QCOMPARE(d.CSCO(), 7);
+        QCOMPARE(unidos({d.CSCO(), d.DNI()}), u"7|12345678Z"_s);
     }
 
     /// Seventeen different values, written and read through the table of the fields, twice: as a
@@ -134,11 +122,10 @@ private Q_SLOTS:
             QStringList lista;
             for (const auto &campo : campos::tabla)
                 lista += campos::leer(campo.campo, d);
-            return lista.join(u'|');
+            return lista.join(u'|') + u'|' + d.NOMPROV();
         };
-        const QString alta = u"A08000143|ÑANDÚ, S.A.|AV|UNA CALLE DE MAS DE VEINTE "
-                             u"LE.|99999|B|1|2|DCH|01|01001|003|"
-                             "OTRO|945000000"_s;
+        const QString alta = u"A08000143|ÑANDÚ, S.A.|AV|UNA CALLE DE MAS DE VEINTE LE.|99999|B|1|2|"
+                             "DCH|01|01001|003|OTRO|945000000"_s;
         const QString cambio
             = u"B66000004|ÇEDA|CL|MENOR|7|X|E|P|IZQ|48|48002|004|OTRO MAS|944111222"_s;
         cDecDatos d;
@@ -151,26 +138,20 @@ private Q_SLOTS:
         QVERIFY(csco > 0);
         leido.CargarDeclarante(csco);
         QCOMPARE(leido.CSCO(), -5);
-        QCOMPARE(valores(leido), alta + u"|0|0"_s);
-        QCOMPARE(leido.NOMPROV(), u"ÁLAVA"_s);
-
-        Entorno::altaDeclaracion(csco, 2026, 1);
-        Entorno::altaDeclaracion(csco, 2026, 2);
+        QCOMPARE(valores(leido), alta + u"|0|0|ÁLAVA"_s);
+        for (const quint8 mes : QList<quint8>{1, 2})
+            Entorno::altaDeclaracion(csco, 2026, mes);
         Entorno::altaDeclaracion(csco, 2025, 12, u"480"_s);
         leido.CSCO(csco);
         rellenar(leido, cambio);
         QCOMPARE(leido.GuardarDeclarante(leido.RegistroCompleto()), qint16(0));
         d.CargarDeclarante(csco);
-        QCOMPARE(valores(d), cambio + u"|2|1"_s);
-        QCOMPARE(d.NOMPROV(), u"VIZCAYA"_s);
+        QCOMPARE(valores(d), cambio + u"|2|1|VIZCAYA"_s);
         unico::la<CEntrada>().IDI(u"E"_s);
         d.LeerNombreProvincia();
         QCOMPARE(d.NOMPROV(), u"BIZKAIA"_s);
-        const QVariantList validacion = d.RegistroValidacion();
-        QStringList textos;
-        for (const QVariant &campo : validacion)
-            textos += campo.toString();
-        QCOMPARE(textos.join(u'|'), u"B66000004|ÇEDA|MENOR|48|48002|004|OTRO MAS|944111222"_s);
+        QCOMPARE(unidos(d.RegistroValidacion()),
+                 u"B66000004|ÇEDA|MENOR|48|48002|004|OTRO MAS|944111222"_s);
     }
 
     /// What cannot be read leaves the record as it was.
@@ -197,12 +178,10 @@ private Q_SLOTS:
         d.NOMMUN(u"ABRENZUOLA"_s);
         d.CambiarProvincia(u"20"_s, u"VARLENDA"_s);
         QVERIFY(d.enProvinciaPropia());
-        QCOMPARE(d.CODMUN(), u"001"_s);
-        QCOMPARE(d.NOMMUN(), QString());
+        QCOMPARE(unidos({d.CODPROV(), d.CODMUN(), d.NOMMUN()}), u"20|001|"_s);
         d.CambiarProvincia(u"1"_s, u"ÁLAVA"_s);
         QVERIFY(!d.enProvinciaPropia());
-        QCOMPARE(d.CODPROV(), u"01"_s);
-        QCOMPARE(d.CODMUN(), QString());
+        QCOMPARE(d.CODPROV() + d.CODMUN(), u"01"_s);
 
         const ListaCodigos provincias = cargarProvincias();
         QCOMPARE(provincias.size(), 52);
@@ -214,40 +193,40 @@ private Q_SLOTS:
         QCOMPARE(buscarCodigo(cargarVias(), u"CL"_s)->nombre, u"KALEA"_s);
     }
 
-    void propuesta_data()
-    {
-        QTest::addColumn<QList<int>>("guardadas"); // exercise × 100 + month, month 13 for the 480
-        QTest::addColumn<int>("propuesta"); // the same; 0 for none
-        QTest::newRow("no return") << QList<int>{} << 0;
-        for (int mes = 1; mes < 12; ++mes)
-            QTest::addRow("after month %d", mes) << QList{202600 + mes} << 202601 + mes;
-        QTest::newRow("480 after December") << QList{202612} << 202613;
-        QTest::newRow("January after the 480") << QList{202612, 202613} << 202701;
-        QTest::newRow("480 alone") << QList{202613} << 202701;
-        QTest::newRow("order of entry does not count") << QList{202605, 202512, 202603} << 202606;
-        QTest::newRow("last of the bounds") << QList{203011} << 203012;
-        QTest::newRow("480 of the last year") << QList{203012} << 203013;
-        QTest::newRow("beyond the bounds") << QList{203013} << 0;
-    }
-
+    /// Exercise × 100 + month, month 13 for the 480: what is stored, and then what is proposed.
     void propuesta()
     {
-        QFETCH(QList<int>, guardadas);
-        QFETCH(int, propuesta);
-        const qint32 csco = Entorno::altaDeclarante();
-        for (const int cual : guardadas) {
-            const bool anual = cual % 100 == 13;
-            Entorno::altaDeclaracion(csco, qint16(cual / 100), quint8(anual ? 12 : cual % 100),
-                                     anual ? u"480"_s : u"430"_s);
+        QStringList casos{u""_s};
+        for (int mes = 1; mes < 13; ++mes)
+            casos += u"%1 %2"_s.arg(202600 + mes).arg(202601 + mes);
+        // the last return decides, whatever the order of entry; 2030 is the last year
+        casos += u"202612 202613 202701;202613 202701;202605 202512 202603 202606;"
+                 "203011 203012;203012 203013;203013 0"_s.split(u';');
+        const auto modelo = [](int cual) { return cual % 100 == 13 ? u"480"_s : u"430"_s; };
+        const auto mes = [](int cual) { return quint8(std::min(cual % 100, 12)); };
+        for (const QString &caso : casos) {
+            m_entorno.emplace();
+            const qint32 csco = Entorno::altaDeclarante();
+            QStringList guardadas = caso.split(u' ', Qt::SkipEmptyParts);
+            const int propone = guardadas.isEmpty() ? 0 : guardadas.takeLast().toInt();
+            for (const QString &guardada : guardadas) {
+                const int cual = guardada.toInt();
+                Entorno::altaDeclaracion(csco, qint16(cual / 100), mes(cual), modelo(cual));
+            }
+            auto &resumen = unico::la<cDecResumen>();
+            resumen.TomarDeclarante(csco, u"12345678Z"_s, u"SEGUROS UNO"_s);
+            resumen.MODO(u"N"_s);
+            const int clase = propone % 100 == 13 ? 2 : 1;
+            const QString nada = u"0|0|0|0|"_s;
+            QCOMPARE(cabeceraDe(resumen),
+                     propone == 0
+                         ? nada
+                         : unidos({propone / 100, mes(propone), clase, clase, modelo(propone)}));
+            resumen.MODO(u"L"_s);
+            QCOMPARE(cabeceraDe(resumen), nada);
+            QCOMPARE(resumen.CargarDeclaraciones().size(), guardadas.size());
+            QCOMPARE(resumen.NUMDECLASEL(), int(guardadas.size()));
         }
-        auto &resumen = unico::la<cDecResumen>();
-        resumen.TomarDeclarante(csco, u"12345678Z"_s, u"SEGUROS UNO"_s);
-        resumen.MODO(u"N"_s);
-        comprobarPropuesta(resumen, propuesta);
-        resumen.MODO(u"L"_s);
-        comprobarPropuesta(resumen, 0);
-        QCOMPARE(resumen.CargarDeclaraciones().size(), guardadas.size());
-        QCOMPARE(resumen.NUMDECLASEL(), int(guardadas.size()));
     }
 
     void cabecera()
@@ -258,11 +237,9 @@ private Q_SLOTS:
         resumen.PERIODO(2);
         QCOMPARE(resumen.ValidarDatosComunes(resumen.Cabecera()), qint16(0));
         resumen.CambiarModelo(u"480"_s);
-        QCOMPARE(int(resumen.PERIODO()), 12);
-        QCOMPARE(int(resumen.PERIODICIDAD() + resumen.TIPOLOGIA()), 4);
+        QCOMPARE(cabeceraDe(resumen), u"2026|12|2|2|480"_s);
         resumen.CambiarModelo(u"430"_s);
-        QCOMPARE(int(resumen.PERIODO()), 0);
-        QCOMPARE(int(resumen.PERIODICIDAD() + resumen.TIPOLOGIA()), 2);
+        QCOMPARE(cabeceraDe(resumen), u"2026|0|1|1|430"_s);
         QCOMPARE(textoCabecera(0), QString());
         for (const qint16 codigo : QList<qint16>{1, 2, 3, 5})
             QCOMPARE(textoCabecera(codigo), textoMensaje(254 + codigo, Idioma::Castellano));
@@ -286,9 +263,9 @@ private Q_SLOTS:
             if (casilla)
                 QCOMPARE(int(*casilla), numero);
         }
-        QCOMPARE(numeroCasilla(Casilla480::C01_VIDA), u"01"_s);
-        QCOMPARE(controlCasilla(Casilla480::C50_OTR), u"txt50otr"_s);
-        QCOMPARE(controlCasilla(Casilla480::C73_BA1), u"txt73ba1"_s);
+        QCOMPARE(numeroCasilla(Casilla480::C01_VIDA) + controlCasilla(Casilla480::C50_OTR)
+                     + controlCasilla(Casilla480::C73_BA1),
+                 u"01txt50otrtxt73ba1"_s);
     }
 
     /// Every computed box refuses the change by which it would no longer fit, either sign.
@@ -402,13 +379,14 @@ private Q_SLOTS:
         QVERIFY(!anual.NumDecl430(mensuales));
         resumen.CambiarModelo(u"480"_s);
         // the service's order, by the numbers of the form
-        const QList<int> orden{1,  4,  7,  10, 13, 16, 19, 22, 25, 28, 31, 2,  5,  8,
-                               11, 14, 17, 20, 23, 26, 29, 32, 34, 37, 40, 43, 46, 49,
-                               52, 55, 58, 61, 64, 67, 35, 38, 41, 44, 47, 50, 53, 56,
-                               59, 62, 65, 68, 70, 73, 76, 79, 74, 77, 75, 78, 80, 81};
+        const QString orden
+            = u"1 4 7 10 13 16 19 22 25 28 31 2 5 8 11 14 17 20 23 26 29 32 34 37 40 "
+              "43 46 49 52 55 58 61 64 67 35 38 41 44 47 50 53 56 59 62 65 68 70 73 76 79 74 77 75 "
+              "78 80 81"_s;
         Registro figuras480;
         double columna2 = 0;
-        for (const int numero : orden) {
+        for (const QString &cual : orden.split(u' ')) {
+            const int numero = cual.toInt();
             if (numero == 74 || numero == 77) {
                 figuras480 += float(numero) / 10;
                 continue;

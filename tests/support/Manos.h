@@ -85,14 +85,6 @@ public:
         return partes.join(u'|');
     }
     QString texto(const char *nombre) const { return control(nombre)->property("text").toString(); }
-    /// Texts of several controls as "a|b|c", without the marks of the access keys.
-    QString textos(const QString &nombres) const
-    {
-        QStringList lista;
-        for (const QString &nombre : nombres.split(u' '))
-            lista += texto(nombre.toLatin1().constData()).remove(u'&').trimmed();
-        return lista.join(u'|');
-    }
 
     /// Name of the control with the focus.
     QString foco() const
