@@ -34,12 +34,6 @@ struct Formulario : PantallaAbierta<FrmDatos430>
         manos->tecla(Qt::Key_Tab);
         return manos->texto(caja);
     }
-    /// Presses a button and answers to the one message that it brings; the message's text.
-    QString aviso(const char *boton, QMessageBox::StandardButton respuesta = QMessageBox::Ok)
-    {
-        responderYPulsar(respuesta, boton);
-        return mensajes.texto();
-    }
     Filas filas() const { return declaracionesDe(csco); }
     /// What is stored: the figures of the only return, or nothing.
     Registro guardado() const
@@ -115,24 +109,19 @@ private Q_SLOTS:
     {
         Formulario f;
         const auto &m = *f.manos;
-        const auto cajas = [&m] {
-            QStringList textos;
-            for (const char *caja : {"txtbliq", "txtcliq", "txtbrect", "txtbtot", "txtctot"})
-                textos += m.texto(caja);
-            return textos.join(u' ');
-        };
+        const auto *cajas = "txtbliq txtcliq txtbrect txtbtot txtctot";
         m.escribir("txtbliq", u"1234,56"_s);
         m.tecla(Qt::Key_Enter);
         QCOMPARE(m.foco(), u"chkrect"_s);
-        QCOMPARE(cajas(), u"1.234,56 98,76  1.234,56 98,76"_s); // 98.7648
+        QCOMPARE(m.textos(cajas), u"1.234,56|98,76||1.234,56|98,76"_s); // 98.7648
         m.tecla(Qt::Key_Space);
         f.rellenar("txtbrect", u"-100"_s);
         QTest::keyClicks(m.control("txtcrect"), u"-8,76"_s);
         m.tecla(Qt::Key_Backtab);
         QCOMPARE(m.control<QLineEdit>("txtbrect")->selectedText(), u"-100,00"_s);
-        QCOMPARE(cajas(), u"1.234,56 98,76 -100,00 1.134,56 90,00"_s);
+        QCOMPARE(m.textos(cajas), u"1.234,56|98,76|-100,00|1.134,56|90,00"_s);
         m.pulsar("chkrect");
-        QCOMPARE(cajas(), u"1.234,56 98,76  1.234,56 98,76"_s);
+        QCOMPARE(m.textos(cajas), u"1.234,56|98,76||1.234,56|98,76"_s);
         QVERIFY(!m.control("txtbrect")->isEnabled() && !m.control("txtcrect")->isEnabled());
     }
 
@@ -228,11 +217,8 @@ private Q_SLOTS:
             unico::la<CEntrada>().IDI(idioma);
             f.manos->escribir(caja, u"10"_s);
             f.responderYPulsar(QMessageBox::Ok, "cmdAceptar");
-            const auto cajas = f.mensajes.tomar();
-            QCOMPARE(cajas.size(), 1);
-            QCOMPARE(cajas[0].texto, texto);
-            QCOMPARE(cajas[0].icono, QMessageBox::Warning);
-            QCOMPARE(cajas[0].titulo, u"Declaración - Liquidación 430"_s);
+            QCOMPARE(f.mensajes.ficha(),
+                     u"Warning|Declaración - Liquidación 430|%1|Ok"_s.arg(texto));
             QCOMPARE(f.manos->foco(), u"txtbrect"_s);
             f.manos->escribir(caja, {});
         }
@@ -314,17 +300,6 @@ private Q_SLOTS:
         QVERIFY(f.pantalla->isVisible() && f.filas().isEmpty());
     }
 
-    /// Only what differs from what was loaded asks before it is lost.
-    void sinCambiosNoPregunta()
-    {
-        Formulario f;
-        f.rellenar("txtbliq", u"7"_s);
-        QVERIFY(f.pantalla->perderia());
-        f.rellenar("txtbliq", {});
-        f.pantalla->close();
-        QVERIFY(!f.pantalla->isVisible());
-    }
-
     /// However long the name, the form is as wide as ever.
     void nombreLargo()
     {
@@ -359,6 +334,13 @@ private Q_SLOTS:
             QVERIFY(f.filas().isEmpty());
             QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_s);
         }
+        // what differs no more from what was loaded is not asked about
+        f.abrir(u"A"_s);
+        f.rellenar("txtbliq", u"7"_s);
+        QVERIFY(f.pantalla->perderia());
+        f.rellenar("txtbliq", {});
+        f.pantalla->close();
+        QVERIFY(!f.pantalla->isVisible());
     }
 };
 

@@ -32,11 +32,6 @@ struct Opciones : PantallaAbierta<FrmImOf>
         unico::la<cImOf>().PedirBorrador();
         abrir();
     }
-    QString aviso(const char *nombre)
-    {
-        responderYPulsar(QMessageBox::Ok, nombre);
-        return mensajes.texto();
-    }
     /// The marked choices, and the controls that cannot be used.
     QString marcas() const
     {
@@ -50,6 +45,7 @@ struct Opciones : PantallaAbierta<FrmImOf>
         }
         return lista.join(u' ');
     }
+    static cImOf &peticion() { return unico::la<cImOf>(); }
     QString fecha() const { return manos->texto("txtFechaPresentacion"); }
     /// The captions of the whole screen.
     QString rotulos() const
@@ -57,23 +53,14 @@ struct Opciones : PantallaAbierta<FrmImOf>
         QStringList lista{pantalla->windowTitle()};
         for (const char *grupo : {"frameTipoImpreso", "fraDestinatario", "fraFechaDePresentacion"})
             lista += manos->control(grupo)->property("title").toString();
-        for (const char *nombre :
-             {"optTipoImpreso0", "optTipoImpreso1", "chkCopiaInteresado", "chkCopiaAdministracion",
-              "btnOpcionesImpresora", "btnAceptar", "btnCancelar"})
-            lista += manos->texto(nombre);
+        lista += manos->textos(u"optTipoImpreso0 optTipoImpreso1 chkCopiaInteresado "
+                               "chkCopiaAdministracion btnOpcionesImpresora btnAceptar "
+                               "btnCancelar"_s);
         return lista.join(u'|').remove(u'&');
     }
 
     qint32 csde = 0;
 };
-
-static const QString ConDosCopias
-    = u"optTipoImpreso0 chkCopiaInteresado chkCopiaAdministracion chkUnPdf"_s;
-
-static cImOf &peticion()
-{
-    return unico::la<cImOf>();
-}
 
 /// The print options as a user meets them.
 class TstImpresoPantalla : public QObject
@@ -92,8 +79,9 @@ private Q_SLOTS:
         QCOMPARE(o.fecha(), QDate::currentDate().toString(u"dd/MM/yyyy"_s));
         QCOMPARE(unico::la<cDatos430>().CSDE(), o.csde);
         // the request starts afresh
-        QCOMPARE(peticion().TIPOIMP(), u"O"_s);
-        QCOMPARE(o.marcas(), ConDosCopias);
+        QCOMPARE(o.peticion().TIPOIMP(), u"O"_s);
+        QCOMPARE(o.marcas(),
+                 u"optTipoImpreso0 chkCopiaInteresado chkCopiaAdministracion chkUnPdf"_s);
         QCOMPARE(o.manos->texto("lblDeclaracion"),
                  u"430 ENERO 2026\nA58818501 - ASEGURADORA UNO, S.A."_s);
         if (!SalidaImpresora::hayImpresoras())
@@ -114,22 +102,22 @@ private Q_SLOTS:
     {
         Opciones o(u"480"_s);
         QCOMPARE(o.manos->texto("lblDeclaracion").section(u'\n', 0, 0), u"480 ANUAL 2026"_s);
-        for (const auto &[pulsado, marcas, pedidas] :
-             {std::tuple{"optTipoImpreso1",
-                         u"optTipoImpreso1 -chkCopiaInteresado -chkCopiaAdministracion -chkUnPdf"_s,
-                         u"B||"_s},
-              {"optTipoImpreso0", ConDosCopias, u"O|X|X"_s},
-              {"chkCopiaInteresado", u"optTipoImpreso0 chkCopiaAdministracion -chkUnPdf"_s,
-               u"O|X|"_s},
-              {"chkCopiaAdministracion",
-               u"optTipoImpreso0 -chkUnPdf -btnAceptar -PicAce -btnGuardarPdf"_s, u"O||"_s},
-              {"chkCopiaInteresado", u"optTipoImpreso0 chkCopiaInteresado -chkUnPdf"_s,
-               u"O||X"_s}}) {
-            o.manos->pulsar(pulsado);
-            QCOMPARE(o.marcas(), marcas);
-            QCOMPARE(peticion().TIPOIMP() + u'|' + peticion().COPIAADM() + u'|'
-                         + peticion().COPIAINT(),
-                     pedidas);
+        // what is pressed: what is marked or barred then; kind and copies asked for
+        for (const QString &caso :
+             u"optTipoImpreso1:optTipoImpreso1 -chkCopiaInteresado -chkCopiaAdministracion "
+             u"-chkUnPdf:B,"
+             "optTipoImpreso0:optTipoImpreso0 chkCopiaInteresado chkCopiaAdministracion "
+             "chkUnPdf:OAI,"
+             "chkCopiaInteresado:optTipoImpreso0 chkCopiaAdministracion -chkUnPdf:OA,"
+             "chkCopiaAdministracion:optTipoImpreso0 -chkUnPdf -btnAceptar -PicAce "
+             "-btnGuardarPdf:O,"
+             "chkCopiaInteresado:optTipoImpreso0 chkCopiaInteresado -chkUnPdf:OI"_s.split(u',')) {
+            const QStringList partes = caso.split(u':');
+            o.manos->pulsar(partes[0].toLatin1().constData());
+            QCOMPARE(o.marcas(), partes[1]);
+            QCOMPARE(o.peticion().TIPOIMP() + o.peticion().COPIAADM().replace(u'X', u'A')
+                         + o.peticion().COPIAINT().replace(u'X', u'I'),
+                     partes[2]);
         }
     }
 
@@ -152,7 +140,7 @@ private Q_SLOTS:
         QCOMPARE(o.aviso("btnVistaPrevia"),
                  u"La Fecha de presentación introducida no es correcta"_s);
         QVERIFY(o.pantalla->isVisible());
-        QCOMPARE(peticion().FECHAPRE(), 20260131);
+        QCOMPARE(o.peticion().FECHAPRE(), 20260131);
     }
 
     void cerrar()
@@ -225,9 +213,9 @@ private Q_SLOTS:
             anterior = carpeta.path();
             QCOMPARE(carpeta.entryList(QDir::Files).join(u' '),
                      unoSolo ? u"x_AD-IT.pdf"_s : u"x_AD.pdf x_IT.pdf"_s);
-            const auto dicho = o.mensajes.tomar();
-            QVERIFY(dicho.size() == 1 && dicho[0].icono == QMessageBox::Information);
-            QVERIFY(dicho[0].texto.contains(unoSolo ? u"x_AD-IT.pdf"_s : u"x_IT.pdf"_s));
+            const QString dicho = o.mensajes.ficha();
+            QVERIFY(dicho.startsWith(u"Information|"));
+            QVERIFY(dicho.contains(unoSolo ? u"x_AD-IT.pdf"_s : u"x_IT.pdf"_s));
             QVERIFY(!o.pantalla->isVisible());
             QCOMPARE(o.siguiente, Pantalla::Resumen);
         }
@@ -288,7 +276,7 @@ private Q_SLOTS:
         QVERIFY(o.aviso("btnAceptar").contains(u"z_IT.pdf"_s));
         QCOMPARE(QDir(o.entorno.ruta(u"salida"_s)).entryList(QDir::Files).join(u' '),
                  u"z_AD.pdf z_IT.pdf"_s);
-        QCOMPARE(peticion().FECHAPRE(), 20020101);
+        QCOMPARE(o.peticion().FECHAPRE(), 20020101);
         QVERIFY(!o.pantalla->isVisible());
     }
 

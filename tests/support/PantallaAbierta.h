@@ -31,6 +31,12 @@ template <class T> struct PantallaAbierta
         if (pantalla->isVisible())
             QApplication::setActiveWindow(pantalla.get());
     }
+    /// The same; the text of the one message that came.
+    QString aviso(const char *boton, QMessageBox::StandardButton respuesta = QMessageBox::Ok)
+    {
+        responderYPulsar(respuesta, boton);
+        return mensajes.texto();
+    }
 
     Entorno entorno;
     ConductorMensajes mensajes;
