@@ -23,17 +23,13 @@ static const QStringList Listar = partes("listar declaraciones --dni 12345678Z")
 /// A valid declarant's options, one of them changed, added, or left out (when `valor` is null).
 static QStringList opcionesAlta(const QString &cambiada = {}, const QString &valor = {})
 {
-    QMap<QString, QString> valores{
-        {u"dni"_s, u"12345678z"_s}, {u"nombre"_s, u"Seguros Ñandú"_s},
-        {u"codpos"_s, u"20001"_s},  {u"domicilio"_s, u"Mayor"_s},
-        {u"codmun"_s, u"1"_s},      {u"telefono"_s, u"943000000"_s},
-    };
-    if (!cambiada.isEmpty())
-        valores[cambiada] = valor;
-    QStringList opciones = partes("declarante alta");
-    for (const auto &[opcion, dado] : valores.asKeyValueRange())
-        if (!dado.isNull())
-            opciones += {u"--"_s + opcion, dado};
+    QStringList opciones = partes("declarante alta --dni 12345678z --nombre Seguros_Ñandú "
+                                  "--codpos 20001 --domicilio Mayor --codmun 1 "
+                                  "--telefono 943000000");
+    if (const auto lugar = opciones.indexOf(u"--"_s + cambiada); lugar > 0)
+        opciones.remove(lugar, 2);
+    if (!valor.isNull())
+        opciones += {u"--"_s + cambiada, valor};
     return opciones;
 }
 
