@@ -80,19 +80,15 @@ private Q_SLOTS:
 
     void redondeo()
     {
-        struct Caso
-        {
-            double valor;
-            int decimales;
-            double esperado;
-        };
-        for (const auto &[valor, decimales, esperado] :
-             {Caso{7407.36, 0, 7407}, Caso{7407.5, 0, 7408}, Caso{-7407.5, 0, -7408},
-              Caso{-740.4, 0, -740}, Caso{1.125, 2, 1.13}, Caso{1.0000005, 6, 1.000001},
-              Caso{1.23456789, 7, 1.23456789}, Caso{999999999999999, 0, 999999999999999},
-              Caso{-0.3, 0, 0}}) {
-            QVERIFY(redondear(valor, decimales) == esperado);
-            QCOMPARE(std::signbit(redondear(valor, decimales)), std::signbit(esperado));
+        // value, decimals, rounded
+        for (const QString &caso :
+             u"7407.36 0 7407|7407.5 0 7408|-7407.5 0 -7408|-740.4 0 -740|1.125 2 1.13|"
+             "1.0000005 6 1.000001|1.23456789 7 1.23456789|999999999999999 0 999999999999999|"
+             "-0.3 0 0"_s.split(u'|')) {
+            const QStringList n = caso.split(u' ');
+            const double valor = redondear(n[0].toDouble(), n[1].toInt());
+            QVERIFY2(valor == n[2].toDouble(), qPrintable(caso));
+            QCOMPARE(std::signbit(valor), n[2].startsWith(u'-'));
         }
         // 6.005 widens to a little above the half, 1.005 to a little below
         QCOMPARE(redondearTipo(6.005F), 6.01F);
@@ -145,11 +141,9 @@ private Q_SLOTS:
     void fechasVacias()
     {
         cFecha fecha;
-        QCOMPARE(fecha.FecVacia(), u"__/__/____"_s);
-        QCOMPARE(fecha.LongToString(9010203), u"03/02/0901"_s);
+        QCOMPARE(fecha.FecVacia() + fecha.LongToString(9010203), u"__/__/____03/02/0901"_s);
         fecha.fecidioma(u"E"_s);
-        QCOMPARE(fecha.FecVacia(), u"____/__/__"_s);
-        QCOMPARE(fecha.LongToString(9010203), u"0901/02/03"_s);
+        QCOMPARE(fecha.FecVacia() + fecha.LongToString(9010203), u"____/__/__0901/02/03"_s);
         QCOMPARE(fecha.miYear(), QDate::currentDate().year());
     }
 
@@ -213,8 +207,8 @@ private Q_SLOTS:
         QCOMPARE(motivo(u"otra/tubo"_s), otraCosa);
 #endif
         for (const QString &ruta :
-             {u"otra/OstrMod.mdb"_s, u"p/Tablas/Errores.txt"_s, u"p/Tablas/430.pdf"_s,
-              u"otra/nuevo.pdf"_s, u"otra/vuelta"_s, u"no hay/nuevo.pdf"_s})
+             u"otra/OstrMod.mdb|p/Tablas/Errores.txt|p/Tablas/430.pdf|otra/nuevo.pdf|otra/vuelta|"
+             "no hay/nuevo.pdf"_s.split(u'|'))
             QVERIFY2(motivo(ruta).isEmpty(), qPrintable(ruta));
         const QDir antes = QDir::current();
         QVERIFY(QDir::setCurrent(casa.filePath(u"p/Tablas"_s)));
