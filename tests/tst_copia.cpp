@@ -4,10 +4,8 @@
 #include "core/Servicios.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
-#include "dataservice/ErrorDatos.h"
 #include "server/Comprobacion.h"
 #include "server/Conexion.h"
-#include "server/Servidor.h"
 #include "support/ConductorMensajes.h"
 #include "support/Entorno.h"
 #include "support/ServidorPrueba.h"
@@ -17,7 +15,6 @@
 #include <QAction>
 #include <QDir>
 #include <QFileDialog>
-#include <QLabel>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QRegularExpression>
