@@ -352,11 +352,14 @@ private:
                 QString::fromUtf8(proceso.readAllStandardError())};
     }
 
-    /// The command fails with `codigo`, prints nothing else, and tells `motivo`.
+    /// The command fails with `codigo`, prints nothing else, and tells `motivo`: all that it tells
+    /// when that ends a line.
     void rechazar(const QStringList &argumentos, const char *motivo, int codigo = 1) const
     {
         const Salida salida = ostrel(argumentos);
-        QVERIFY2(!salida.error.isEmpty() && salida.error.startsWith(QString::fromUtf8(motivo)),
+        const QString esperado = QString::fromUtf8(motivo);
+        QVERIFY2(!salida.error.isEmpty() && salida.error.startsWith(esperado)
+                     && (!esperado.endsWith(u'\n') || salida.error == esperado),
                  qPrintable(salida.error));
         QCOMPARE(salida.texto, QString());
         QCOMPARE(salida.codigo, codigo);
