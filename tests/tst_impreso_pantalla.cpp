@@ -53,9 +53,9 @@ struct Opciones : PantallaAbierta<FrmImOf>
         QStringList lista{pantalla->windowTitle()};
         for (const char *grupo : {"frameTipoImpreso", "fraDestinatario", "fraFechaDePresentacion"})
             lista += manos->control(grupo)->property("title").toString();
-        lista += manos->textos(u"optTipoImpreso0 optTipoImpreso1 chkCopiaInteresado "
+        lista += manos->textos("optTipoImpreso0 optTipoImpreso1 chkCopiaInteresado "
                                "chkCopiaAdministracion btnOpcionesImpresora btnAceptar "
-                               "btnCancelar"_s);
+                               "btnCancelar");
         return lista.join(u'|').remove(u'&');
     }
 
