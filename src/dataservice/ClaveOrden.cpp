@@ -1,5 +1,7 @@
 #include "dataservice/ClaveOrden.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr QChar TildeDeLaEne(0x0303);
@@ -9,7 +11,10 @@ constexpr QChar DetrasDeTodaLetra(u'\x7f'); // "N" followed by it sorts after "N
 
 QString claveOrden(const QString &texto)
 {
-    const QString partido = texto.toUpper().normalized(QString::NormalizationForm_D);
+    const QString grande = texto.toUpper();
+    if (std::ranges::all_of(grande, [](QChar c) { return c.unicode() < 0x80; }))
+        return grande; // nothing to take apart: most names of a large import
+    const QString partido = grande.normalized(QString::NormalizationForm_D);
     QString clave;
     clave.reserve(partido.size());
     for (const QChar letra : partido) {

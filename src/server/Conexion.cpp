@@ -22,8 +22,10 @@ QHash<QString, PConexion> &abiertas()
 }
 
 // EXTRA: the removal of the journal is what commits, and it too has to survive a power cut.
+// 16 MiB of pages: a transaction of 5,000 declarants is written once, at its end.
 constexpr const char *Ajustes
-    = "PRAGMA foreign_keys = ON; PRAGMA journal_mode = DELETE; PRAGMA synchronous = EXTRA";
+    = "PRAGMA foreign_keys = ON; PRAGMA journal_mode = DELETE; PRAGMA synchronous = EXTRA;"
+      "PRAGMA cache_size = -16384";
 
 } // namespace
 
