@@ -14,6 +14,7 @@
 
 // Bytes of all kinds through reading, checking, storing, writing and reading again:
 //     fuzz_intercambio [SECONDS [SEED]]
+// Without a seed it begins at the same one every time, so that a run can be repeated; 0 takes any.
 // Ends the process, saying with what, when a stored line does not come out as it went in.
 
 static constexpr qsizetype Ancho = 153;
@@ -24,9 +25,9 @@ static QStringList comparable(const Registro &registro)
     QStringList textos;
     for (int campo = RegDeclarante::DNI; campo <= RegDeclarante::TELEFONO; ++campo)
         textos += registro.value(campo).toString().trimmed().toUpper();
-    bool nulo = textos[RegDeclarante::CODMUN - 1].toInt() == 0;
-    if (nulo)
-        textos[RegDeclarante::CODMUN - 1].clear();
+    // a file may fill its numbers with blanks
+    for (const int campo : {RegDeclarante::CODPROV, RegDeclarante::CODMUN})
+        textos[campo - 1] = QString::number(textos[campo - 1].toInt());
     textos[RegDeclarante::NUMERO - 1] = QString::number(textos[RegDeclarante::NUMERO - 1].toInt());
     return textos;
 }
@@ -113,8 +114,8 @@ static void mutar(QByteArray &texto, QRandomGenerator &azar)
 int main(int argc, char **argv)
 {
     const int segundos = argc > 1 ? std::atoi(argv[1]) : 2;
-    const quint32 numero
-        = argc > 2 ? quint32(std::atoi(argv[2])) : QRandomGenerator::global()->generate();
+    const quint32 pedido = argc > 2 ? quint32(std::atoi(argv[2])) : 1;
+    const quint32 numero = pedido != 0 ? pedido : QRandomGenerator::global()->generate();
     std::printf("seed %u\n", numero);
     QRandomGenerator azar(numero);
     const Entorno entorno;
