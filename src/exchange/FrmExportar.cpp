@@ -263,7 +263,7 @@ void FrmExportar::presentarListas()
         const Lista &lista = m_listas[cual];
         const int fila = lista.grid->currentIndex().row();
         lista.modelo->filas(estado().tabla(cual).filas());
-        lista.grid->selectRow(qBound(0, fila, lista.modelo->rowCount() - 1));
+        lista.grid->selectRow(qMin(qMax(0, fila), lista.modelo->rowCount() - 1));
         alSeleccionar(cual);
     }
     m_listas[Contri].resultado->setText(estado().lblResultado1());
