@@ -37,7 +37,9 @@ QString plegar(QString texto)
 bool contiene(QStringView texto, QStringView plegado)
 {
     const auto igual = [](QChar uno, QChar otro) { return plegar(uno) == otro; };
-    return std::ranges::search(texto, plegado, igual).begin() != texto.end() || plegado.isEmpty();
+    return plegado.isEmpty()
+        || std::search(texto.begin(), texto.end(), plegado.begin(), plegado.end(), igual)
+        != texto.end();
 }
 
 } // namespace busqueda

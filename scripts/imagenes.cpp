@@ -136,7 +136,7 @@ int main(int argc, char **argv)
     QDir().mkpath(salida);
     TextosQt textos;
     QApplication::installTranslator(&textos);
-    aplicarApariencia();
+    aplicarEstilo();
     fijarRutas(Rutas::desde(argumentos[1]));
     DialogosVentana dialogos;
     registrarServidor(&dialogos);
