@@ -11,7 +11,7 @@ constexpr QChar DetrasDeTodaLetra(u'\x7f'); // "N" followed by it sorts after "N
 
 QString claveOrden(const QString &texto)
 {
-    const QString grande = texto.toUpper();
+    QString grande = texto.toUpper();
     if (std::ranges::all_of(grande, [](QChar c) { return c.unicode() < 0x80; }))
         return grande; // nothing to take apart: most names of a large import
     const QString partido = grande.normalized(QString::NormalizationForm_D);

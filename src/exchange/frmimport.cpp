@@ -20,6 +20,7 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QPushButton>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
