@@ -106,7 +106,7 @@ QByteArray leerCabecera(const QString &ruta)
     QFile fichero(ruta);
     if (!fichero.open(QIODevice::ReadOnly))
         throw ErrorDatos(Fallo::Lectura, ruta, fichero.errorString());
-    const QByteArray cabecera = fichero.read(TamanoCabecera);
+    QByteArray cabecera = fichero.read(TamanoCabecera);
     if (fichero.error() != QFileDevice::NoError)
         throw ErrorDatos(Fallo::Lectura, ruta, fichero.errorString());
     return cabecera;

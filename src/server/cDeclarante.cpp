@@ -104,10 +104,11 @@ qint32 cDeclarante::dameResultado(Filas &filas, quint8 orden, qint16 idioma)
                         "FROM DECLARANTES");
     std::vector<std::pair<std::string, QVariant>> leidas;
     while (sentencia.fila()) {
-        const std::string dni = sentencia.texto(1).toStdString();
-        const std::string nombre = sentencia.texto(7).toStdString();
+        std::string clave = sentencia.texto(1).toStdString();
+        if (orden == PorNombre)
+            clave.insert(0, sentencia.texto(7).toStdString() + '\0');
         leidas.emplace_back(
-            orden == PorNombre ? nombre + '\0' + dni : dni,
+            std::move(clave),
             QVariant(QVariantList{sentencia.clave(0), sentencia.texto(1), sentencia.texto(2),
                                   sentencia.texto(3), provincias.value(sentencia.entero(4)),
                                   static_cast<double>(sentencia.entero(5)),

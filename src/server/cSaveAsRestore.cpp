@@ -49,7 +49,7 @@ QString apartar(const QString &ruta)
 {
     if (!QFile::exists(ruta))
         return {};
-    const QString nombre = nombreApartado(ruta);
+    QString nombre = nombreApartado(ruta);
     conservarComo(ruta, nombre);
     if (QFile::exists(ruta + u"-journal"_s))
         renombrar(ruta + u"-journal"_s, nombre + u"-journal"_s);
