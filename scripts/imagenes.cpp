@@ -4,7 +4,6 @@
 #include "app/DialogosVentana.h"
 #include "app/Estilo.h"
 #include "app/MDIOstrel.h"
-#include "app/TextosQt.h"
 #include "core/CEntrada.h"
 #include "core/Rutas.h"
 #include "core/Sesion.h"

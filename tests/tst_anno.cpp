@@ -1,5 +1,5 @@
 #include "app/MDIOstrel.h"
-#include "core/Periodos.h"
+#include "core/Textos.h"
 #include "declarants/cDecResumen.h"
 #include "support/ConductorMensajes.h"
 #include "support/Entorno.h"

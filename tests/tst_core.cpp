@@ -1,8 +1,6 @@
-#include "core/FiltroTeclas.h"
+#include "core/Caracteres.h"
 #include "core/Importe.h"
-#include "core/Redondeo.h"
 #include "core/Rutas.h"
-#include "core/RutasPropias.h"
 #include "core/Textos.h"
 #include "core/cFecha.h"
 

@@ -1,5 +1,5 @@
 #include "core/Importe.h"
-#include "core/Periodos.h"
+#include "core/Textos.h"
 #include "declarants/cDecResumen.h"
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"

@@ -1,4 +1,4 @@
-#include "core/Windows1252.h"
+#include "core/Caracteres.h"
 #include "exchange/LectorLineas.h"
 #include "exchange/LineaIntercambio.h"
 #include "support/LineasPrueba.h"

@@ -1,5 +1,5 @@
 #include "core/CEntrada.h"
-#include "core/Redondeo.h"
+#include "core/Importe.h"
 #include "core/Servicios.h"
 #include "core/Textos.h"
 #include "core/cFecha.h"

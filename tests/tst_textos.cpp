@@ -1,4 +1,3 @@
-#include "core/Periodos.h"
 #include "core/Textos.h"
 #include "resources/TablaMensajes.h"
 

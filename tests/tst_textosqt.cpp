@@ -1,4 +1,4 @@
-#include "app/TextosQt.h"
+#include "app/Estilo.h"
 #include "core/CEntrada.h"
 #include "support/Entorno.h"
 #include "widgets/Ficheros.h"

@@ -2,8 +2,6 @@
 
 #include "app/Estilo.h"
 #include "app/MDIOstrel.h"
-#include "app/TextosQt.h"
-#include "app/Version.h"
 #include "app/frmInicio.h"
 #include "core/Sesion.h"
 #include "core/Unico.h"
@@ -84,7 +82,7 @@ static void mostrarCentrada(QMainWindow &ventana)
 std::unique_ptr<MDIOstrel> Arranque::iniciar()
 {
     crearMutex();
-    QCoreApplication::setApplicationVersion(versionPrograma());
+    QCoreApplication::setApplicationVersion(QStringLiteral(OSTREL_VERSION));
     const auto sesion = prepararSesion();
     if (sesion.terminar)
         return nullptr;

@@ -1,11 +1,10 @@
 #include "app/MDIOstrel.h"
 
 #include "app/Arranque.h"
-#include "app/FondoMdi.h"
+#include "app/MarcoInterior.h"
 #include "app/Menus.h"
 #include "app/Pantallas.h"
 #include "app/Recientes.h"
-#include "app/Version.h"
 #include "core/CEntrada.h"
 #include "core/Servicios.h"
 #include "core/Sesion.h"
@@ -79,7 +78,7 @@ void MDIOstrel::conectar()
 void MDIOstrel::Anadir_captions()
 {
     setWindowTitle(msj(Msj::TituloVentana));
-    m_version->setText(msj(Msj::VersionPrograma, versionPrograma()));
+    m_version->setText(msj(Msj::VersionPrograma, QCoreApplication::applicationVersion()));
     m_menus->Anadir_captions();
     actualizarEstados();
 }

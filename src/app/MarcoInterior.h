@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMdiArea>
 #include <QMdiSubWindow>
 
 class PantallaBase;
@@ -23,4 +24,17 @@ protected:
 
 private:
     void traducirMenu();
+};
+
+/// The area that holds the screens, with the program's emblem on a calm background.
+class FondoMdi : public QMdiArea
+{
+    Q_OBJECT
+
+public:
+    explicit FondoMdi(QWidget *padre = nullptr);
+
+protected:
+    void changeEvent(QEvent *evento) override;
+    void paintEvent(QPaintEvent *evento) override;
 };

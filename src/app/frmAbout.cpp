@@ -1,6 +1,5 @@
 #include "app/frmAbout.h"
 
-#include "app/Version.h"
 #include "core/Textos.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Iconos.h"
@@ -48,7 +47,7 @@ void frmAbout::Anadir_captions()
     setWindowTitle(msj(Msj::TituloAcercaDe));
     m_lblTitulo->setText(msj(Msj::TituloPrograma));
     m_lblTexto->setText(msj(Msj::TextoAcercaDe));
-    m_lblVersion->setText(msj(Msj::VersionPrograma, versionPrograma()));
+    m_lblVersion->setText(msj(Msj::VersionPrograma, QCoreApplication::applicationVersion()));
     m_lblDiputacion->setText(msj(Msj::NombreDiputacion));
     m_cmdAceptar->setText(msj(Msj::BotonAceptar));
 }

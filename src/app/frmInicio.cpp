@@ -1,6 +1,5 @@
 #include "app/frmInicio.h"
 
-#include "app/Version.h"
 #include "core/Textos.h"
 #include "widgets/Dibujo.h"
 #include "widgets/Iconos.h"
@@ -55,7 +54,7 @@ frmInicio::frmInicio()
     lblDiputacion->setText(msj(Msj::NombreDiputacion));
     lblTitulo->setText(msj(Msj::TituloPrograma));
     lblLema->setText(msj(Msj::TextoAcercaDe));
-    lblVersion->setText(msj(Msj::InicioVersion) + u' ' + versionPrograma());
+    lblVersion->setText(msj(Msj::InicioVersion) + u' ' + QCoreApplication::applicationVersion());
     m_lblAct->setText(msj(Msj::InicioBuscandoActualizacion));
     m_lblAct->setAlignment(Qt::AlignRight);
     m_lblAct->hide();

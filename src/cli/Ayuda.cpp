@@ -1,4 +1,4 @@
-#include "cli/Ordenes.h"
+#include "cli/Orden.h"
 #include "core/Textos.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "cli/Cli.h"
 
 #include "cli/Linea.h"
-#include "cli/Ordenes.h"
+#include "cli/Orden.h"
 #include "core/Rutas.h"
 #include "core/Sesion.h"
 #include "core/Textos.h"

@@ -1,6 +1,11 @@
 #include "cli/Linea.h"
 
-#include "cli/Ordenes.h"
+#include "cli/Orden.h"
+#include "core/Caracteres.h"
+#include "core/Textos.h"
+#include "core/Unico.h"
+#include "declarants/cDecDatos.h"
+#include "declarants/cDecResumen.h"
 
 #include <QCommandLineParser>
 #include <QSet>
@@ -115,5 +120,30 @@ std::optional<Linea::Fallo> ajustar(Linea &linea, const Orden &orden)
     if (resto.isEmpty() && caben == 1 && !orden.argumento.startsWith(u'['))
         return Linea::Fallo{Msj::CliFaltaArgumento, orden.argumento.toString()};
     linea.argumentos.argumento = resto.value(0);
+    return {};
+}
+
+Resultado valorMalo(QStringView opcion, const QString &valor)
+{
+    return malUso(msj(Msj::CliValorNoValido, conGuiones(opcion), valor));
+}
+
+int numeroDado(const Argumentos &argumentos, QStringView opcion, int maximo)
+{
+    const QString texto = argumentos.valor(opcion);
+    const int valor = sonCifras(texto) ? texto.toInt() : 0;
+    return valor <= maximo ? valor : 0;
+}
+
+Rechazo tomarDeclarante(const QString &dni)
+{
+    auto &declarante = unico::la<cDecDatos>();
+    const qint32 csco = declarante.ObtenerCodigoDeclarante(dni.trimmed().toUpper());
+    if (csco == 0)
+        return rechazado(msj(Msj::CliDeclaranteNoExiste, dni));
+    declarante.MODO(Modo::Consulta);
+    declarante.CSCO(csco);
+    declarante.CargarDeclarante(csco);
+    unico::la<cDecResumen>().TomarDeclarante(csco, declarante.DNI(), declarante.NOMBRE());
     return {};
 }

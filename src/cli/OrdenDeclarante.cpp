@@ -1,5 +1,5 @@
-#include "cli/Valores.h"
-#include "core/FiltroTeclas.h"
+#include "cli/Linea.h"
+#include "core/Caracteres.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/CamposDeclarante.h"

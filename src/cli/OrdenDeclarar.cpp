@@ -1,6 +1,5 @@
-#include "cli/Valores.h"
+#include "cli/Linea.h"
 #include "core/Importe.h"
-#include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/MensajesDeclarante.h"

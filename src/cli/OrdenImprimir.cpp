@@ -1,6 +1,5 @@
-#include "cli/Valores.h"
-#include "core/Periodos.h"
-#include "core/RutasPropias.h"
+#include "cli/Linea.h"
+#include "core/Rutas.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "core/cFecha.h"

@@ -1,7 +1,6 @@
+#include "cli/Linea.h"
 #include "cli/Tabla.h"
-#include "cli/Valores.h"
 #include "core/Importe.h"
-#include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/cDecLista.h"

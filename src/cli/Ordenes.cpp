@@ -1,5 +1,4 @@
-#include "cli/Ordenes.h"
-
+#include "cli/Orden.h"
 #include "core/CEntrada.h"
 #include "core/Modos.h"
 #include "core/Textos.h"

@@ -7,7 +7,6 @@
 #include "declarants/cDecDatos.h"
 #include "declarants/cDecLista.h"
 #include "declarants/cDecResumen.h"
-#include "widgets/AccionesFilas.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Mensajes.h"

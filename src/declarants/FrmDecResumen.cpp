@@ -1,15 +1,14 @@
 #include "declarants/FrmDecResumen.h"
 
 #include "core/Importe.h"
-#include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/NuevaDeclaracion.h"
 #include "declarants/cDecResumen.h"
-#include "widgets/AccionesFilas.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Iconos.h"
 #include "widgets/ModeloFilas.h"
+#include "widgets/cUtilidadesGrid.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>

@@ -1,7 +1,6 @@
 // What the buttons, keys and rows of the summary do.
 
 #include "core/CEntrada.h"
-#include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "dataservice/ErrorDatos.h"

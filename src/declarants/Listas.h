@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ListaCodigos.h"
+#include "core/Busqueda.h"
 
 /// The pick lists in the session's language, by name.
 ListaCodigos cargarVias();

@@ -1,6 +1,5 @@
 #include "declarants/NuevaDeclaracion.h"
 
-#include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/cDecResumen.h"

@@ -1,8 +1,8 @@
 #include "declarants/cDecResumen.h"
 
 #include "core/CEntrada.h"
-#include "core/Periodos.h"
 #include "core/Servicios.h"
+#include "core/Textos.h"
 #include "core/Unico.h"
 
 /// The header's five elements of a service's row, from `primero` on.

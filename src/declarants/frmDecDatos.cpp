@@ -8,8 +8,8 @@
 #include "declarants/cDecResumen.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/CajaTexto.h"
-#include "widgets/CambioAjeno.h"
 #include "widgets/Disposicion.h"
+#include "widgets/Mensajes.h"
 #include "widgets/SelectorLista.h"
 
 #include <QPushButton>

@@ -1,7 +1,6 @@
 #include "declarations/GraficoCuotas.h"
 
 #include "core/Importe.h"
-#include "core/Periodos.h"
 #include "core/Textos.h"
 
 #include <QHelpEvent>

@@ -1,7 +1,6 @@
 #include "declarations/PanelMensuales.h"
 
 #include "core/Importe.h"
-#include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/cDecResumen.h"

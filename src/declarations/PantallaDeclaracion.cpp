@@ -1,7 +1,6 @@
 #include "declarations/PantallaDeclaracion.h"
 
 #include "core/Importe.h"
-#include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/MensajesDeclarante.h"

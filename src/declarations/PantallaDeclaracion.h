@@ -4,7 +4,7 @@
 #include "declarations/RegistroDeclaracion.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/CajaImporte.h"
-#include "widgets/CambioAjeno.h"
+#include "widgets/Mensajes.h"
 #include "widgets/PantallaBase.h"
 
 class QVBoxLayout;

@@ -1,6 +1,6 @@
 #include "declarations/cDatos430.h"
 
-#include "core/Redondeo.h"
+#include "core/Importe.h"
 #include "core/Servicios.h"
 #include "core/Unico.h"
 #include "declarations/RegistroDeclaracion.h"

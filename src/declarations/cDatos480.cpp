@@ -1,6 +1,6 @@
 #include "declarations/cDatos480.h"
 
-#include "core/Redondeo.h"
+#include "core/Importe.h"
 #include "core/Servicios.h"
 #include "core/Unico.h"
 #include "declarations/RegistroDeclaracion.h"

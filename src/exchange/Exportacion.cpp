@@ -1,6 +1,6 @@
 #include "exchange/Exportacion.h"
 
-#include "core/RutasPropias.h"
+#include "core/Rutas.h"
 #include "core/Textos.h"
 #include "dataservice/ErrorDatos.h"
 #include "exchange/FicheroSalida.h"

@@ -1,6 +1,6 @@
 #include "exchange/Importacion.h"
 
-#include "core/RutasPropias.h"
+#include "core/Rutas.h"
 #include "core/Servicios.h"
 #include "core/Textos.h"
 #include "dataservice/ErrorDatos.h"

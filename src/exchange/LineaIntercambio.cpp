@@ -1,7 +1,6 @@
 #include "exchange/LineaIntercambio.h"
 
-#include "core/FiltroTeclas.h"
-#include "core/Windows1252.h"
+#include "core/Caracteres.h"
 #include "declarants/CamposDeclarante.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "maintenance/PerfilPrivado.h"
 
-#include "core/Windows1252.h"
+#include "core/Caracteres.h"
 
 #include <QStringList>
 

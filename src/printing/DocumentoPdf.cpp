@@ -1,6 +1,6 @@
 #include "printing/DocumentoPdf.h"
 
-#include "core/RutasPropias.h"
+#include "core/Rutas.h"
 #include "core/Textos.h"
 #include "printing/TrabajoImpresion.h"
 

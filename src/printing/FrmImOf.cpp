@@ -1,6 +1,5 @@
 #include "printing/FrmImOf.h"
 
-#include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "core/cFecha.h"
@@ -11,7 +10,7 @@
 #include "printing/TrabajoImpresion.h"
 #include "printing/cImOf.h"
 #include "widgets/BarraBotones.h"
-#include "widgets/CajaFecha.h"
+#include "widgets/CajaTexto.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Mensajes.h"
 

@@ -1,6 +1,5 @@
 #include "dataservice/Codigos.h"
 #include "printing/Impreso.h"
-#include "printing/Membrete.h"
 #include "printing/Piezas.h"
 
 #include <array>

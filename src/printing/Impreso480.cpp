@@ -1,6 +1,5 @@
 #include "core/Textos.h"
 #include "printing/Impreso.h"
-#include "printing/Membrete.h"
 #include "printing/Tablas480.h"
 
 using namespace Qt::StringLiterals;

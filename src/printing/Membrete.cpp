@@ -1,5 +1,4 @@
-#include "printing/Membrete.h"
-
+#include "printing/Impreso.h"
 #include "printing/Piezas.h"
 
 #include <QPainterPath>

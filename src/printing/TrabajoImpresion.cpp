@@ -1,6 +1,5 @@
 #include "printing/TrabajoImpresion.h"
 
-#include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/cDecDatos.h"

@@ -1,7 +1,6 @@
 #include "printing/ValoresImpreso.h"
 
 #include "core/Importe.h"
-#include "core/Periodos.h"
 #include "core/Servicios.h"
 #include "core/Textos.h"
 #include "core/Unico.h"

@@ -1,6 +1,5 @@
 #include "printing/cImOf.h"
 
-#include "core/Periodos.h"
 #include "core/Textos.h"
 #include "core/cFecha.h"
 

@@ -1,7 +1,11 @@
 #include "widgets/CajaTexto.h"
 
-#include "core/FiltroTeclas.h"
+#include "core/Caracteres.h"
 #include "core/Textos.h"
+#include "core/Unico.h"
+#include "core/cFecha.h"
+
+#include <QEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -56,4 +60,50 @@ QString CajaTexto::admitir(QString &antes, const QString &insertado, QString &de
     else if (limpio.size() > hueco)
         avisarDescartado(msj(Msj::LimiteCasilla, QString::number(m_limite)));
     return limpio.left(hueco);
+}
+
+CajaFecha::CajaFecha(const QString &nombre, QWidget *padre)
+    : QLineEdit(padre)
+{
+    setObjectName(nombre);
+    ponerMascara();
+}
+
+void CajaFecha::ponerMascara()
+{
+    const auto &formato = unico::la<cFecha>();
+    m_idioma = formato.fecidioma();
+    setInputMask(formato.Mascara());
+}
+
+void CajaFecha::mostrarFecha(qint32 yyyymmdd)
+{
+    setText(unico::la<cFecha>().LongToString(yyyymmdd));
+}
+
+qint32 CajaFecha::fecha() const
+{
+    return unico::la<cFecha>().StringToLong(text());
+}
+
+void CajaFecha::changeEvent(QEvent *evento)
+{
+    const auto &formato = unico::la<cFecha>();
+    if (evento->type() == QEvent::LanguageChange && formato.fecidioma() != m_idioma) {
+        cFecha anterior;
+        anterior.fecidioma(m_idioma);
+        const qint32 valor = anterior.StringToLong(text());
+        ponerMascara();
+        if (valor != 0)
+            mostrarFecha(valor);
+        else
+            clear();
+    }
+    QLineEdit::changeEvent(evento);
+}
+
+void CajaFecha::focusInEvent(QFocusEvent *evento)
+{
+    QLineEdit::focusInEvent(evento);
+    selectAll();
 }

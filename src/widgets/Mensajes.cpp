@@ -1,12 +1,15 @@
 #include "widgets/Mensajes.h"
 
 #include "core/Textos.h"
+#include "widgets/PantallaBase.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QWidget>
+
+#include <utility>
 
 PunteroOcupado::PunteroOcupado()
 {
@@ -23,8 +26,6 @@ void avisarFallo(QWidget *pantalla, const QString &motivo)
     const QString titulo = pantalla ? pantalla->windowTitle() : msj(Msj::TituloVentana);
     mensajes::aviso(pantalla, titulo, msj(Msj::NoSePudoHacer, motivo));
 }
-
-#include <utility>
 
 namespace mensajes {
 
@@ -132,3 +133,24 @@ Respuesta preguntaDeVarias(QWidget *padre, const QString &titulo, const QString 
 }
 
 } // namespace mensajes
+
+Decision consultarGuardado(PantallaBase *pantalla, EstadoCarga estado, const QString &nombre)
+{
+    const QString titulo = pantalla->windowTitle();
+    if (estado == EstadoCarga::Igual)
+        return Decision::Guardar;
+    if (estado == EstadoCarga::Eliminado) {
+        mensajes::aviso(pantalla, titulo, msj(Msj::EliminadoEnOtraCopia, nombre));
+        return Decision::Seguir;
+    }
+    switch (mensajes::sustituir(pantalla, titulo, msj(Msj::PreguntaCambioAjeno, nombre))) {
+    case mensajes::Sustituir::Si:
+        return Decision::Guardar;
+    case mensajes::Sustituir::No:
+        pantalla->decir(msj(Msj::ConservadoLoGuardado, nombre));
+        return Decision::Conservar;
+    case mensajes::Sustituir::Cancelar:
+        break;
+    }
+    return Decision::Seguir;
+}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ListaCodigos.h"
+#include "core/Busqueda.h"
 
 #include <QFrame>
 

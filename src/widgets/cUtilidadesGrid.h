@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QLineEdit>
+#include <QList>
 
 #include <functional>
 
@@ -53,3 +55,16 @@ private:
     std::function<bool(const QString &)> m_filtrar;
     int m_columna = 0;
 };
+
+class QPushButton;
+class QTableView;
+
+/// What a button does to the row selected, from the row itself.
+struct AccionFila
+{
+    QPushButton *boton;
+    QKeySequence tecla; ///< pressed in the grid; may be empty
+};
+
+/// Gives the rows of a grid a context menu and keys that press these buttons.
+void ponerAcciones(QTableView *grid, const QList<AccionFila> &acciones);

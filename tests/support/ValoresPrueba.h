@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/Importe.h"
-#include "core/Redondeo.h"
 #include "printing/Impreso.h"
 #include "support/GrabadorDibujo.h"
 
