@@ -1,11 +1,9 @@
 #pragma once
 
-#include "widgets/PantallaBase.h"
-
-class QLabel;
+#include "widgets/PantallaInforme.h"
 
 /// The about box: title and version of the program.
-class frmAbout : public PantallaBase
+class frmAbout : public PantallaInforme
 {
     Q_OBJECT
 
@@ -19,5 +17,4 @@ private:
     QLabel *m_lblTexto;
     QLabel *m_lblVersion;
     QLabel *m_lblDiputacion;
-    QPushButton *m_cmdAceptar;
 };

@@ -4,59 +4,35 @@
 #include "core/Unico.h"
 #include "maintenance/cActOnline.h"
 #include "widgets/Disposicion.h"
-#include "widgets/Iconos.h"
 
 #include <QCheckBox>
-#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
 FrmSinConexion::FrmSinConexion(QWidget *padre)
-    : PantallaBase(u"FrmSinConexion"_s, padre)
-    , m_lblTituloC(nuevaEtiqueta(u"lblTituloC"_s, this))
-    , m_lblTituloE(nuevaEtiqueta(u"lblTituloE"_s, this))
-    , m_lblMensaje(nuevaEtiqueta(u"lblMensaje"_s, this))
-    , m_lblPista(nuevaEtiqueta(u"lblPista"_s, this))
-    , m_chkNoPreg(new QCheckBox(this))
-    , m_cmdContinuar(new QPushButton(this))
+    : PantallaInforme(u"FrmSinConexion"_s, Icono::Asistencia, 56, u"CmdContinuar"_s, padre)
+    , m_lblTituloE(anadirTexto(u"lblTituloE"_s))
+    , m_lblTituloC(anadirTexto(u"lblTituloC"_s))
+    , m_lblMensaje(anadirTexto(u"lblMensaje"_s))
 {
+    anadir(nuevaRaya(this));
+    m_lblPista = anadirTexto(u"lblPista"_s);
+    m_chkNoPreg = new QCheckBox(this);
     m_chkNoPreg->setObjectName(u"ChkNoPreg"_s);
-    m_cmdContinuar->setObjectName(u"CmdContinuar"_s);
-    disponer();
-    Anadir_captions();
-    m_chkNoPreg->setChecked(unico::la<cActOnline>().ActOnline() == 0);
-    // only for this session: it is stored when the preferences are accepted
-    connect(m_chkNoPreg, &QCheckBox::toggled, this,
-            [](bool no) { unico::la<cActOnline>().ActOnline(no ? 0 : 1); });
-    alPulsar(m_cmdContinuar, [this] { cerrarA(Pantalla::Ninguna); });
-    m_cmdContinuar->setFocus();
-}
-
-void FrmSinConexion::disponer()
-{
+    anadir(m_chkNoPreg);
     for (auto *titulo : {m_lblTituloE, m_lblTituloC})
         agrandarLetra(titulo, 1.3);
     for (auto *texto : {m_lblMensaje, m_lblPista}) {
         texto->setWordWrap(true);
         texto->setMinimumWidth(52 * fontMetrics().averageCharWidth());
     }
-    auto *dibujo = new QLabel(this);
-    dibujo->setPixmap(icono(Icono::Asistencia).pixmap(QSize(56, 56), devicePixelRatioF()));
-
-    auto *rejilla = new QGridLayout(this);
-    rejilla->setContentsMargins(MargenDialogo);
-    rejilla->setHorizontalSpacing(20);
-    rejilla->setVerticalSpacing(10);
-    rejilla->addWidget(dibujo, 0, 0, 2, 1, Qt::AlignTop);
-    rejilla->addWidget(m_lblTituloE, 0, 1);
-    rejilla->addWidget(m_lblTituloC, 1, 1);
-    rejilla->addWidget(m_lblMensaje, 2, 1);
-    rejilla->addWidget(nuevaRaya(this), 3, 0, 1, 2);
-    rejilla->addWidget(m_lblPista, 4, 1);
-    rejilla->addWidget(m_chkNoPreg, 5, 1);
-    rejilla->addWidget(m_cmdContinuar, 6, 1, Qt::AlignRight);
+    Anadir_captions();
+    m_chkNoPreg->setChecked(unico::la<cActOnline>().ActOnline() == 0);
+    // only for this session: it is stored when the preferences are accepted
+    connect(m_chkNoPreg, &QCheckBox::toggled, this,
+            [](bool no) { unico::la<cActOnline>().ActOnline(no ? 0 : 1); });
 }
 
 void FrmSinConexion::Anadir_captions()
@@ -70,5 +46,5 @@ void FrmSinConexion::Anadir_captions()
     m_lblMensaje->setText(msj(mensaje));
     m_lblPista->setText(msj(Msj::PistaSinConexion));
     m_chkNoPreg->setText(msj(Msj::NoBuscarAlIniciar));
-    m_cmdContinuar->setText(msj(Msj::BotonContinuar));
+    m_cmdCerrar->setText(msj(Msj::BotonContinuar));
 }

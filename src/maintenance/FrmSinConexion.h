@@ -1,14 +1,12 @@
 #pragma once
 
-#include "widgets/PantallaBase.h"
+#include "widgets/PantallaInforme.h"
 
 class QCheckBox;
-class QLabel;
-class QPushButton;
 
 /// Says in both languages why it is not known whether a newer version is published: what SitAct of
 /// cActOnline says.
-class FrmSinConexion : public PantallaBase
+class FrmSinConexion : public PantallaInforme
 {
     Q_OBJECT
 
@@ -18,9 +16,6 @@ public:
     void Anadir_captions() override;
 
 private:
-    void disponer();
-
-    QLabel *m_lblTituloC, *m_lblTituloE, *m_lblMensaje, *m_lblPista;
+    QLabel *m_lblTituloE, *m_lblTituloC, *m_lblMensaje, *m_lblPista;
     QCheckBox *m_chkNoPreg;
-    QPushButton *m_cmdContinuar;
 };
