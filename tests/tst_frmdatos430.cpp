@@ -246,6 +246,11 @@ private Q_SLOTS:
         f.manos->escribir("txtbrect", u"1.23.4"_s);
         QCOMPARE(f.aviso("chkrect"), u"«1.23.4» no es un importe."_s);
         const auto *marca = f.manos->control<QAbstractButton>("chkrect");
+        QTRY_COMPARE(f.manos->foco(), u"txtbrect"_s);
+        f.mensajes.responder(QMessageBox::Ok); // once, although the key moves the focus too
+        f.manos->tecla(Qt::Key_R, Qt::AltModifier);
+        QTRY_VERIFY(!marca->isDown());
+        QTRY_COMPARE(f.manos->foco(), u"txtbrect"_s);
         QVERIFY(marca->isChecked());
         QCOMPARE(unico::la<cDatos430>().RECTIFICA(), u"X"_s);
         QCOMPARE(f.manos->texto("txtbrect"), u"1.23.4"_s);
@@ -298,6 +303,13 @@ private Q_SLOTS:
         QCOMPARE(f.aviso("cmdAceptar"),
                  u"«430 ENERO 2026» ya no existe: se ha eliminado en otra copia del programa."_s);
         QVERIFY(f.pantalla->isVisible() && f.filas().isEmpty());
+        unico::la<cDecResumen>().CSDE(csde);
+        try {
+            unico::la<cDatos430>().CargarDeclaracion(csde);
+            QFAIL("loaded");
+        } catch (const ErrorDatos &error) {
+            QCOMPARE(error.objeto(), u"430 ENERO 2026"_s);
+        }
     }
 
     /// However long the name, the form is as wide as ever.

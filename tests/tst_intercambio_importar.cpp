@@ -260,7 +260,8 @@ private Q_SLOTS:
         QCOMPARE(hecho.lineas, 1);
         QCOMPARE(lineas::leer(ruta()), lineas::fichero(1, 1));
         e.FICHEROAEXPORTAR(m_entorno->ruta(u"no/hay"_s));
-        QVERIFY(e.EscribirFichero([](qint64) { return true; }).motivo.contains(u"no/hay"));
+        QCOMPARE(e.EscribirFichero([](qint64) { return true; }).motivo,
+                 msj(Msj::FalloNoExiste, m_entorno->ruta(u"no"_s)));
     }
 
 private:

@@ -367,6 +367,20 @@ private Q_SLOTS:
         QCOMPARE(m_mensajes->tomar().size(), 1); // the question of the frame
     }
 
+    /// Nor does a summary that cannot be shown any more.
+    void cancelarSinResumen()
+    {
+        Entorno::altaDeclarante();
+        abrirPrograma();
+        elegir("mnuDeclarante", "d1");
+        Manos(*pantalla("FrmDecResumen")).pulsar("cmdDeclarante");
+        const ModeloPerdido perdido;
+        m_mensajes->responder(QMessageBox::Ok);
+        Manos(*pantalla("frmDecDatos")).pulsar("cmdCancelar");
+        QVERIFY(m_mensajes->texto().contains(u"OstrMod.mdb"_s));
+        QTRY_COMPARE(pantallas(), QStringList());
+    }
+
     /// Frames fit into the window; where it is small, whatever has the focus can be seen.
     void losMarcosCabenYElFocoQuedaALaVista()
     {

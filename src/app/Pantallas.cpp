@@ -2,8 +2,10 @@
 
 #include "app/MarcoInterior.h"
 
+#include <QGuiApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -13,6 +15,7 @@ Pantallas::Pantallas(QMdiArea *area, QWidget *ventana)
     , m_ventana(ventana)
 {
     connect(this, &Pantallas::cambiadas, this, &Pantallas::suspenderOtras);
+    connect(m_area, &QMdiArea::subWindowActivated, this, &Pantallas::devolverDelante);
 }
 
 PantallaBase *Pantallas::pantalla(Pantalla cual) const
@@ -170,6 +173,19 @@ void Pantallas::suspenderOtras()
         auto *abierta = pantalla(cual);
         if (abierta && !abierta->isModal())
             abierta->suspender(editan && !abierta->edita());
+    }
+}
+
+/// A press on a screen that waits must not hide the one that it waits for.
+void Pantallas::devolverDelante(const QMdiSubWindow *pulsada)
+{
+    const auto *contenido = pulsada ? pulsada->widget() : nullptr;
+    if (!contenido || contenido->isEnabled() || !QGuiApplication::mouseButtons())
+        return;
+    for (const Pantalla cual : m_abiertas.keys()) {
+        auto *abierta = pantalla(cual);
+        if (abierta && abierta->edita())
+            QTimer::singleShot(0, abierta, [=, this] { mostrarDelante(abierta); });
     }
 }
 

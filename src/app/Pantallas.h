@@ -59,6 +59,7 @@ private:
     void traerDelante(PantallaBase *abierta);
     void mostrarDelante(PantallaBase *abierta);
     void suspenderOtras();
+    void devolverDelante(const QMdiSubWindow *pulsada);
     void olvidar(const PantallaBase *desaparecida);
     void avisarCambio(const PantallaBase *autora, qint32 csco);
 

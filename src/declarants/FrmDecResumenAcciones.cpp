@@ -218,7 +218,7 @@ void FrmDecResumen::eliminar()
     if (!mensajes::pregunta(this, titulo, msj(Msj::PreguntaBorrarDeclaracion, ejercicio, periodo)))
         return;
     abandonarNueva();
-    const QString nombre = u"%1 %2 %3"_s.arg(fila.modelo, periodo, ejercicio);
+    const QString nombre = fila.nombre();
     if (borrar(fila))
         decir(msj(Msj::DeclaracionEliminada, nombre));
     else

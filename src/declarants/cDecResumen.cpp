@@ -31,6 +31,11 @@ static void avanzar(CabeceraListada &c)
     }
 }
 
+QString CabeceraListada::nombre() const
+{
+    return modelo + u' ' + textoPeriodo(periodicidad, periodo) + u' ' + QString::number(ejercicio);
+}
+
 /// Months counted on over the years.
 static int cuentaDeMes(const CabeceraListada &c)
 {

@@ -13,6 +13,9 @@ struct CabeceraListada
     quint8 periodo = 0; ///< month; 12 for an annual return
     QString modelo; ///< "430", "480" or empty
     quint8 tipologia = 0; ///< 1 model 430, 2 model 480, 0 none
+
+    /// "430 ENERO 2026", in the session's language.
+    QString nombre() const;
 };
 
 /// A month without its 430.
@@ -76,6 +79,9 @@ public:
 
     /// A stored return becomes the one in hand.
     void TomarDeclaracion(const DeclaracionListada &declaracion);
+
+    /// Name of the return in hand.
+    QString NombreDeclaracion() const { return m.nombre(); }
 
     /// The declarant's returns, oldest first; sets NUMDECLASEL.
     QList<DeclaracionListada> CargarDeclaraciones();

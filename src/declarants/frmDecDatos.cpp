@@ -292,7 +292,7 @@ void frmDecDatos::entregar()
 
 void frmDecDatos::cancelar()
 {
-    cerrarA(alCerrarMarco());
+    abandonarA(alCerrarMarco());
 }
 
 Pantalla frmDecDatos::alCerrarMarco()

@@ -3,6 +3,7 @@
 #include "core/Importe.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
+#include "dataservice/Codigos.h"
 #include "declarations/cDatos430.h"
 
 #include <QCheckBox>
@@ -144,12 +145,12 @@ void FrmDatos430::showEvent(QShowEvent *evento)
 
 bool FrmDatos430::ValidarCampos()
 {
-    const qint16 codigo = registro().ValidarDatos430(registro().RegistroValidar());
-    if (codigo == 1 || codigo == 2) {
+    const Regla430 regla{registro().ValidarDatos430(registro().RegistroValidar())};
+    if (regla == Regla430::BaseRectificada || regla == Regla430::CuotaRectificada) {
         aviso(msj(Msj::ErrorRectificacion430));
         m_lineas[RECTIFICACION].base->setFocus(Qt::OtherFocusReason);
     }
-    return codigo == 0;
+    return regla == Regla430::Ninguna;
 }
 
 qint32 FrmDatos430::GuardarDeclaracion()

@@ -3,6 +3,7 @@
 #include "core/Importe.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
+#include "dataservice/Codigos.h"
 #include "declarants/cDecResumen.h"
 #include "declarations/PanelMensuales.h"
 #include "declarations/cDatos480.h"
@@ -172,12 +173,12 @@ void FrmDatos480c::showEvent(QShowEvent *evento)
 
 bool FrmDatos480c::ValidarCampos()
 {
-    const qint16 codigo = registro().ValidarDatos480(registro().RegistroValidar());
-    if (codigo == 2) {
+    const Regla480 regla{registro().ValidarDatos480(registro().RegistroValidar())};
+    if (regla == Regla480::TotalNoExento) {
         aviso(msj(Msj::ErrorTotal480));
         caja(C73_BA1)->setFocus(Qt::OtherFocusReason);
     }
-    return codigo == 0;
+    return regla == Regla480::Ninguna;
 }
 
 qint32 FrmDatos480c::GuardarDeclaracion()

@@ -172,14 +172,12 @@ bool PantallaDeclaracion::tomar(const std::function<bool()> &cambio)
 
 void PantallaDeclaracion::cerrarComoCancelar()
 {
-    cerrarA(alCerrarMarco());
+    abandonarA(alCerrarMarco());
 }
 
 QString PantallaDeclaracion::nombreDeclaracion()
 {
-    const auto &c = unico::la<cDecResumen>();
-    return c.MODELO() + u' ' + textoPeriodo(c.PERIODICIDAD(), c.PERIODO()) + u' '
-        + QString::number(c.EJERCICIO());
+    return unico::la<cDecResumen>().NombreDeclaracion();
 }
 
 /// Why a save was refused: another copy of the program has stored or deleted it meanwhile.

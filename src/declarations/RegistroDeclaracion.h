@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Servicios.h"
 #include "core/Unico.h"
 #include "dataservice/Registros.h"
 #include "declarants/cDecResumen.h"
@@ -14,6 +15,17 @@ inline Registro cabeceraGuardar(qint32 csde)
     const auto &c = unico::la<cDecResumen>();
     return {csde,        c.CSCO(),   c.EJERCICIO(), c.PERIODICIDAD(),
             c.PERIODO(), c.MODELO(), c.TIPOLOGIA()};
+}
+
+/// Loads the return `csde` by a method of the service; one that is not stored any more is told by
+/// its name.
+template <class Metodo> Registro cargarDeclaracion(qint32 csde, Metodo cargar)
+{
+    const auto &c = unico::la<cDecResumen>();
+    Registro registro;
+    nombrando(c.CSDE() == csde ? c.NombreDeclaracion() : QString(),
+              [&] { (*servicioDeclaracion().*cargar)(csde, registro); });
+    return registro;
 }
 
 /// Carries out `cambio` on a return's record and recomputes it. When a total no longer fits its box

@@ -60,9 +60,8 @@ void cDatos430::CUOTATOT(double centimos)
 
 void cDatos430::CargarDeclaracion(qint32 codigo)
 {
-    Registro r;
     const QByteArray huella = servicioDeclaracion()->Huella(codigo);
-    servicioDeclaracion()->Cargar430(codigo, r);
+    const auto r = cargarDeclaracion(codigo, &SvrOstr::cDeclaracion::Cargar430);
     m.rectifica = r.value(Reg430::RECTIFICA).toString();
     m.baseliq = r.value(Reg430::BASELIQ).toDouble();
     m.tipoliq = r.value(Reg430::TIPOLIQ).toFloat();

@@ -59,9 +59,8 @@ void cDatos480::C77_TI2(float tipo)
 
 void cDatos480::CargarDeclaracion(qint32 codigo)
 {
-    Registro r;
     const QByteArray huella = servicioDeclaracion()->Huella(codigo);
-    servicioDeclaracion()->Cargar480(codigo, r);
+    const auto r = cargarDeclaracion(codigo, &SvrOstr::cDeclaracion::Cargar480);
     paraCadaCasilla(
         [&](int posicion, Casilla480 casilla) { en(casilla) = r.value(posicion).toDouble(); });
     m.tipo1 = r.value(Reg480::C74_TI1).toFloat();

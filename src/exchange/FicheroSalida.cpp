@@ -15,6 +15,9 @@ static constexpr qsizetype Bloque = 64 * 1024;
 
 static ErrorDatos errorDe(const QFile &fichero)
 {
+    const QString carpeta = QFileInfo(fichero.fileName()).absolutePath();
+    if (!fichero.fileName().isEmpty() && !QFileInfo::exists(carpeta))
+        return ErrorDatos(Fallo::NoExiste, carpeta);
     Fallo fallo = Fallo::LecturaEscritura;
     if (fichero.error() == QFileDevice::ResourceError)
         fallo = Fallo::SinEspacio;

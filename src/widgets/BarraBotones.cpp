@@ -48,6 +48,19 @@ bool BotonImagen::eventFilter(QObject *objeto, QEvent *evento)
     return QToolButton::eventFilter(objeto, evento);
 }
 
+namespace {
+
+/// As wide as its neighbours, and never narrower than its text.
+class BotonAncho : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+    QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo({110, 0}); }
+};
+
+} // namespace
+
 BarraBotones::BarraBotones(const QString &nombre, QWidget *padre)
     : QWidget(padre)
     , m_fila(new QHBoxLayout(this))
@@ -59,9 +72,8 @@ BarraBotones::BarraBotones(const QString &nombre, QWidget *padre)
 
 QPushButton *BarraBotones::anadir(const QString &nombre, const QString &imagen, Icono icono)
 {
-    auto *boton = new QPushButton(this);
+    auto *boton = new BotonAncho(this);
     boton->setObjectName(nombre);
-    boton->setMinimumWidth(110);
     m_fila->addSpacing(8);
     if (!imagen.isEmpty())
         m_fila->addWidget(new BotonImagen(imagen, icono, boton));

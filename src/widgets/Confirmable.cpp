@@ -12,8 +12,9 @@ bool focoDePaso(Qt::FocusReason motivo)
 bool confirmaAlSalir(Qt::FocusReason motivo)
 {
     const auto *destino = QApplication::focusWidget();
-    const bool abandona
-        = motivo == Qt::MouseFocusReason && destino && destino->property(NoConfirma).toBool();
+    // a mark takes the focus for no reason of its own when its access key is pressed
+    const bool pulsado = motivo == Qt::MouseFocusReason || motivo == Qt::OtherFocusReason;
+    const bool abandona = pulsado && destino && destino->property(NoConfirma).toBool();
     return !abandona && !focoDePaso(motivo);
 }
 

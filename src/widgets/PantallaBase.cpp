@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -71,6 +72,18 @@ void PantallaBase::cerrarA(Pantalla siguiente)
 {
     if (siguiente != Pantalla::Ninguna && m_abridor && !m_abridor(siguiente))
         return;
+    salir(siguiente);
+}
+
+void PantallaBase::abandonarA(Pantalla siguiente)
+{
+    if (siguiente != Pantalla::Ninguna && m_abridor)
+        m_abridor(siguiente);
+    salir(siguiente);
+}
+
+void PantallaBase::salir(Pantalla siguiente)
+{
     m_terminada = true;
     m_siguiente = m_abridor ? Pantalla::Ninguna : siguiente;
     descartarCajas();
@@ -87,7 +100,11 @@ void PantallaBase::centrar()
 {
     const QRect libre = screen()->availableGeometry();
     const QWidget *sobre = parentWidget() ? parentWidget()->window() : nullptr;
-    QRect lugar({}, sizeHint().boundedTo(libre.size()));
+    QSize tamano = sizeHint();
+    // room for the bar by which the rest is reached
+    if (tamano.height() > libre.height())
+        tamano.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    QRect lugar({}, tamano.boundedTo(libre.size()));
     lugar.moveCenter((sobre ? sobre->geometry() : libre).center());
     lugar.moveTopLeft({qMax(lugar.x(), libre.x()), qMax(lugar.y(), libre.y())});
     setGeometry(lugar);

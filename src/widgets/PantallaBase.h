@@ -87,6 +87,9 @@ Q_SIGNALS:
 protected:
     /// Opens another screen and closes this one; nothing closes when the other cannot be opened.
     void cerrarA(Pantalla siguiente);
+    /// The same for a cancel: whatever becomes of the other one (the user has been told), this one
+    /// closes.
+    void abandonarA(Pantalla siguiente);
     /// What a screen closed by its frame leaves behind, and the screen to show then: what its
     /// cancel button does.
     virtual Pantalla alCerrarMarco() { return Pantalla::Ninguna; }
@@ -111,6 +114,7 @@ protected:
 
 private:
     void cerrar();
+    void salir(Pantalla siguiente);
     void centrar();
     void colocarVelo();
     void dejar();
