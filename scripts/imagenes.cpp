@@ -29,7 +29,8 @@ static QString salida;
 static void guardar(QWidget &ventana, const QString &nombre)
 {
     QTest::qWait(60);
-    if (!ventana.grab().save(salida + u'/' + nombre + u".png"_s))
+    constexpr int menosBytes = 0;
+    if (!ventana.grab().save(salida + u'/' + nombre + u".png"_s, "PNG", menosBytes))
         qFatal("cannot write a picture");
 }
 
@@ -76,9 +77,11 @@ static void declaraciones(MDIOstrel &ventana)
 {
     const QString resumen = u"FrmDecResumen"_s;
     elegir(ventana, "d1");
-    auto &tabla = static_cast<QTableView &>(buscar(u"flxDeclaraciones"_s));
+    buscar(resumen);
     guardar(ventana, resumen);
     const auto abrirFila = [&](const QString &modelo) {
+        // the summary is another one each time
+        auto &tabla = static_cast<QTableView &>(buscar(u"flxDeclaraciones"_s));
         for (int fila = 0; fila < tabla.model()->rowCount(); ++fila) {
             if (tabla.model()->index(fila, 4).data().toString() == modelo)
                 tabla.selectRow(fila);
@@ -131,6 +134,7 @@ int main(int argc, char **argv)
     const QStringList argumentos = QApplication::arguments();
     if (argumentos.size() != 4)
         qFatal("usage: imagenes DATA-FOLDER OUTPUT-FOLDER C|E");
+    QCoreApplication::setApplicationVersion(QStringLiteral(OSTREL_VERSION));
     salida = argumentos[2];
     QDir().mkpath(salida);
     TextosQt textos;
@@ -143,7 +147,7 @@ int main(int argc, char **argv)
     unico::la<CEntrada>().IDI(argumentos[3]);
 
     MDIOstrel ventana;
-    ventana.resize(1100, 720);
+    ventana.resize(1180, 800);
     ventana.show();
     guardar(ventana, u"MDIOstrel"_s);
     dentro(ventana, "mnuAbrirDeclarante", u"FrmDecLista"_s, u"cmdCancelar"_s);

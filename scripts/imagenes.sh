@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Pictures of every screen and of a printed form, in both languages, from sample data and without a
-# display: scripts/imagenes.sh [FOLDER]. Those of the README are kept in docs/imagenes.
+# display: scripts/imagenes.sh [FOLDER]. Those of the README are renewed in docs/imagenes.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 destino=${1:-build/imagenes}
@@ -24,10 +24,12 @@ ostrel declarar 480 --dni A58818501 --ejercicio 2025 --casilla 04=400000,00 --ca
 ostrel declarar 430 --dni A58818501 --ejercicio 2026 --periodo 1 --base 125.000,50
 
 for idioma in C E; do
-    QT_QPA_PLATFORM=offscreen build/dev/tests/imagenes "$datos" "$destino/$idioma" "$idioma" 2>/dev/null
+    HOME=$datos QT_QPA_PLATFORM=offscreen build/dev/tests/imagenes "$datos" "$destino/$idioma" "$idioma" 2>/dev/null
     ostrel imprimir --dni A58818501 --modelo 430 --ejercicio 2026 --periodo 1 --fecha \
         "$([ $idioma = C ] && echo 20/02/2026 || echo 2026/02/20)" --copias adm --pdf "$datos/430.pdf"
     pdftoppm -r 70 -png -singlefile "$datos/430.pdf" "$destino/$idioma/impreso430"
     rm "$datos/430.pdf"
 done
-echo "The pictures are in $destino"
+mkdir -p docs/imagenes
+cp "$destino"/C/{FrmDecResumen,FrmDatos430,impreso430}.png docs/imagenes
+echo "The pictures are in $destino; those of the README in docs/imagenes"

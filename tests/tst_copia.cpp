@@ -21,13 +21,16 @@
 #include <QTableView>
 
 #include <SQLiteCpp/Database.h>
+#include <chrono>
 #include <csignal>
 #include <optional>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 static const QStringList Enteras{u"OstrLec.mdb"_s, u"OstrMod.mdb"_s};
 
@@ -389,23 +392,37 @@ private:
         reloj.start();
         ostrel({orden});
         const int dura = int(reloj.elapsed());
-        int acabadas = 0;
+        // what shows that the file itself is being written, and stays when that is cut short
+        QDir carpeta(QFileInfo(ruta).path());
+        carpeta.setNameFilters({copia ? u"OstrMod_bak.mdb.nuevo-*"_s : u"OstrMod.mdb-journal"_s});
+        const auto escribiendo = [&] { return !carpeta.entryList(QDir::Files).isEmpty(); };
+        int enMedio = 0;
         for (int i = 0; i < veces; ++i) {
             if (!copia)
                 llenarMas();
             QProcess proceso;
             proceso.start(QStringLiteral(OSTREL), {orden, u"--carpeta"_s, m_entorno->ruta({})});
             QVERIFY(proceso.waitForStarted());
-            QTest::qSleep(QRandomGenerator::global()->bounded(dura + dura / 5));
+            // at any moment, and while the file is being written
+            int espera = QRandomGenerator::global()->bounded(dura * 1200);
+            if (i % 2 == 0) {
+                while (!escribiendo() && !proceso.waitForFinished(0))
+                    std::this_thread::sleep_for(50us);
+                espera %= 20'000;
+            }
+            std::this_thread::sleep_for(std::chrono::microseconds(espera));
             proceso.kill();
             proceso.waitForFinished();
-            acabadas += proceso.exitStatus() == QProcess::NormalExit;
+            enMedio += escribiendo();
             auto base = servidor::abrirComprobada(ruta, servidor::FormatoDatos);
             QCOMPARE(base.execAndGet("PRAGMA integrity_check").getString(), "ok");
             const int hay = base.execAndGet("SELECT count(*) FROM DECLARANTES").getInt();
             QVERIFY2(hay == 8000 || hay == 8001, qPrintable(QString::number(hay)));
+            for (const QString &resto : carpeta.entryList(QDir::Files))
+                carpeta.remove(resto);
         }
-        qInfo() << "finished before the kill:" << acabadas;
+        qInfo() << "killed while the file was being written:" << enMedio << "of" << veces;
+        QVERIFY(enMedio > 0);
         QCOMPARE(ostrel({orden}).codigo, 0);
     }
 };
