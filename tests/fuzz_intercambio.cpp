@@ -113,7 +113,7 @@ static void mutar(QByteArray &texto, QRandomGenerator &azar)
 
 int main(int argc, char **argv)
 {
-    const int segundos = argc > 1 ? std::atoi(argv[1]) : 2;
+    const double segundos = argc > 1 ? std::atof(argv[1]) : 0.5;
     const quint32 pedido = argc > 2 ? quint32(std::atoi(argv[2])) : 1;
     const quint32 numero = pedido != 0 ? pedido : QRandomGenerator::global()->generate();
     std::printf("seed %u\n", numero);
@@ -121,7 +121,7 @@ int main(int argc, char **argv)
     const Entorno entorno;
     qint64 vueltas = 0;
     qint64 aceptadas = 0;
-    for (const QDeadlineTimer fin(segundos * 1000); !fin.hasExpired(); ++vueltas) {
+    for (const QDeadlineTimer fin(qint64(segundos * 1000)); !fin.hasExpired(); ++vueltas) {
         QByteArray fichero = semilla(azar) + semilla(azar);
         mutar(fichero, azar);
         aceptadas += probar(fichero);

@@ -1,6 +1,4 @@
 #include "app/MDIOstrel.h"
-#include "core/CEntrada.h"
-#include "core/Textos.h"
 #include "help/TeclaAyuda.h"
 #include "help/TemasAyuda.h"
 #include "resources/TablaMensajes.h"
@@ -8,16 +6,11 @@
 #include "support/Manos.h"
 
 #include <QDialog>
-#include <QDir>
 #include <QDirIterator>
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QTabWidget>
 #include <QTextBrowser>
-
-#include <optional>
-
-using namespace Qt::StringLiterals;
 
 static QString contenido(const QString &ruta)
 {
@@ -45,7 +38,7 @@ static QString patronDe(QString texto)
 }
 
 /// The help: its topics against the program's real texts and screens, and its window.
-class PruebaAyuda : public QObject
+class TstAyuda : public QObject
 {
     Q_OBJECT
 
@@ -61,41 +54,8 @@ private:
             leidas[fichero] = contenido(carpeta.filePath(fichero));
         return leidas;
     }
-    static void losDosIdiomas()
+    static void enlacesYCitas(const QString &idioma)
     {
-        QTest::addColumn<QString>("idioma");
-        QTest::newRow("castellano") << u"c"_s;
-        QTest::newRow("euskera") << u"e"_s;
-    }
-    static QWidget *ventanaAyuda() { return ventanaVisible(u"FrmAyuda"_s); }
-    /// The topic shown; empty while the help is closed.
-    static QString tema()
-    {
-        auto *ventana = ventanaAyuda();
-        return ventana ? ventana->findChild<QTextBrowser *>()->source().fileName() : QString();
-    }
-
-private Q_SLOTS:
-    void init() { m_entorno.emplace(); }
-    void cleanup()
-    {
-        delete ventanaAyuda();
-        m_entorno.reset();
-        fijarIdioma(Idioma::Castellano);
-    }
-
-    void losMismosTemasEnLosDosIdiomas()
-    {
-        QStringList euskera = paginas(u"e"_s).keys();
-        QVERIFY(euskera.size() > 15);
-        euskera.replaceInStrings(u"kap.htm"_s, u"cap.htm"_s).sort();
-        QCOMPARE(euskera, paginas(u"c"_s).keys());
-    }
-
-    void enlacesYCitas_data() { losDosIdiomas(); }
-    void enlacesYCitas()
-    {
-        QFETCH(QString, idioma);
         QStringList patrones;
         for (const Mensaje &mensaje : tablaMensajes()) {
             const QString texto = idioma == u"c" ? mensaje.castellano : mensaje.euskera;
@@ -112,10 +72,8 @@ private Q_SLOTS:
         }
     }
 
-    void contenidoYMensajes_data() { losDosIdiomas(); }
-    void contenidoYMensajes()
+    static void contenidoYMensajes(const QString &idioma)
     {
-        QFETCH(QString, idioma);
         unico::la<CEntrada>().IDI(idioma.toUpper());
         const auto todas = paginas(idioma);
         QStringList enContenido;
@@ -147,6 +105,38 @@ private Q_SLOTS:
                                                QRegularExpression::MultilineOption);
                 QVERIFY2(linea.match(citados).hasMatch(), qPrintable(texto));
             }
+        }
+    }
+    static QWidget *ventanaAyuda() { return ventanaVisible(u"FrmAyuda"_s); }
+    /// The topic shown; empty while the help is closed.
+    static QString tema()
+    {
+        auto *ventana = ventanaAyuda();
+        return ventana ? ventana->findChild<QTextBrowser *>()->source().fileName() : QString();
+    }
+
+private Q_SLOTS:
+    void init() { m_entorno.emplace(); }
+    void cleanup()
+    {
+        delete ventanaAyuda();
+        m_entorno.reset();
+        fijarIdioma(Idioma::Castellano);
+    }
+
+    void losMismosTemasEnLosDosIdiomas()
+    {
+        QStringList euskera = paginas(u"e"_s).keys();
+        QVERIFY(euskera.size() > 15);
+        euskera.replaceInStrings(u"kap.htm"_s, u"cap.htm"_s).sort();
+        QCOMPARE(euskera, paginas(u"c"_s).keys());
+    }
+
+    void textosDeLosTemas()
+    {
+        for (const QString &idioma : {u"c"_s, u"e"_s}) {
+            enlacesYCitas(idioma);
+            contenidoYMensajes(idioma);
         }
     }
 
@@ -232,5 +222,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PruebaAyuda)
+QTEST_MAIN(TstAyuda)
 #include "tst_ayuda.moc"

@@ -1,41 +1,31 @@
 #include "app/DialogosVentana.h"
 #include "app/MDIOstrel.h"
-#include "core/CEntrada.h"
-#include "core/Servicios.h"
-#include "core/Textos.h"
-#include "core/Unico.h"
 #include "server/Comprobacion.h"
 #include "server/Conexion.h"
 #include "support/ConductorMensajes.h"
 #include "support/Entorno.h"
+#include "support/Ostrel.h"
 #include "support/ServidorPrueba.h"
 #include "widgets/Ficheros.h"
 #include "widgets/PantallaBase.h"
 
 #include <QAction>
-#include <QDir>
 #include <QFileDialog>
-#include <QProcess>
-#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTableView>
 
-#include <SQLiteCpp/Database.h>
 #include <chrono>
 #include <csignal>
-#include <optional>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
-#include <unistd.h>
 
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 static const QStringList Enteras{u"OstrLec.mdb"_s, u"OstrMod.mdb"_s};
 
 /// Backup and restore, by window and by command line, and what may go wrong with them.
-class PruebaCopia : public QObject
+class TstCopia : public QObject, Ostrel
 {
     Q_OBJECT
 
@@ -81,22 +71,6 @@ private:
                                [&dialogo] { static_cast<QDialog &>(dialogo).done(1); });
         });
     }
-    struct Salida
-    {
-        int codigo = 0;
-        QByteArray texto, error;
-    };
-    /// `antes` runs in the new process.
-    Salida ostrel(const QStringList &argumentos, const std::function<void()> &antes = {}) const
-    {
-        QProcess proceso;
-        proceso.setChildProcessModifier(antes);
-        proceso.start(QStringLiteral(OSTREL),
-                      argumentos + QStringList{u"--carpeta"_s, m_entorno->ruta({})});
-        proceso.waitForFinished();
-        return {proceso.exitCode(), proceso.readAllStandardOutput(),
-                proceso.readAllStandardError()};
-    }
     /// One declarant more than there was, once.
     static void llenarMas() { llenar(rutas().datos, 1, u"UNO MAS"_s); }
 
@@ -104,6 +78,7 @@ private Q_SLOTS:
     void init()
     {
         m_entorno.emplace();
+        carpeta = m_entorno->ruta({});
         registrarServidor(&m_dialogos);
     }
     void cleanup()
@@ -132,6 +107,15 @@ private Q_SLOTS:
         QCOMPARE(QDir::fromNativeSeparators(leido.captured(1)), copias(u"OstrMod_bak.mdb"_s));
         QCOMPARE(leido.captured(2), QDate::currentDate().toString(u"dd/MM/yyyy"));
         QCOMPARE(declarantes(copias(u"OstrMod_bak.mdb"_s)), 1);
+        // what is refused when it is to be restored
+        escribir(m_entorno->ruta(u"otra.mdb"_s), "no database");
+        elegir(m_entorno->ruta(u"otra.mdb"_s));
+        mensajes.responder(QMessageBox::Ok);
+        menu("mnuRestore");
+        const QString ficha = mensajes.ficha();
+        QVERIFY2(ficha.startsWith(u"Warning|Restaurar copia de seguridad|")
+                     && ficha.contains(u"otra.mdb» está dañado."),
+                 qPrintable(ficha));
     }
 
     void restauraConLaListaYElResumenAbiertos()
@@ -195,71 +179,20 @@ private Q_SLOTS:
         QCOMPARE(declarantes(copias(u"OstrMod_antes.1.mdb"_s)), 2);
     }
 
-    void candidatasRechazadas_data()
-    {
-        QTest::addColumn<QString>("caso");
-        QTest::addColumn<QByteArray>("motivo");
-        const auto casos = [](const QString &nombres, const char *motivo) {
-            for (const QString &caso : nombres.split(u'|'))
-                QTest::newRow(qPrintable(caso)) << caso << QByteArray(motivo);
-        };
-        casos(u"truncated|empty|fourth page"_s, "está dañado.");
-        casos(u"without tables"_s, "está incompleto: le faltan tablas o datos.");
-        casos(u"foreign"_s, "no es una base de datos de este programa.");
-        casos(u"newer"_s, "procede de una versión más nueva del programa.");
-        casos(u"folder|pipe"_s, "no es un fichero.");
-        casos(u"itself|itself by link"_s, "es el que el programa está usando.");
-        casos(u"unreadable"_s, ": no hay permiso o falla el disco.");
-    }
     void candidatasRechazadas()
     {
-        QFETCH(QString, caso);
-        QFETCH(QByteArray, motivo);
-        llenar(rutas().datos, 300);
-        const QByteArray buena = bytes(rutas().datos);
-        const QString candidata = m_entorno->ruta(u"candidata.mdb"_s);
-        const QByteArray nativa = QFile::encodeName(candidata);
-        std::function<void()> antes;
-        if (caso == u"folder")
-            QVERIFY(QDir().mkdir(candidata));
-        else if (caso == u"pipe")
-            QCOMPARE(::mkfifo(nativa, 0600), 0);
-        else if (caso == u"itself by link")
-            QCOMPARE(::link(QFile::encodeName(rutas().datos), nativa), 0);
-        else
-            escribir(candidata, estropeado(caso, buena, buena));
-        if (caso == u"without tables")
-            SQLite::Database(candidata.toStdString(), SQLite::OPEN_READWRITE)
-                .exec("DROP TABLE DATOS430; DROP TABLE DATOS480; DROP TABLE DECLARACIONES");
-        if (caso == u"unreadable") {
-            QFile::setPermissions(candidata, {});
-            QFile::setPermissions(m_entorno->ruta({}), QFile::Permissions(0x7555));
-            antes = [] {
-                if (::geteuid() == 0 && ::setuid(65534) != 0) // root reads everything
-                    ::_exit(9);
-            };
-        }
-        const auto salida
-            = ostrel({u"restaurar"_s, caso == u"itself" ? rutas().datos : candidata}, antes);
-        QCOMPARE(salida.codigo, 1);
-        QVERIFY2(salida.error.contains(motivo), salida.error);
-        QCOMPARE(bytes(rutas().datos), buena);
-        QCOMPARE(en(rutas().tablas), Enteras);
-        QVERIFY(en(copias()).isEmpty());
-    }
-
-    void rechazoEnLaVentana()
-    {
-        escribir(m_entorno->ruta(u"otra.mdb"_s), "no database");
-        abrirPrograma();
-        elegir(m_entorno->ruta(u"otra.mdb"_s));
-        ConductorMensajes mensajes;
-        mensajes.responder(QMessageBox::Ok);
-        menu("mnuRestore");
-        const auto caja = mensajes.tomar().value(0);
-        QCOMPARE(caja.icono, QMessageBox::Warning);
-        QCOMPARE(caja.titulo, u"Restaurar copia de seguridad"_s);
-        QVERIFY2(caja.texto.contains(u"otra.mdb» está dañado."), qPrintable(caja.texto));
+        for (const auto &[casos, motivo] :
+             {std::pair{u"truncated|empty|fourth page"_s, "está dañado."},
+              {u"without tables"_s, "está incompleto: le faltan tablas o datos."},
+              {u"foreign"_s, "no es una base de datos de este programa."},
+              {u"newer"_s, "procede de una versión más nueva del programa."},
+              {u"folder|pipe"_s, "no es un fichero."},
+              {u"itself|itself by link"_s, "es el que el programa está usando."},
+              {u"unreadable"_s, ": no hay permiso o falla el disco."}})
+            for (const QString &caso : casos.split(u'|')) {
+                init();
+                probarCandidata(caso, motivo);
+            }
     }
 
     /// A copy made by hand while a save was being written: what was half done is undone.
@@ -276,7 +209,7 @@ private Q_SLOTS:
             otro.exec("ROLLBACK; DELETE FROM DECLARANTES");
         }
         const QByteArray suya = bytes(candidata);
-        QCOMPARE(ostrel({u"restaurar"_s, candidata}).codigo, 0);
+        QCOMPARE(ostrel({u"restaurar"_s, candidata}).error, QByteArray());
         auto base = servidor::abrirComprobada(rutas().datos, servidor::FormatoDatos);
         QCOMPARE(base.execAndGet("SELECT count(*) FROM DECLARANTES WHERE NUMERO = 1").getInt(),
                  3000);
@@ -288,27 +221,22 @@ private Q_SLOTS:
     void ordenesEnLosDosIdiomas()
     {
         Entorno::altaDeclarante();
-        auto salida = ostrel({u"copia"_s});
-        QCOMPARE(salida.codigo, 0);
+        const QString guardada = copias(u"OstrMod_bak.mdb"_s);
+        auto salida = proceso({u"copia"_s});
         QVERIFY(salida.texto.startsWith("Se ha creado la copia de seguridad.\n"));
-        QVERIFY(salida.texto.contains(copias(u"OstrMod_bak.mdb"_s).toUtf8()));
+        QVERIFY(salida.texto.contains(guardada.toUtf8()));
         // restored over a database that cannot be used, which is kept
         escribir(rutas().datos, "rubbish");
-        unico::reiniciar();
-        salida = ostrel({u"restaurar"_s});
-        QCOMPARE(salida.error, QByteArray());
+        salida = proceso({u"restaurar"_s});
         QCOMPARE(declarantes(rutas().datos), 1);
         const QString apartada = QDir(rutas().tablas).entryList({u"OstrMod.mdb.*"_s}).value(0);
         QCOMPARE(bytes(rutas().tablas + apartada), "rubbish");
         const QString hecho
             = u"Se han restaurado los datos de «%1».\nLos datos anteriores están en «%2».\n"_s;
-        QCOMPARE(QString::fromUtf8(salida.texto),
-                 hecho.arg(copias(u"OstrMod_bak.mdb"_s), rutas().tablas + apartada));
-        ostrel({u"idioma"_s, u"E"_s});
+        dicha(salida, hecho.arg(guardada, rutas().tablas + apartada).toUtf8());
+        hacer({u"idioma"_s, u"E"_s});
         QVERIFY(ostrel({u"copia"_s}).texto.startsWith("Segurtasun kopia sortu da.\n"));
-        salida = ostrel({u"restaurar"_s, u"no-hay.mdb"_s});
-        QCOMPARE(salida.codigo, 1);
-        QVERIFY2(salida.error.contains("fitxategia ez dago."), salida.error);
+        rechazar({u"restaurar"_s, u"no-hay.mdb"_s}, "fitxategia ez dago.");
     }
 
     void copiaDelDia()
@@ -356,7 +284,7 @@ private Q_SLOTS:
     void discoLleno()
     {
         llenar(rutas().datos, 6000);
-        ostrel({u"copia"_s});
+        hacer({u"copia"_s});
         llenarMas();
         const QByteArray base = bytes(rutas().datos);
         const QByteArray copia = bytes(copias(u"OstrMod_bak.mdb"_s));
@@ -366,9 +294,7 @@ private Q_SLOTS:
             ::setrlimit(RLIMIT_FSIZE, &limite);
         };
         for (const QString &orden : {u"copia"_s, u"restaurar"_s}) {
-            const auto salida = ostrel({orden}, sinSitio);
-            QCOMPARE(salida.codigo, 1);
-            QVERIFY2(salida.error.contains("No queda espacio en el disco"), salida.error);
+            rechazada(proceso({orden}, sinSitio), "No queda espacio en el disco");
             QCOMPARE(bytes(rutas().datos), base);
             QCOMPARE(en(copias()), QStringList(u"OstrMod_bak.mdb"_s));
             QCOMPARE(bytes(copias(u"OstrMod_bak.mdb"_s)), copia);
@@ -380,52 +306,84 @@ private Q_SLOTS:
     void matarAlRestaurar() { matar(u"restaurar"_s); }
 
 private:
+    void probarCandidata(const QString &caso, const char *motivo) const
+    {
+        llenar(rutas().datos, 300);
+        const QByteArray buena = bytes(rutas().datos);
+        const QString candidata = m_entorno->ruta(u"candidata.mdb"_s);
+        const QByteArray nativa = QFile::encodeName(candidata);
+        std::function<void()> antes;
+        if (caso == u"folder")
+            QVERIFY(QDir().mkdir(candidata));
+        else if (caso == u"pipe")
+            QCOMPARE(::mkfifo(nativa, 0600), 0);
+        else if (caso == u"itself by link")
+            QCOMPARE(::link(QFile::encodeName(rutas().datos), nativa), 0);
+        else
+            escribir(candidata, estropeado(caso, buena, buena));
+        if (caso == u"without tables")
+            SQLite::Database(candidata.toStdString(), SQLite::OPEN_READWRITE)
+                .exec("DROP TABLE DATOS430; DROP TABLE DATOS480; DROP TABLE DECLARACIONES");
+        if (caso == u"unreadable") {
+            QFile::setPermissions(candidata, {});
+            QFile::setPermissions(m_entorno->ruta({}), QFile::Permissions(0x7555));
+            antes = [] {
+                if (::geteuid() == 0 && ::setuid(65534) != 0) // root reads everything
+                    ::_exit(9);
+            };
+        }
+        const QStringList orden{u"restaurar"_s, caso == u"itself" ? rutas().datos : candidata};
+        rechazada(antes ? proceso(orden, antes) : ostrel(orden), motivo);
+        QCOMPARE(bytes(rutas().datos), buena);
+        QCOMPARE(en(rutas().tablas), Enteras);
+        QVERIFY(en(copias()).isEmpty());
+    }
     void matar(const QString &orden)
     {
         llenar(rutas().datos, 8000);
-        ostrel({u"copia"_s});
+        hacer({u"copia"_s});
         llenarMas();
         const bool copia = orden == u"copia";
         const QString ruta = copia ? copias(u"OstrMod_bak.mdb"_s) : rutas().datos;
-        const int veces = std::max(qEnvironmentVariableIntValue("OSTREL_MUERTES"), 12);
+        const int veces = std::max(qEnvironmentVariableIntValue("OSTREL_MUERTES"), 10);
         QElapsedTimer reloj;
         reloj.start();
-        ostrel({orden});
+        proceso({orden});
         const int dura = int(reloj.elapsed());
         // what shows that the file itself is being written, and stays when that is cut short
-        QDir carpeta(QFileInfo(ruta).path());
-        carpeta.setNameFilters({copia ? u"OstrMod_bak.mdb.nuevo-*"_s : u"OstrMod.mdb-journal"_s});
-        const auto escribiendo = [&] { return !carpeta.entryList(QDir::Files).isEmpty(); };
+        QDir junto(QFileInfo(ruta).path());
+        junto.setNameFilters({copia ? u"OstrMod_bak.mdb.nuevo-*"_s : u"OstrMod.mdb-journal"_s});
+        const auto escribiendo = [&] { return !junto.entryList(QDir::Files).isEmpty(); };
         int enMedio = 0;
         for (int i = 0; i < veces; ++i) {
             if (!copia)
                 llenarMas();
-            QProcess proceso;
-            proceso.start(QStringLiteral(OSTREL), {orden, u"--carpeta"_s, m_entorno->ruta({})});
-            QVERIFY(proceso.waitForStarted());
+            QProcess matado;
+            iniciar(matado, {orden});
+            QVERIFY(matado.waitForStarted());
             // at any moment, and while the file is being written
             int espera = QRandomGenerator::global()->bounded(dura * 1200);
             if (i % 2 == 0) {
-                while (!escribiendo() && !proceso.waitForFinished(0))
+                while (!escribiendo() && !matado.waitForFinished(0))
                     std::this_thread::sleep_for(50us);
                 espera %= 20'000;
             }
             std::this_thread::sleep_for(std::chrono::microseconds(espera));
-            proceso.kill();
-            proceso.waitForFinished();
+            matado.kill();
+            matado.waitForFinished();
             enMedio += escribiendo();
             auto base = servidor::abrirComprobada(ruta, servidor::FormatoDatos);
             QCOMPARE(base.execAndGet("PRAGMA integrity_check").getString(), "ok");
             const int hay = base.execAndGet("SELECT count(*) FROM DECLARANTES").getInt();
             QVERIFY2(hay == 8000 || hay == 8001, qPrintable(QString::number(hay)));
-            for (const QString &resto : carpeta.entryList(QDir::Files))
-                carpeta.remove(resto);
+            for (const QString &resto : junto.entryList(QDir::Files))
+                junto.remove(resto);
         }
         qInfo() << "killed while the file was being written:" << enMedio << "of" << veces;
         QVERIFY(enMedio > 0);
-        QCOMPARE(ostrel({orden}).codigo, 0);
+        QCOMPARE(proceso({orden}).codigo, 0);
     }
 };
 
-QTEST_MAIN(PruebaCopia)
+QTEST_MAIN(TstCopia)
 #include "tst_copia.moc"

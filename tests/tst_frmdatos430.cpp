@@ -1,15 +1,8 @@
-#include "core/CEntrada.h"
-#include "core/Servicios.h"
-#include "declarants/cDecResumen.h"
 #include "declarations/FrmDatos430.h"
 #include "declarations/cDatos430.h"
 #include "support/DeclaracionesPrueba.h"
 #include "support/PantallaAbierta.h"
 #include "support/Retrato.h"
-
-#include <QSignalSpy>
-
-using namespace Qt::StringLiterals;
 
 /// The 430 entry screen for a new return of January 2026 (rate 8 %), as the summary opens it.
 struct Formulario : PantallaAbierta<FrmDatos430>
@@ -125,43 +118,15 @@ private Q_SLOTS:
         QVERIFY(!m.control("txtbrect")->isEnabled() && !m.control("txtcrect")->isEnabled());
     }
 
-    void formasDeTeclear()
-    {
-        Formulario f;
-        const auto &m = *f.manos;
-        // letters, a third decimal, a 14th digit are not taken
-        for (const QString &caso :
-             u"1234,5=1.234,50|1.234,56=1.234,56|1234.56=1.234,56|12a3=123,00|"
-             "1,239=1,23|12345678901234=1.234.567.890.123,00|-7=-7,00|="_s.split(u'|'))
-            QCOMPARE(f.rellenar("txtbliq", caso.section(u'=', 0, 0)), caso.section(u'=', 1));
-        // the point of the numeric keypad is the comma
-        m.escribir("txtbliq", u"12"_s);
-        QTest::keyEvent(QTest::Click, m.control("txtbliq"), '.', Qt::KeypadModifier);
-        QTest::keyClicks(m.control("txtbliq"), u"5"_s);
-        m.tecla(Qt::Key_Tab);
-        QCOMPARE(m.texto("txtbliq"), u"12,50"_s);
-        // a digit more within an amount that the program has grouped
-        f.rellenar("txtbliq", u"1234,56"_s);
-        m.tecla(Qt::Key_Backtab);
-        m.tecla(Qt::Key_Home);
-        QTest::keyClicks(m.control("txtbliq"), u"9"_s);
-        m.tecla(Qt::Key_Tab);
-        QCOMPARE(m.texto("txtbliq"), u"91.234,56"_s);
-    }
-
-    void importeQueNoSeEntiendeSeQueda()
+    void importesRechazadosEnLaCasilla()
     {
         Formulario f;
         f.mensajes.responder(QMessageBox::Ok);
         QCOMPARE(f.rellenar("txtbliq", u"1.23.4"_s), u"1.23.4"_s);
         QCOMPARE(f.mensajes.texto(), u"«1.23.4» no es un importe."_s);
         QTRY_COMPARE(f.manos->foco(), u"txtbliq"_s);
+        QApplication::setActiveWindow(f.pantalla.get());
         QCOMPARE(unico::la<cDatos430>().BASELIQ(), 0.0);
-    }
-
-    void totalQueNoCabeSeRechazaEnLaCasilla()
-    {
-        Formulario f;
         f.manos->escribir("txtbliq", u"9999999999999,99"_s);
         f.manos->pulsar("chkrect");
         f.mensajes.responder(QMessageBox::Ok);
@@ -172,36 +137,27 @@ private Q_SLOTS:
         QCOMPARE(unico::la<cDatos430>().BASEREC(), 0.0);
     }
 
-    void loGuardadoSeDice_data()
-    {
-        QTest::addColumn<QString>("idioma");
-        QTest::addColumn<QString>("dicho");
-        QTest::newRow("cmdAceptar") << u"C"_s << u"Declaración guardada: 430 ENERO 2026: 40,00"_s;
-        QTest::newRow("PicAce") << u"E"_s << u"Aitorpena gorde da: 430 URTARRILA 2026: 40,00"_s;
-        QTest::newRow("access key") << u"C"_s << u"Declaración guardada: 430 ENERO 2026: 40,00"_s;
-    }
     /// Accepting takes the box with the focus, by either button and by the access key.
     void loGuardadoSeDice()
     {
-        QFETCH(QString, idioma);
-        QFETCH(QString, dicho);
-        Formulario f(idioma);
-        QSignalSpy cambios(f.pantalla.get(), &PantallaBase::datosCambiados);
-        QSignalSpy dichos(f.pantalla.get(), &PantallaBase::dicho);
-        f.manos->escribir("txtbliq", u"500"_s);
-        if (qstrcmp(QTest::currentDataTag(), "access key") == 0)
-            f.manos->tecla(Qt::Key_A, Qt::AltModifier);
-        else
-            f.manos->pulsar(QTest::currentDataTag());
-        // a button answers to its access key a moment later
-        QTRY_COMPARE(f.siguiente, Pantalla::Resumen);
-        QCOMPARE(cambios.count(), 1);
-        QCOMPARE(dichos.value(0).value(0).toString(), dicho);
-        QCOMPARE(f.guardado(),
-                 (Registro{QString(), 50000.0, 8.0F, 4000.0, 0.0, 0.0, 50000.0, 8.0F, 4000.0}));
-        QCOMPARE(unico::la<cDecResumen>().ENTRADA(), u"P"_s);
-        QCOMPARE(unico::la<cDecResumen>().CSDE(),
-                 f.filas()[0].toList().value(FilaDeclaracion::CSDE));
+        for (const auto &[como, idioma, dicho] :
+             {std::tuple{"cmdAceptar", u"C"_s, u"Declaración guardada: 430 ENERO 2026: 40,00"_s},
+              {"PicAce", u"E"_s, u"Aitorpena gorde da: 430 URTARRILA 2026: 40,00"_s},
+              {"Alt+A", u"C"_s, u"Declaración guardada: 430 ENERO 2026: 40,00"_s}}) {
+            Formulario f(idioma);
+            QSignalSpy cambios(f.pantalla.get(), &PantallaBase::datosCambiados);
+            QSignalSpy dichos(f.pantalla.get(), &PantallaBase::dicho);
+            f.manos->escribir("txtbliq", u"500"_s);
+            f.salir(como);
+            // a button answers to its access key a moment later
+            QTRY_COMPARE(f.siguiente, Pantalla::Resumen);
+            QCOMPARE(cambios.count(), 1);
+            QCOMPARE(dichos.value(0).value(0).toString(), dicho);
+            QCOMPARE(f.guardado(),
+                     (Registro{QString(), 50000.0, 8.0F, 4000.0, 0.0, 0.0, 50000.0, 8.0F, 4000.0}));
+            QCOMPARE(unidos({unico::la<cDecResumen>().ENTRADA(), unico::la<cDecResumen>().CSDE()}),
+                     u"P|"_s + f.filas()[0].toList().value(FilaDeclaracion::CSDE).toString());
+        }
     }
 
     void rectificacionSinImportes()
@@ -223,19 +179,6 @@ private Q_SLOTS:
             f.manos->escribir(caja, {});
         }
         QVERIFY(f.pantalla->isVisible() && f.filas().isEmpty());
-    }
-
-    void guardadoQueFallaDejaLaPantalla()
-    {
-        Formulario f;
-        f.manos->escribir("txtbliq", u"500"_s);
-        {
-            const ModeloPerdido perdido;
-            QVERIFY(f.aviso("cmdAceptar").contains(u"OstrMod.mdb"_s));
-        }
-        QVERIFY(f.pantalla->isVisible());
-        f.manos->pulsar("cmdAceptar");
-        QCOMPARE(f.guardado().value(Reg430::BASELIQ), 50000.0);
     }
 
     /// The mark stays as it is while a box refuses its text, whichever way it is pressed.
@@ -260,29 +203,25 @@ private Q_SLOTS:
         QCOMPARE(f.manos->texto("txtbtot"), QString());
     }
 
-    void cambiadaEnOtraCopia_data()
-    {
-        QTest::addColumn<QMessageBox::StandardButton>("respuesta");
-        QTest::addColumn<double>("guardada"); // base of the liquidation stored afterwards
-        QTest::addColumn<QString>("mostrada"); // and shown; none when the screen has closed
-        QTest::newRow("replace") << QMessageBox::Yes << 700.0 << QString();
-        QTest::newRow("keep") << QMessageBox::No << 900.0 << u"9,00"_s;
-        QTest::newRow("neither") << QMessageBox::Cancel << 900.0 << u"7,00"_s;
-    }
     void cambiadaEnOtraCopia()
     {
-        QFETCH(QMessageBox::StandardButton, respuesta);
-        QFETCH(QString, mostrada);
-        Formulario f;
-        const qint32 csde = guardarDistinta(f.csco, u"430"_s);
-        f.abrir(u"C"_s, csde);
-        Registro deOtra = figurasDistintas(u"430"_s);
-        deOtra[Reg430::BASELIQ] = 900.0;
-        servicioDeclaracion()->Guardar430(Registro{csde, f.csco, 2026, 1, 1, u"430"_s, 1} + deOtra);
-        f.manos->escribir("txtbliq", u"7"_s);
-        QVERIFY(f.aviso("cmdAceptar", respuesta).contains(u"«430 ENERO 2026»"_s));
-        QTEST(f.guardado()[Reg430::BASELIQ].toDouble(), "guardada");
-        QCOMPARE(f.pantalla->isVisible() ? f.manos->texto("txtbliq") : QString(), mostrada);
+        // the answer, the base stored afterwards, and the one shown while the screen is open
+        for (const auto &[respuesta, guardada, mostrada] :
+             {std::tuple{QMessageBox::Yes, 700.0, QString()},
+              {QMessageBox::No, 900.0, u"9,00"_s},
+              {QMessageBox::Cancel, 900.0, u"7,00"_s}}) {
+            Formulario f;
+            const qint32 csde = guardarDistinta(f.csco, u"430"_s);
+            f.abrir(u"C"_s, csde);
+            Registro deOtra = figurasDistintas(u"430"_s);
+            deOtra[Reg430::BASELIQ] = 900.0;
+            servicioDeclaracion()->Guardar430(Registro{csde, f.csco, 2026, 1, 1, u"430"_s, 1}
+                                              + deOtra);
+            f.manos->escribir("txtbliq", u"7"_s);
+            QVERIFY(f.aviso("cmdAceptar", respuesta).contains(u"«430 ENERO 2026»"_s));
+            QCOMPARE(f.guardado()[Reg430::BASELIQ].toDouble(), guardada);
+            QCOMPARE(f.pantalla->isVisible() ? f.manos->texto("txtbliq") : QString(), mostrada);
+        }
     }
 
     void guardadaOEliminadaEnOtraCopia()
@@ -312,22 +251,11 @@ private Q_SLOTS:
         }
     }
 
-    /// However long the name, the form is as wide as ever.
-    void nombreLargo()
-    {
-        Formulario f;
-        const int ancho = f.pantalla->sizeHint().width();
-        tomarCabecera(f.csco, u"430"_s, 1, u"12345678Z"_s, QString(300, u'W'));
-        f.abrir(u"A"_s);
-        QCOMPARE(f.pantalla->sizeHint().width(), ancho);
-        QVERIFY(f.pantalla->minimumSizeHint().width() <= ancho);
-    }
-
     /// A box that cannot be read stands in the way of no cancel; only the frame asks.
     void cancelarNoGuarda()
     {
         Formulario f;
-        for (const char *como : {"cmdCancelar", "Piccan", "access key", "frame"}) {
+        for (const char *como : {"cmdCancelar", "Piccan", "Alt+C", "frame"}) {
             f.abrir(u"A"_s);
             f.manos->escribir("txtbliq", u"1.23.4"_s);
             if (qstrcmp(como, "frame") == 0) {
@@ -335,12 +263,8 @@ private Q_SLOTS:
                 f.pantalla->close();
                 QVERIFY(f.pantalla->isVisible());
                 f.mensajes.responder(QMessageBox::Yes);
-                f.pantalla->close();
-            } else if (qstrcmp(como, "access key") == 0) {
-                f.manos->tecla(Qt::Key_C, Qt::AltModifier);
-            } else {
-                f.manos->pulsar(como);
             }
+            f.salir(como);
             QTRY_VERIFY(!f.pantalla->isVisible());
             QCOMPARE(f.siguiente, Pantalla::Resumen);
             QVERIFY(f.filas().isEmpty());

@@ -1,20 +1,13 @@
-#include "core/Textos.h"
 #include "dataservice/ErrorDatos.h"
 #include "declarants/FrmDecResumen.h"
-#include "declarants/MensajesDeclarante.h"
-#include "declarants/cDecDatos.h"
-#include "declarants/cDecResumen.h"
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"
 #include "printing/cImOf.h"
+#include "resources/TablaMensajes.h"
 #include "support/ListaAbierta.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QSignalSpy>
-
-using namespace Qt::StringLiterals;
 
 /// The summary of one declarant with the 430 returns of the months given, of 2025.
 struct Resumen : ListaAbierta<FrmDecResumen>
@@ -194,10 +187,12 @@ private Q_SLOTS:
 
     void mensajesDeCabecera()
     {
-        for (const auto &[datos, codigo, foco] : {std::tuple{u"//"_s, 1, u"txtejer"_s},
-                                                  {u"2025/430/"_s, 2, u"cmbperiodo"_s},
-                                                  {u"2031/430/MAYO"_s, 4, u"txtejer"_s},
-                                                  {u"2025/430/ENERO"_s, 5, u"txtejer"_s}}) {
+        const QString fuera = msj(Msj::ErrorEjercicioPeriodoFuera, u"2002-01"_s, u"2030-12"_s);
+        for (const auto &[datos, motivo, foco] :
+             {std::tuple{u"//"_s, textoMensaje(255, Idioma::Castellano), u"txtejer"_s},
+              {u"2025/430/"_s, textoMensaje(256, Idioma::Castellano), u"cmbperiodo"_s},
+              {u"2031/430/MAYO"_s, fuera, u"txtejer"_s},
+              {u"2025/430/ENERO"_s, textoMensaje(259, Idioma::Castellano), u"txtejer"_s}}) {
             Resumen r({1});
             r.manos->pulsar("ImgNueva");
             r.manos->escribir("txtejer", u"1"_s);
@@ -207,32 +202,25 @@ private Q_SLOTS:
                 if (const QString entrada = datos.section(u'/', i, i); !entrada.isEmpty())
                     r.elegirEntrada(i == 1 ? "cmbmodelo" : "cmbperiodo", entrada);
             r.responderYPulsar(QMessageBox::Ok, "ImgNueva");
-            QCOMPARE(r.mensajes.texto(), textoCabecera(qint16(codigo)));
+            QCOMPARE(r.mensajes.texto(), motivo);
             QCOMPARE(r.manos->foco(), foco);
             QVERIFY(r.pantalla->isVisible() && !r.siguiente);
         }
     }
 
-    void noEstaEnLaLista()
+    void entradasDeLasListas()
     {
         Resumen r({1});
         r.manos->pulsar("ImgNueva");
-        auto *combo = r.combo("cmbperiodo");
-        combo->setFocus(Qt::PopupFocusReason);
-        combo->lineEdit()->selectAll();
-        QTest::keyClicks(combo, u"x9"_s);
+        r.manos->escribir("cmbperiodo", u"x9"_s);
         r.mensajes.responder(QMessageBox::Ok);
-        QTest::keyClick(combo, Qt::Key_Tab);
+        r.manos->tecla(Qt::Key_Tab);
         QCOMPARE(r.mensajes.texto(), msj(Msj::ErrorPeriodoLista));
-        QTRY_COMPARE(r.manos->foco(), u"cmbperiodo"_s);
-        QCOMPARE(combo->currentText(), u"X9"_s);
+        QTRY_COMPARE(r.manos->foco() + r.propuesta(), u"cmbperiodo2025/430/X9"_s);
         QCOMPARE(int(cabecera().PERIODO()), 2);
-    }
-
-    void tabuladorSaleDeLaLista()
-    {
-        Resumen r({1});
-        r.manos->pulsar("ImgNueva");
+        QApplication::setActiveWindow(r.pantalla.get());
+        r.manos->escribir("cmbperiodo", u"marzo"_s);
+        r.manos->control("txtejer")->setFocus();
         r.manos->tecla(Qt::Key_Tab);
         auto *modelo = r.combo("cmbmodelo");
         QTRY_VERIFY(modelo->view()->isVisible());
@@ -266,6 +254,11 @@ private Q_SLOTS:
                          u"|L|0|flxDeclaraciones"_s);
                 r.manos->tecla(Qt::Key_Tab);
             }
+        r.nueva(u"2025/480/ANUAL"_s);
+        Entorno::pasarAEuskera(*r.pantalla);
+        QCOMPARE(r.pantalla->windowTitle(), u"Aitortzailea - Aitorpenak"_s);
+        QCOMPARE(unidos({r.propuesta(), r.celda(0, 3), r.manos->texto("lblNumDecla")}),
+                 u"2025/480/URTEKOA|ABENDUA|1 aitorpen hautatu d(ir)a"_s);
     }
 
     void abrirDeclaracion()
@@ -344,19 +337,6 @@ private Q_SLOTS:
         QCOMPARE(r.mensajes.tomar()[1].texto,
                  msj(Msj::EliminadoEnOtraCopia, u"430 FEBRERO 2025"_s));
         QCOMPARE(r.filas(), 1);
-    }
-
-    void idioma()
-    {
-        Resumen r({1});
-        r.elegir(0);
-        r.manos->pulsar("ImgNueva");
-        Entorno::pasarAEuskera(*r.pantalla);
-        QCOMPARE(r.pantalla->windowTitle(), u"Aitortzailea - Aitorpenak"_s);
-        QCOMPARE(r.celda(0, 3), u"URTARRILA"_s);
-        QCOMPARE(r.propuesta(), u"2025/430/OTSAILA"_s);
-        QCOMPARE(r.grid()->currentIndex().row(), 0);
-        QCOMPARE(r.manos->texto("lblNumDecla"), u"1 aitorpen hautatu d(ir)a"_s);
     }
 };
 

@@ -3,12 +3,9 @@
 #include "support/DeclaracionesPrueba.h"
 #include "support/ServidorPrueba.h"
 
-#include <QDir>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTcpServer>
-
-using namespace Qt::StringLiterals;
 
 static const QString Cola = u"OstrelPrueba"_s;
 
@@ -44,8 +41,7 @@ private Q_SLOTS:
         pedirImpresion(u"430"_s);
         TrabajoImpresion trabajo(unico::la<cImOf>());
         SalidaImpresora salida;
-        QVERIFY(!salida.elegir(u"OtraQueNoExiste"_s));
-        QVERIFY(salida.elegir(Cola));
+        QVERIFY(!salida.elegir(u"OtraQueNoExiste"_s) && salida.elegir(Cola));
         QVERIFY(salida.imprimir(trabajo));
         // the server keeps what each job sent it: d00001-001, d00002-001
         const QDir cola(m_carpeta.filePath(u"cola"_s));

@@ -3,9 +3,6 @@
 #include "support/ValoresPrueba.h"
 
 #include <QPainter>
-#include <QTest>
-
-using namespace Qt::StringLiterals;
 
 /// Where things are drawn, read from the drawing itself.
 class TstImpresoDibujo : public QObject

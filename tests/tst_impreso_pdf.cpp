@@ -1,34 +1,23 @@
-#include "core/Rutas.h"
 #include "printing/DocumentoPdf.h"
 #include "printing/TrabajoImpresion.h"
+#include "support/LineasPrueba.h"
 #include "support/ValoresPrueba.h"
 
 #include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTest>
 
-#include <ctime>
-
-#ifdef Q_OS_UNIX
 #include <cerrno>
 #include <csignal>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#endif
 
-using namespace Qt::StringLiterals;
-
-#ifdef Q_OS_UNIX
 /// Takes the place of the system's: fails as a broken disk does while the switch is on.
 static bool SincronizacionRota = false;
 extern "C" int fsync(int descriptor)
@@ -39,15 +28,7 @@ extern "C" int fsync(int descriptor)
     }
     return static_cast<int>(syscall(SYS_fsync, descriptor));
 }
-#endif
 
-static QByteArray contenido(const QString &ruta)
-{
-    QFile fichero(ruta);
-    return fichero.open(QIODevice::ReadOnly) ? fichero.readAll() : QByteArray();
-}
-
-#ifdef Q_OS_UNIX
 /// Saves a PDF over another in a child process that `restringir` has tied down: it has to be
 /// refused with a reason, and the other to stay as it was.
 static void guardarRestringido(const QString &carpeta, const QByteArray &bytes,
@@ -67,10 +48,9 @@ static void guardarRestringido(const QString &carpeta, const QByteArray &bytes,
     QCOMPARE(waitpid(hijo, &estado, 0), hijo);
     QVERIFY(QFile::setPermissions(carpeta, deAntes));
     QCOMPARE(WEXITSTATUS(estado), 3);
-    QCOMPARE(contenido(ruta), QByteArray("antes"));
+    QCOMPARE(lineas::leer(ruta), QByteArray("antes"));
     QCOMPARE(QDir(carpeta).entryList(QDir::Files).size(), 1);
 }
-#endif
 
 /// The forms as PDF files and as pictures.
 class TstImpresoPdf : public QObject
@@ -99,77 +79,13 @@ private:
         const QString ruta = m_carpeta.filePath(nombre);
         return guardarPdf(ruta, bytes).isEmpty() ? ruta : QString();
     }
-    static void modelos()
+    /// The page as a picture against the one kept with the tests.
+    static void comparar(const QString &modelo)
     {
-        QTest::addColumn<QString>("modelo");
-        QTest::newRow("430") << u"430"_s;
-        QTest::newRow("480") << u"480"_s;
-    }
-
-    QTemporaryDir m_carpeta;
-
-private Q_SLOTS:
-    void propiedades()
-    {
-        const QByteArray bytes = pdf(u"430"_s, u"BO"_s);
-        QVERIFY(bytes.contains("<rdf:li>Ostrel de seguros</rdf:li>"));
-        QVERIFY(bytes.contains("<rdf:li>eu</rdf:li><rdf:li>es</rdf:li>"));
-        QVERIFY(bytes.contains(">Modelo de prueba</rdf:li>"));
-        const QString datos = ejecutar(u"pdfinfo"_s, {guardado(u"i.pdf"_s, bytes)});
-        static const QRegularExpression autor(u"Author: +Ostrel de seguros\n"_s);
-        QVERIFY2(datos.isEmpty()
-                     || (datos.contains(autor) && datos.contains(u"Modelo de prueba"_s)),
-                 qPrintable(datos));
-        if (QStandardPaths::findExecutable(u"pdffonts"_s).isEmpty())
-            QSKIP("pdffonts (poppler-utils) is not installed");
-        const QString fuentes = ejecutar(u"pdffonts"_s, {guardado(u"f.pdf"_s, bytes)});
-        QVERIFY(fuentes.contains(u"TrueType"_s));
-        for (const QString &linea : fuentes.split(u'\n', Qt::SkipEmptyParts).mid(2))
-            QVERIFY2(linea.contains(u" yes "), qPrintable(linea)); // embedded
-    }
-
-    void documento_data() { modelos(); }
-    /// How large it is, how long it takes and every text that a reader can copy from it.
-    void documento()
-    {
-        QFETCH(QString, modelo);
-        const QByteArray bytes = pdf(modelo, u"AD"_s); // loads the fonts
-        QVERIFY(!bytes.isEmpty() && bytes.size() < 60 * 1024);
-        constexpr int veces = 5;
-        const std::clock_t inicio = std::clock();
-        for (int i = 0; i < veces; ++i)
-            QVERIFY(pdf(modelo, u"AD"_s).size() < 60 * 1024);
-        const double ms
-            = 1000.0 * static_cast<double>(std::clock() - inicio) / CLOCKS_PER_SEC / veces;
-#ifdef NDEBUG
-        QVERIFY(ms < 50);
-#else
-        QVERIFY(ms < 2000); // unoptimised, maybe with sanitizers
-#endif
-        if (QStandardPaths::findExecutable(u"pdftotext"_s).isEmpty())
-            QSKIP("pdftotext (poppler-utils) is not installed");
-        const QString texto
-            = ejecutar(u"pdftotext"_s, {u"-raw"_s, guardado(u"t.pdf"_s, bytes), u"-"_s})
-                  .simplified();
-        const auto esperados
-            = valoresPrueba::leerTextos(QStringLiteral(OSTREL_REFERENCIAS "/%1.txt").arg(modelo));
-        QVERIFY(esperados.size() > 60);
-        for (const auto &esperado : esperados)
-            QVERIFY2(texto.contains(esperado.texto.simplified()), qPrintable(esperado.texto));
-    }
-
-    void referencia_data()
-    {
-        modelos();
-    }
-    void referencia()
-    {
-        QFETCH(QString, modelo);
-        constexpr double pixelesMm = 4;
-        QImage imagen(static_cast<int>(210 * pixelesMm), static_cast<int>(297 * pixelesMm),
-                      QImage::Format_RGB32);
-        imagen.setDotsPerMeterX(static_cast<int>(pixelesMm * 1000));
-        imagen.setDotsPerMeterY(imagen.dotsPerMeterX());
+        constexpr int pixelesMm = 4;
+        QImage imagen(210 * pixelesMm, 297 * pixelesMm, QImage::Format_RGB32);
+        imagen.setDotsPerMeterX(pixelesMm * 1000);
+        imagen.setDotsPerMeterY(pixelesMm * 1000);
         imagen.fill(Qt::white);
         QPainter pintor(&imagen);
         valoresPrueba::dibujar(pintor, modelo, valoresPrueba::lleno(), u"AD"_s);
@@ -194,7 +110,49 @@ private Q_SLOTS:
         QVERIFY2(parte < 0.002, qPrintable(QString::number(parte)));
     }
 
-#ifdef Q_OS_UNIX
+    QTemporaryDir m_carpeta;
+
+private Q_SLOTS:
+    void propiedades()
+    {
+        const QByteArray bytes = pdf(u"430"_s, u"BO"_s);
+        for (const char *parte :
+             {"<rdf:li>Ostrel de seguros</rdf:li>", ">Modelo de prueba</rdf:li>",
+              "<rdf:li>eu</rdf:li><rdf:li>es</rdf:li>"})
+            QVERIFY2(bytes.contains(parte), parte);
+        if (QStandardPaths::findExecutable(u"pdffonts"_s).isEmpty())
+            QSKIP("pdffonts (poppler-utils) is not installed");
+        const QString fuentes = ejecutar(u"pdffonts"_s, {guardado(u"f.pdf"_s, bytes)});
+        QVERIFY(fuentes.contains(u"TrueType"_s));
+        for (const QString &linea : fuentes.split(u'\n', Qt::SkipEmptyParts).mid(2))
+            QVERIFY2(linea.contains(u" yes "), qPrintable(linea)); // embedded
+    }
+
+    /// How large it is, and every text that a reader can copy from it.
+    void documento()
+    {
+        if (QStandardPaths::findExecutable(u"pdftotext"_s).isEmpty())
+            QSKIP("pdftotext (poppler-utils) is not installed");
+        for (const QString &modelo : {u"430"_s, u"480"_s}) {
+            const QByteArray bytes = pdf(modelo, u"AD"_s);
+            QVERIFY(!bytes.isEmpty() && bytes.size() < 60 * 1024);
+            const QString texto
+                = ejecutar(u"pdftotext"_s, {u"-raw"_s, guardado(u"t.pdf"_s, bytes), u"-"_s})
+                      .simplified();
+            const auto esperados = valoresPrueba::leerTextos(
+                QStringLiteral(OSTREL_REFERENCIAS "/%1.txt").arg(modelo));
+            QVERIFY(esperados.size() > 60);
+            for (const auto &esperado : esperados)
+                QVERIFY2(texto.contains(esperado.texto.simplified()), qPrintable(esperado.texto));
+        }
+    }
+
+    void referencias()
+    {
+        for (const QString &modelo : {u"430"_s, u"480"_s})
+            comparar(modelo);
+    }
+
     /// A sync that fails is told, and the file is the old one.
     void sincronizacionQueFalla()
     {
@@ -203,33 +161,13 @@ private Q_SLOTS:
         const QString motivo = guardarPdf(ruta, "nuevo");
         SincronizacionRota = false;
         QVERIFY2(motivo.startsWith(u"Error del disco"_s), qPrintable(motivo));
-        QCOMPARE(contenido(ruta), QByteArray("antes"));
+        QCOMPARE(lineas::leer(ruta), QByteArray("antes"));
     }
-
-    /// Neither a database under any name nor what is no file is written.
-    void rutasQueNoSeEscriben()
-    {
-        QVERIFY(QDir(m_carpeta.path()).mkpath(u"Tablas"_s));
-        fijarRutas(Rutas::desde(m_carpeta.path()));
-        const QString base = rutas().datos;
-        QFile modelo(base);
-        QVERIFY(modelo.open(QIODevice::WriteOnly) && modelo.write("datos") == 5);
-        modelo.close();
-        const QString enlace = m_carpeta.filePath(u"enlace.pdf"_s);
-        const QString tuberia = m_carpeta.filePath(u"tuberia.pdf"_s);
-        QVERIFY(QFile::link(base, enlace));
-        QCOMPARE(mkfifo(QFile::encodeName(tuberia).constData(), 0600), 0);
-        for (const QString &ruta : {base, enlace, tuberia, m_carpeta.path()})
-            QVERIFY2(!guardarPdf(ruta, "pdf").isEmpty(), qPrintable(ruta));
-        QCOMPARE(contenido(base), QByteArray("datos"));
-    }
-#endif
 
     void guardadosQueFallan()
     {
         const QString motivo = guardarPdf(m_carpeta.filePath(u"no/esta.pdf"_s), "x");
         QVERIFY(motivo.startsWith(u"No existe el fichero"_s));
-#ifdef Q_OS_UNIX
         QFile::setPermissions(m_carpeta.path(), QFile::Permissions(0x5755));
         guardarRestringido(
             m_carpeta.filePath(u"fija"_s), "nuevo",
@@ -249,7 +187,6 @@ private Q_SLOTS:
                     _exit(9);
             },
             QFile::Permissions(0x7755));
-#endif
     }
 };
 

@@ -15,32 +15,27 @@ private Q_SLOTS:
     void cleanup() { fijarIdioma(Idioma::Castellano); }
 
     /// Reading is the date's; here, the earliest day and what is said of a refused one.
-    void fechas_data()
-    {
-        QTest::addColumn<QString>("texto");
-        QTest::addColumn<qint32>("fecha"); // 0 refused
-        QTest::addColumn<QString>("mensaje");
-        QTest::newRow("C first") << u"01/01/2002"_s << 20020101 << QString();
-        QTest::newRow("C early")
-            << u"31/12/2001"_s << 0
-            << u"La Fecha de presentación no puede ser anterior al 01/01/2002"_s;
-        QTest::newRow("C wrong") << u"29/02/2023"_s << 0
-                                 << u"La Fecha de presentación introducida no es correcta"_s;
-        QTest::newRow("E first") << u"2002/01/01"_s << 20020101 << QString();
-        QTest::newRow("E early") << u"2001/12/31"_s << 0
-                                 << u"Aurkezpen data ezin da 2002/01/01 baino lehenagokoa izan"_s;
-        QTest::newRow("E wrong") << u"31/01/2016"_s << 0 << u"Aurkezpen data okerra da"_s;
-    }
     void fechas()
     {
-        QFETCH(QString, texto);
-        cFecha formato;
-        formato.fecidioma(QString::fromLatin1(QTest::currentDataTag()).first(1));
-        fijarIdioma(formato.fecidioma() == u"E" ? Idioma::Euskera : Idioma::Castellano);
-        const auto leida = comprobarFechaPresentacion(texto, formato);
-        QTEST(leida.fecha, "fecha");
-        QTEST(leida.mensaje, "mensaje");
-        QCOMPARE(leida.titulo, leida.fecha ? QString() : msj(Msj::TituloErrorDatosFecha));
+        const auto comprobar = [](const QString &idioma, const QString &texto, qint32 fecha,
+                                  const QString &mensaje) {
+            cFecha formato;
+            formato.fecidioma(idioma);
+            fijarIdioma(idioma == u"E" ? Idioma::Euskera : Idioma::Castellano);
+            const auto leida = comprobarFechaPresentacion(texto, formato);
+            QCOMPARE(leida.fecha, fecha);
+            QCOMPARE(leida.mensaje, mensaje);
+            QCOMPARE(leida.titulo, fecha ? QString() : msj(Msj::TituloErrorDatosFecha));
+        };
+        comprobar(u"C"_s, u"01/01/2002"_s, 20020101, {});
+        comprobar(u"C"_s, u"31/12/2001"_s, 0,
+                  u"La Fecha de presentación no puede ser anterior al 01/01/2002"_s);
+        comprobar(u"C"_s, u"29/02/2023"_s, 0,
+                  u"La Fecha de presentación introducida no es correcta"_s);
+        comprobar(u"E"_s, u"2002/01/01"_s, 20020101, {});
+        comprobar(u"E"_s, u"2001/12/31"_s, 0,
+                  u"Aurkezpen data ezin da 2002/01/01 baino lehenagokoa izan"_s);
+        comprobar(u"E"_s, u"31/01/2016"_s, 0, u"Aurkezpen data okerra da"_s);
     }
 
     void copias()

@@ -1,11 +1,8 @@
 #include "core/Importe.h"
-#include "core/Textos.h"
-#include "declarants/cDecResumen.h"
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"
 #include "printing/TrabajoImpresion.h"
 #include "printing/ValoresImpreso.h"
-#include "printing/cImOf.h"
 #include "support/DeclaracionesPrueba.h"
 #include "support/GrabadorDibujo.h"
 
@@ -14,7 +11,6 @@
 #include <QPdfWriter>
 #include <QTest>
 
-using namespace Qt::StringLiterals;
 using namespace impreso;
 
 namespace {

@@ -6,7 +6,7 @@
 #include <QBuffer>
 #include <QTest>
 
-class TestIntercambioLinea : public QObject
+class TstIntercambioLinea : public QObject
 {
     Q_OBJECT
 
@@ -75,33 +75,26 @@ private Q_SLOTS:
                            u"001"_s, u"ABRENZUOLA"_s.leftJustified(25), u"943123456"_s, 0.0, 0.0}));
     }
 
-    void caracteres_data()
-    {
-        QTest::addColumn<int>("byte");
-        QTest::addColumn<int>("caracter"); // -1: taken
-        for (const char letra : {'A', 'z', ' ', '9', '\xF1', '\xE7', '\xDA', '\xAA', '\xBF', '_'})
-            QTest::newRow(QByteArray::number(uchar(letra), 16)) << int(uchar(letra)) << -1;
-        for (const char letra : {'@', '\'', '"', '\xDF', '\xFF', '\xB5', '\xC3'})
-            QTest::newRow(QByteArray::number(uchar(letra), 16))
-                << int(uchar(letra)) << int(uchar(letra));
-        QTest::newRow("euro") << 0x80 << 0x20AC;
-        for (const int byte : {0x00, 0x09, 0x1A, 0x1B, 0x7F, 0x81, 0x9D, 0xAD})
-            QTest::newRow(QByteArray::number(byte, 16)) << byte << 0;
-    }
     void caracteres()
     {
-        QFETCH(int, byte);
-        QFETCH(int, caracter);
-        QByteArray linea = lineas::linea(1);
-        linea[152] = char(byte);
-        Registro registro;
-        const auto malo = intercambio::leerLinea(linea, registro);
-        QCOMPARE(registro.isEmpty(), caracter >= 0);
-        QCOMPARE(malo.has_value(), caracter >= 0);
-        if (malo) {
-            QCOMPARE(malo->columna, 153);
-            QCOMPARE(int(malo->byte), byte);
-            QCOMPARE(int(malo->caracter.unicode()), caracter);
+        // byte of the line, the character told; -1: it is taken
+        QList<std::pair<int, int>> casos{{0x80, 0x20AC}};
+        for (const int byte : {int('A'), 0x7A, 0x20, 0x39, 0xF1, 0xE7, 0xDA, 0xAA, 0xBF, 0x5F})
+            casos += {byte, -1};
+        for (const int byte : {int('@'), int('\''), int('"'), 0xDF, 0xFF, 0xB5, 0xC3})
+            casos += {byte, byte};
+        for (const int byte : {0x00, 0x09, 0x1A, 0x1B, 0x7F, 0x81, 0x9D, 0xAD})
+            casos += {byte, 0};
+        for (const auto &[byte, caracter] : std::as_const(casos)) {
+            QByteArray linea = lineas::linea(1);
+            linea[152] = char(byte);
+            Registro registro;
+            const auto malo = intercambio::leerLinea(linea, registro);
+            QVERIFY2(registro.isEmpty() == (caracter >= 0), linea);
+            const QList<int> dicho = malo
+                ? QList<int>{malo->columna, malo->byte, malo->caracter.unicode()}
+                : QList<int>{};
+            QCOMPARE(dicho, caracter < 0 ? QList<int>{} : (QList<int>{153, byte, caracter}));
         }
     }
 
@@ -111,41 +104,32 @@ private Q_SLOTS:
                  lineas::formato());
     }
 
-    void lectura_data()
-    {
-        QTest::addColumn<QByteArray>("contenido");
-        QTest::addColumn<QByteArrayList>("leidas");
-        const auto caso = [](const char *nombre, const QByteArray &contenido, QByteArrayList ls) {
-            QTest::newRow(nombre) << contenido << ls;
-        };
-        caso("nothing", "", {});
-        caso("one", "ab\r\n", {"ab"});
-        caso("no end", "ab\r\ncd", {"ab", "cd"});
-        caso("LF", "ab\ncd\n", {"ab", "cd"});
-        caso("CR", "ab\rcd\r", {"ab", "cd"});
-        caso("mixed", "a\r\r\n\nb\n\rc", {"a", "", "", "b", "", "c"});
-        caso("cut", "abcdefg\r\n", {"abcde"});
-        caso("zero byte", QByteArray("a\0b\r\n", 5), {QByteArray("a\0b", 3)});
-        // line ends about the edges of what is read at once
-        for (int sobra = -2; sobra <= 1; ++sobra)
-            caso(qPrintable(u"edge %1"_s.arg(sobra)),
-                 "x\r\n" + QByteArray(64 * 1024 - 3 + sobra, 'y') + "\r\nz\r\n",
-                 {"x", "yyyyy", "z"});
-    }
     void lectura()
     {
-        QFETCH(QByteArray, contenido);
-        QFETCH(QByteArrayList, leidas);
-        QBuffer fichero(&contenido);
-        QVERIFY(fichero.open(QIODevice::ReadOnly));
-        LectorLineas lector(fichero, 5);
-        QByteArrayList obtenidas;
-        while (lector.siguiente())
-            obtenidas += lector.linea().toByteArray();
-        QCOMPARE(obtenidas, leidas);
-        QCOMPARE(lector.numero(), leidas.size());
+        const auto leer = [](QByteArray contenido, const QByteArrayList &esperadas) {
+            QBuffer fichero(&contenido);
+            QVERIFY(fichero.open(QIODevice::ReadOnly));
+            LectorLineas lector(fichero, 5);
+            QByteArrayList obtenidas;
+            while (lector.siguiente())
+                obtenidas += lector.linea().toByteArray();
+            QCOMPARE(obtenidas, esperadas);
+            QCOMPARE(lector.numero(), esperadas.size());
+        };
+        leer("", {});
+        leer("ab\r\n", {"ab"});
+        leer("ab\r\ncd", {"ab", "cd"});
+        leer("ab\ncd\n", {"ab", "cd"});
+        leer("ab\rcd\r", {"ab", "cd"});
+        leer("a\r\r\n\nb\n\rc", {"a", "", "", "b", "", "c"});
+        leer("abcdefg\r\n", {"abcde"});
+        leer(QByteArray("a\0b\r\n", 5), {QByteArray("a\0b", 3)});
+        // line ends about the edges of what is read at once
+        for (int sobra = -2; sobra <= 1; ++sobra)
+            leer("x\r\n" + QByteArray(64 * 1024 - 3 + sobra, 'y') + "\r\nz\r\n",
+                 {"x", "yyyyy", "z"});
     }
 };
 
-QTEST_GUILESS_MAIN(TestIntercambioLinea)
+QTEST_GUILESS_MAIN(TstIntercambioLinea)
 #include "tst_intercambio_linea.moc"

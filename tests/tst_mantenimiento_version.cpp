@@ -1,5 +1,3 @@
-#include "core/Textos.h"
-#include "core/Unico.h"
 #include "maintenance/BuscarActualizacion.h"
 #include "maintenance/PerfilPrivado.h"
 #include "maintenance/VersionPublicada.h"
@@ -12,12 +10,8 @@
 #include "widgets/Navegador.h"
 #include "widgets/PantallaBase.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
 
-#include <optional>
-
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 static QByteArray respuesta(const QByteArray &version,
@@ -29,7 +23,7 @@ static QByteArray respuesta(const QByteArray &version,
 }
 
 /// The check for a newer version against real servers, good and hostile.
-class PruebaVersion : public QObject
+class TstMantenimientoVersion : public QObject
 {
     Q_OBJECT
 
@@ -222,49 +216,41 @@ private Q_SLOTS:
         QCOMPARE(estado.ComVer(), 0);
     }
 
-    void paginaTemporalDeDescarga_data()
-    {
-        QTest::addColumn<QByteArray>("direccion");
-        QTest::addColumn<QByteArray>("accion"); // empty: refused
-        const auto caso = [](const char *direccion, const char *accion) {
-            QTest::newRow(direccion) << QByteArray(direccion) << QByteArray(accion);
-        };
-        for (const char *sana :
-             {"https://www.varlenda.example/x/y.exe", "http://www.varlenda.example/a?b=1&c=%20"})
-            caso(sana, sana);
-        caso("https://v.example/' onload='alert(1)", "https://v.example/%27%20onload=%27alert(1)");
-        caso("https://v.example/><script>", "https://v.example/%3E%3Cscript%3E");
-        for (const char *mala :
-             {"javascript:alert(1)", "file:///etc/passwd", "//v.example/x", "https:"})
-            caso(mala, "");
-    }
     void paginaTemporalDeDescarga()
     {
-        QFETCH(QByteArray, direccion);
-        QFETCH(QByteArray, accion);
-        const QString pagina = m_entorno->ruta(u"temphtm.HTM"_s);
-        escribir(pagina, QByteArray(2000, 'v'));
-        ServidorVersion servidor(respuesta("2.0.0", direccion));
-        preparar(servidor.direccion());
-        QList<QUrl> abiertas;
-        navegador::sustituir([&](const QUrl &url) {
-            abiertas.append(url);
-            return true;
-        });
-        ConductorMensajes mensajes;
-        if (accion.isEmpty())
-            mensajes.responder(QMessageBox::Ok);
-        buscar([](PantallaBase &pantalla) { Manos(pantalla).pulsar("CmdActualizar"); });
-        if (accion.isEmpty()) {
-            QVERIFY(abiertas.isEmpty());
-            QVERIFY(mensajes.texto().contains(QString::fromLatin1(direccion)));
-            return;
+        const QByteArray sana = "http://www.varlenda.example/a?b=1&c=%20";
+        const QByteArray v = "https://v.example/";
+        for (const auto &[direccion, accion] : // refused without an action
+             {std::pair{sana, sana},
+              {v + "' onload='alert(1)", v + "%27%20onload=%27alert(1)"},
+              {v + "><script>", v + "%3E%3Cscript%3E"},
+              {QByteArray("javascript:alert(1)"), {}},
+              {QByteArray("file:///etc/passwd"), {}},
+              {QByteArray("//v.example/x"), {}},
+              {QByteArray("https:"), {}}}) {
+            const QString pagina = m_entorno->ruta(u"temphtm.HTM"_s);
+            const QByteArray antes(2000, 'v');
+            escribir(pagina, antes);
+            ServidorVersion servidor(respuesta("2.0.0", direccion));
+            preparar(servidor.direccion());
+            QList<QUrl> abiertas;
+            navegador::sustituir([&](const QUrl &url) {
+                abiertas.append(url);
+                return true;
+            });
+            ConductorMensajes mensajes;
+            if (accion.isEmpty())
+                mensajes.responder(QMessageBox::Ok);
+            buscar([](PantallaBase &pantalla) { Manos(pantalla).pulsar("CmdActualizar"); });
+            if (accion.isEmpty())
+                QVERIFY(mensajes.texto().contains(QString::fromLatin1(direccion)));
+            QCOMPARE(abiertas.value(0), accion.isEmpty() ? QUrl() : QUrl::fromLocalFile(pagina));
+            QCOMPARE(bytes(pagina),
+                     accion.isEmpty() ? antes
+                                      : "<HTML>  <BODY ONLOAD='document.formulario.submit();'>  "
+                                        "<FORM NAME='formulario' action='"
+                             + accion + "' method=post>  </FORM></BODY> </HTML>");
         }
-        QCOMPARE(abiertas, {QUrl::fromLocalFile(pagina)});
-        QCOMPARE(bytes(pagina),
-                 "<HTML>  <BODY ONLOAD='document.formulario.submit();'>  <FORM NAME='formulario' "
-                 "action='"
-                     + accion + "' method=post>  </FORM></BODY> </HTML>");
     }
 
     void sinNavegador()
@@ -286,5 +272,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PruebaVersion)
+QTEST_MAIN(TstMantenimientoVersion)
 #include "tst_mantenimiento_version.moc"

@@ -1,22 +1,11 @@
 #include "support/LineasPrueba.h"
+#include "support/Ostrel.h"
 
-#include <QFileInfo>
 #include <QJsonDocument>
-#include <QProcess>
 #include <QStandardPaths>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <optional>
-
-using namespace Qt::StringLiterals;
-
-/// "--a 1 --b 2 3" as arguments; "_" stands for a blank inside one.
-static QStringList partes(const char *texto)
-{
-    QStringList lista = QString::fromUtf8(texto).split(u' ', Qt::SkipEmptyParts);
-    return lista.replaceInStrings(u"_"_s, u" "_s);
-}
+#include <sys/resource.h>
 
 static const QStringList Listar = partes("listar declaraciones --dni 12345678Z");
 
@@ -39,39 +28,36 @@ static QStringList declarar(const char *resto)
     return partes("declarar --dni 12345678Z") + partes(resto);
 }
 
-/// The program itself, run as a user runs it in a terminal.
-class TstOrden : public QObject
+/// The commands, as a user gives them in a terminal.
+class TstOrden : public QObject, Ostrel
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_carpeta.emplace(); }
+    void init()
+    {
+        m_carpeta.emplace();
+        carpeta = m_carpeta->path();
+    }
 
     void alta()
     {
         decir(opcionesAlta()
                   + partes("--via av --numero 00012 --letra b --escalera=1 --piso 2 --mano dch"),
-              u"Declarante dado de alta: 12345678Z - SEGUROS ÑANDÚ\n"_s);
+              "Declarante dado de alta: 12345678Z - SEGUROS ÑANDÚ\n");
         rechazar(opcionesAlta(), "No se puede dar de alta al nuevo declarante.");
         QStringList fuera = opcionesAlta(u"codmun"_s);
         fuera.replaceInStrings(u"20001"_s, u"01001"_s);
         fuera.replaceInStrings(u"12345678z"_s, u"A58818501"_s);
         hacer(fuera + partes("--codprov 1 --nommun otro_lugar"));
         // every field in its place: the whole lines of the exchange file
-        const QString fichero = m_carpeta->filePath(u"declarantes.txt"_s);
-        hacer({u"exportar"_s, fichero});
-        QCOMPARE(QString::fromLatin1(lineas::leer(fichero)),
+        QCOMPARE(QString::fromLatin1(ostrel(partes("exportar -")).texto),
                  u"12345678ZSEGUROS ÑANDÚ                           "
-                 u"AVMAYOR                         00012B 1 2 DCH2020001001"
-                 u"ABRENZUOLA               94300000000000000000000\r\n"
-                 u"A58818501SEGUROS ÑANDÚ                           "
-                 u"CLMAYOR                         00000         0101001000"
-                 u"OTRO LUGAR               94300000000000000000000\r\n"_s);
-        QVERIFY(
-            json("declarantes")
-                .endsWith(
-                    u",{CSCO:2,DNI:A58818501,NOMBRE:SEGUROS ÑANDÚ,NOMMUN:OTRO LUGAR,NOMPROV:ÁLAVA,"
-                    "NUM430:0,NUM480:0}]"));
+                 "AVMAYOR                         00012B 1 2 DCH2020001001"
+                 "ABRENZUOLA               94300000000000000000000\r\n"
+                 "A58818501SEGUROS ÑANDÚ                           "
+                 "CLMAYOR                         00000         0101001000"
+                 "OTRO LUGAR               94300000000000000000000\r\n"_s);
     }
 
     void altaRechazada()
@@ -100,13 +86,13 @@ private Q_SLOTS:
 
     void declaracionesYListas()
     {
-        decir(partes("listar declarantes"), u"No hay declarantes.\n"_s);
-        decir(partes("listar declarantes --json"), u"[\n]\n"_s);
+        decir(partes("listar declarantes"), "No hay declarantes.\n");
+        decir(partes("listar declarantes --json"), "[\n]\n");
         rechazar(Listar, "No existe ningún declarante con el DNI-CIF 12345678Z.\n");
         hacer(opcionesAlta());
-        decir(Listar, u"El declarante no tiene declaraciones.\n"_s);
+        decir(Listar, "El declarante no tiene declaraciones.\n");
         decir(declarar("430 --ejercicio 2020 --periodo 1 --base 1.234,56"), // 6 % until 2020
-              u"Declaración guardada: modelo 430, 2020 - ENERO, 74,07 euros\n"_s);
+              "Declaración guardada: modelo 430, 2020 - ENERO, 74,07 euros\n");
         hacer(declarar("430 --ejercicio 2026 --periodo 12 --base 1234.56 "
                        "--base-rectificacion -100,00 --cuota-rectificacion -8"));
         hacer(declarar("430 --ejercicio 2026 --periodo 11 --base=-9999999999999,99"));
@@ -114,20 +100,26 @@ private Q_SLOTS:
                        "--cuota-rectificacion 9999999999999,99"));
         decir(declarar("480 --ejercicio 2026 --casilla 01=100000,00 --casilla 67=-0,50 "
                        "--casilla 2=7 --casilla 73=99999,50 --casilla 79=5 --casilla 80=-10"),
-              u"Declaración guardada: modelo 480, 2026 - ANUAL, 7.989,96 euros\n"_s);
+              "Declaración guardada: modelo 480, 2026 - ANUAL, 7.989,96 euros\n");
         hacer(declarar("480 --ejercicio 2025"));
         // the total fits, in whatever order the boxes come
         hacer(declarar("480 --ejercicio 2024 --casilla 04=5 --casilla 01=9999999999999,99 "
                        "--casilla 07=-9999999999999,99 --casilla 73=5"));
         decir(Listar,
-              u"Ejercicio  Período     Modelo               Importe\n"
-              u"2020       ENERO       430                    74,07\n"
-              u"2024       ANUAL       480                     0,40\n"
-              u"2025       ANUAL       480                     0,00\n"
-              u"2026       SEPTIEMBRE  430     9.999.999.999.999,99\n"
-              u"2026       NOVIEMBRE   430      -800.000.000.000,00\n"
-              u"2026       DICIEMBRE   430                    90,76\n"
-              u"2026       ANUAL       480                 7.989,96\n"_s);
+              "Ejercicio  Período     Modelo               Importe\n"
+              "2020       ENERO       430                    74,07\n"
+              "2024       ANUAL       480                     0,40\n"
+              "2025       ANUAL       480                     0,00\n"
+              "2026       SEPTIEMBRE  430     9.999.999.999.999,99\n"
+              "2026       NOVIEMBRE   430      -800.000.000.000,00\n"
+              "2026       DICIEMBRE   430                    90,76\n"
+              "2026       ANUAL       480                 7.989,96\n");
+        decir(partes("listar declarantes"),
+              "DNI        Razón social   Nombre del municipio  Nombre de provincia  430  480\n"
+              "12345678Z  SEGUROS ÑANDÚ  ABRENZUOLA            VARLENDA               4    3\n");
+        QCOMPARE(json("declarantes"),
+                 u"[{CSCO:1,DNI:12345678Z,NOMBRE:SEGUROS ÑANDÚ,NOMMUN:ABRENZUOLA,"
+                 "NOMPROV:VARLENDA,NUM430:4,NUM480:3}]"_s);
         const QString filas = json("declaraciones --dni 12345678Z");
         for (const QString &fila :
              {u"{CSDE:2,EJERCICIO:2026,IMPORTE:90.76,MODELO:430,PERIODICIDAD:1,PERIODO:12,"
@@ -135,10 +127,7 @@ private Q_SLOTS:
               u"{CSDE:5,EJERCICIO:2026,IMPORTE:7989.96,MODELO:480,PERIODICIDAD:2,PERIODO:12,"
               "TIPOLOGIA:2}"_s})
             QVERIFY2(filas.contains(fila), qPrintable(filas));
-        decir(partes("listar declarantes"),
-              u"DNI        Razón social   Nombre del municipio  Nombre de provincia  430  480\n"
-              u"12345678Z  SEGUROS ÑANDÚ  ABRENZUOLA            VARLENDA               4    3\n"_s);
-        QVERIFY(ostrel(Listar + partes("--json")).texto.contains(u": 9999999999999.99,"));
+        QVERIFY(ostrel(Listar + partes("--json")).texto.contains(": 9999999999999.99,"));
     }
 
     void declaracionesRechazadas()
@@ -182,7 +171,7 @@ private Q_SLOTS:
         hacer(declarar("430 --ejercicio 2026 --periodo 2 --base 250"));
         hacer(declarar("480 --ejercicio 2026 --casilla 01=300 --casilla 73=300"));
         const auto comprobar = [this](const char *opciones, const char *lleva, const char *falta) {
-            const QString pdf = m_carpeta->filePath(u"salida.pdf"_s);
+            const QString pdf = carpeta + u"/salida.pdf"_s;
             QFile::remove(pdf);
             hacer(partes("imprimir --dni 12345678Z --ejercicio 2026") + partes(opciones)
                   + QStringList{u"--pdf"_s, pdf});
@@ -229,7 +218,7 @@ private Q_SLOTS:
         caso("430 --ejercicio 2026 --periodo 1 --fecha 30/02/2026 --pdf x", "", 1);
         // a file of the program's own stays what it is, whatever name it is given by
         const QString base = tablas() + u"/OstrMod.mdb"_s;
-        const QString enlace = m_carpeta->filePath(u"salida.pdf"_s);
+        const QString enlace = carpeta + u"/salida.pdf"_s;
         QVERIFY(QFile::link(base, enlace));
         const QByteArray antes = lineas::leer(base);
         const QStringList orden
@@ -239,33 +228,32 @@ private Q_SLOTS:
             rechazar(orden + QStringList{destino}, "");
         QCOMPARE(lineas::leer(base), antes);
         // one that may grow no further is told, and ends nothing
-        const QString pdf = m_carpeta->filePath(u"a.pdf"_s);
-        QProcess proceso;
-        proceso.start(u"bash"_s,
-                      QStringList{u"-c"_s, u"ulimit -f 1; exec \"$@\""_s, u"bash"_s,
-                                  QStringLiteral(OSTREL), u"--carpeta"_s, m_carpeta->path()}
-                          + orden + QStringList{pdf});
-        QVERIFY(proceso.waitForFinished());
-        QCOMPARE(proceso.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(proceso.exitCode(), 1);
+        const QString pdf = carpeta + u"/a.pdf"_s;
+        rechazada(proceso(orden + QStringList{pdf},
+                          [] {
+                              const rlimit limite{1024, 1024};
+                              ::setrlimit(RLIMIT_FSIZE, &limite);
+                          }),
+                  "a.pdf");
         QVERIFY(!QFileInfo::exists(pdf));
     }
 
     /// Without a screen, or on a platform that is not there: one line, and no core dump.
     void sinPantalla()
     {
-        const char *motivo = "No se puede abrir la ventana del programa: no existe la plataforma ";
-        rechazar({}, (motivo + QByteArray("«none-that-exists».\n")).constData());
-        rechazar(partes("-platform otra"), (motivo + QByteArray("«otra».\n")).constData());
+        const QByteArray motivo
+            = "No se puede abrir la ventana del programa: no existe la plataforma ";
+        rechazada(proceso({}), motivo + "«none-that-exists».\n");
+        rechazada(proceso(partes("-platform otra")), motivo + "«otra».\n");
     }
 
     void idioma()
     {
-        decir(partes("idioma"), u"Idioma del programa: C (Castellano)\n"_s);
+        decir(partes("idioma"), "Idioma del programa: C (Castellano)\n");
         hacer(partes("idioma e"));
-        decir(partes("idioma"), u"Programaren hizkuntza: E (Euskera)\n"_s);
-        decir(partes("listar declarantes"), u"Ez dago aitortzailerik.\n"_s);
-        QVERIFY(ostrel(partes("--help")).texto.startsWith(u"Erabilera:"));
+        dicha(proceso(partes("idioma")), "Programaren hizkuntza: E (Euskera)\n");
+        decir(partes("listar declarantes"), "Ez dago aitortzailerik.\n");
+        QVERIFY(ostrel(partes("--help")).texto.startsWith("Erabilera:"));
         rechazar(opcionesAlta(u"dni"_s, u"1"_s), "--dni aukera: NA-IFK");
     }
 
@@ -292,25 +280,23 @@ private Q_SLOTS:
 
     void ayuda()
     {
-        for (const auto &[orden, contiene] : {std::pair{"--help", u"idioma [C|E]"_s},
-                                              {"-h", u"declarante alta"_s},
-                                              {"listar -h", u"listar declaraciones"_s},
-                                              {"declarar 480 --help", u"[--casilla NN=EUROS …]"_s},
-                                              {"--version", u"Ostrel de Seguros "_s}}) {
-            const Salida salida = ostrel(partes(orden));
-            QCOMPARE(salida.codigo, 0);
-            QCOMPARE(salida.error, QString());
-            QVERIFY2(salida.texto.contains(contiene), orden);
-        }
+        for (const auto &[orden, contiene] : {std::pair{"--help", "idioma [C|E]"},
+                                              {"-h", "declarante alta"},
+                                              {"listar -h", "listar declaraciones"},
+                                              {"declarar 480 --help", "[--casilla NN=EUROS …]"}})
+            QVERIFY2(ostrel(partes(orden)).texto.contains(contiene), orden);
+        const Salida version = proceso(partes("--version"));
+        dicha(version, "Ostrel de Seguros " + version.texto.mid(18));
+        QCOMPARE(version.texto.count('.'), 2);
         // asking for help leaves no trace
         QVERIFY(!QFileInfo::exists(tablas()));
     }
 
-    void carpeta()
+    void carpetaQueNoExiste()
     {
-        const QString ninguna = m_carpeta->filePath(u"no existe"_s);
+        const QString ninguna = carpeta + u"/no existe"_s;
         rechazar({u"idioma"_s, u"--carpeta"_s, ninguna},
-                 qPrintable(u"No existe la carpeta «%1».\n"_s.arg(ninguna)));
+                 u"No existe la carpeta «%1».\n"_s.arg(ninguna).toUtf8());
         QVERIFY(!QFileInfo::exists(ninguna));
     }
 
@@ -320,75 +306,25 @@ private Q_SLOTS:
         hacer(opcionesAlta());
         const QByteArray contenido = QByteArray("not a database at all\n").repeated(500);
         lineas::escribir(tablas() + u"/OstrMod.mdb"_s, contenido);
-        for (const QStringList &orden : {partes("listar declarantes"), opcionesAlta()}) {
-            const Salida salida = ostrel(orden);
-            QCOMPARE(salida.codigo, 1);
-            QCOMPARE(salida.texto, QString());
-            QVERIFY2(salida.error.contains(u"OstrMod.mdb"), qPrintable(salida.error));
-        }
+        for (const QStringList &orden : {partes("listar declarantes"), opcionesAlta()})
+            rechazada(proceso(orden), "OstrMod.mdb");
         QCOMPARE(lineas::leer(tablas() + u"/OstrMod.mdb"_s), contenido);
     }
 
 private:
-    struct Salida
-    {
-        int codigo;
-        QString texto, error;
-    };
-
-    Salida ostrel(QStringList argumentos) const
-    {
-        if (!argumentos.contains(u"--carpeta"_s))
-            argumentos += {u"--carpeta"_s, m_carpeta->path()};
-        QProcess proceso;
-        auto entorno = QProcessEnvironment::systemEnvironment();
-        entorno.remove(u"DISPLAY"_s);
-        entorno.insert(u"QT_QPA_PLATFORM"_s, u"none-that-exists"_s);
-        proceso.setProcessEnvironment(entorno);
-        proceso.start(QStringLiteral(OSTREL), argumentos);
-        if (!proceso.waitForFinished() || proceso.exitStatus() != QProcess::NormalExit)
-            return {-1, {}, proceso.errorString()};
-        return {proceso.exitCode(), QString::fromUtf8(proceso.readAllStandardOutput()),
-                QString::fromUtf8(proceso.readAllStandardError())};
-    }
-
-    /// The command fails with `codigo`, prints nothing else, and tells `motivo`: all that it tells
-    /// when that ends a line.
-    void rechazar(const QStringList &argumentos, const char *motivo, int codigo = 1) const
-    {
-        const Salida salida = ostrel(argumentos);
-        const QString esperado = QString::fromUtf8(motivo);
-        QVERIFY2(!salida.error.isEmpty() && salida.error.startsWith(esperado)
-                     && (!esperado.endsWith(u'\n') || salida.error == esperado),
-                 qPrintable(salida.error));
-        QCOMPARE(salida.texto, QString());
-        QCOMPARE(salida.codigo, codigo);
-    }
-
-    /// The command is done, and says `texto` when that is given.
-    void decir(const QStringList &argumentos, const QString &texto) const
-    {
-        const Salida salida = ostrel(argumentos);
-        QCOMPARE(salida.error, QString());
-        QCOMPARE(salida.codigo, 0);
-        if (!texto.isNull())
-            QCOMPARE(salida.texto, texto);
-    }
-    void hacer(const QStringList &argumentos) const { decir(argumentos, {}); }
-
     /// A list on one line, without the quotes.
     QString json(const char *lista) const
     {
         const Salida salida = ostrel(partes("listar --json") + partes(lista));
         return QString::fromUtf8(
-                   QJsonDocument::fromJson(salida.texto.toUtf8()).toJson(QJsonDocument::Compact))
+                   QJsonDocument::fromJson(salida.texto).toJson(QJsonDocument::Compact))
             .remove(u'"');
     }
 
-    QString tablas() const { return m_carpeta->filePath(u"Tablas"_s); }
+    QString tablas() const { return carpeta + u"/Tablas"_s; }
 
     std::optional<QTemporaryDir> m_carpeta;
 };
 
-QTEST_GUILESS_MAIN(TstOrden)
+QTEST_MAIN(TstOrden)
 #include "tst_orden.moc"

@@ -1,9 +1,4 @@
-#include "dataservice/SvrOstr.h"
 #include "support/ServidorPrueba.h"
-
-#include <SQLiteCpp/Database.h>
-
-using namespace Qt::StringLiterals;
 
 class TstServidorDatos : public QObject
 {
@@ -32,36 +27,25 @@ private Q_SLOTS:
         QCOMPARE(limites, (Registro{2002, 2030, 1, 12}));
     }
 
-    void tipos_data()
-    {
-        QTest::addColumn<int>("ejercicio");
-        QTest::addColumn<int>("periodo");
-        QTest::addColumn<float>("mensual");
-        QTest::addColumn<QVariantList>("anuales");
-        QTest::newRow("before any") << 1996 << 12 << 0.0F << QVariantList{0.0F};
-        QTest::newRow("first") << 1997 << 1 << 4.0F << QVariantList{4.0F};
-        QTest::newRow("last month of the second") << 2020 << 12 << 6.0F << QVariantList{6.0F};
-        QTest::newRow("first month of the third") << 2021 << 1 << 8.0F << QVariantList{8.0F};
-        QTest::newRow("now") << 2026 << 7 << 8.0F << QVariantList{8.0F};
-        QTest::newRow("before a change in July") << 2027 << 6 << 8.0F << QVariantList{8.0F, 9.15F};
-        QTest::newRow("after it") << 2027 << 7 << 9.15F << QVariantList{8.0F, 9.15F};
-        QTest::newRow("the year after") << 2028 << 1 << 9.15F << QVariantList{9.15F};
-    }
     void tipos()
     {
-        QFETCH(int, ejercicio);
-        QFETCH(int, periodo);
-        QFETCH(float, mensual);
-        QFETCH(QVariantList, anuales);
         SQLite::Database(m_servidor->lectura().toStdString(), SQLite::OPEN_READWRITE)
             .exec("INSERT INTO T09_TIPOS VALUES (202707, 915)");
         const auto objeto = m_servidor->generales(m_servidor->lectura());
-        QCOMPARE(objeto->ObtenerTipoImpositivo(static_cast<qint16>(ejercicio),
-                                               static_cast<quint8>(periodo)),
-                 mensual);
-        Registro tipos;
-        objeto->ObtenerTipoAnual(tipos, static_cast<qint16>(ejercicio));
-        QCOMPARE(tipos, anuales);
+        // exercise, period, the month's rate, the year's
+        for (const auto &[ejercicio, periodo, mensual, anuales] :
+             {std::tuple{1996, 12, 0.0F, Registro{0.0F}},
+              {1997, 1, 4.0F, {4.0F}},
+              {2020, 12, 6.0F, {6.0F}},
+              {2021, 1, 8.0F, {8.0F}},
+              {2027, 6, 8.0F, {8.0F, 9.15F}},
+              {2027, 7, 9.15F, {8.0F, 9.15F}},
+              {2028, 1, 9.15F, {9.15F}}}) {
+            QCOMPARE(objeto->ObtenerTipoImpositivo(qint16(ejercicio), quint8(periodo)), mensual);
+            Registro tipos;
+            objeto->ObtenerTipoAnual(tipos, qint16(ejercicio));
+            QCOMPARE(tipos, anuales);
+        }
     }
 
     /// More rates than an annual return has bands are told, none is dropped.

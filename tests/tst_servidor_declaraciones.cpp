@@ -4,8 +4,6 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
-using namespace Qt::StringLiterals;
-
 class TstServidorDeclaraciones : public QObject
 {
     Q_OBJECT

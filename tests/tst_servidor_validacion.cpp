@@ -1,8 +1,6 @@
 #include "server/ValidacionDeclarante.h"
 #include "support/ServidorPrueba.h"
 
-using namespace Qt::StringLiterals;
-
 class TstServidorValidacion : public QObject
 {
     Q_OBJECT
@@ -21,43 +19,26 @@ private Q_SLOTS:
             QVERIFY2(!servidor::nifValido(QString::fromUtf8(malo)), malo);
     }
 
-    void declarante_data()
-    {
-        using namespace RegValidacion;
-        QTest::addColumn<int>("campo");
-        QTest::addColumn<QString>("valor");
-        QTest::addColumn<int>("codigo");
-        const auto caso = [](const char *nombre, int campo, const char *valor, int codigo) {
-            QTest::newRow(nombre) << campo << QString::fromUtf8(valor) << codigo;
-        };
-        caso("valid", DNI, "12345678Z", 0);
-        caso("identifier", DNI, "12345678A", 1);
-        caso("foreigner", DNI, "X1234567L", 0);
-        caso("name", NOMBRE, "  ", 2);
-        caso("street", DOMICILIO, "", 3);
-        caso("no province", CODPROV, "", 4);
-        caso("province 53", CODPROV, "53", 4);
-        caso("postal code of another", CODPROV, "31", 5);
-        caso("four figures", CODPOS, "2012", 6);
-        caso("not figures", CODPOS, "2012A", 6);
-        caso("three last zero", CODPOS, "20000", 7);
-        caso("another's and three last zero", CODPOS, "31000", 5);
-        caso("all zero", CODPOS, "00000", 8);
-        caso("municipality code", CODMUN, "", 9);
-        caso("municipality 000", CODMUN, "000", 9);
-        caso("municipality of four figures", CODMUN, "0001", 9);
-        caso("municipality name", NOMMUN, "", 10);
-        caso("eight figures", TELEFONO, "94312345", 11);
-        caso("no telephone", TELEFONO, "", 12);
-    }
     void declarante()
     {
-        QFETCH(int, campo);
-        QFETCH(QString, valor);
-        QFETCH(int, codigo);
-        Registro datos = validacion();
-        datos[campo] = valor;
-        QCOMPARE(servicio::crear<SvrOstr::cDeclarante>()->ValidarDatosDeclarante(datos), codigo);
+        using namespace RegValidacion;
+        const auto objeto = servicio::crear<SvrOstr::cDeclarante>();
+        // a field, its values "value>code of the rule"
+        for (const auto &[campo, valores] :
+             {std::pair{DNI, u"12345678Z>0|12345678A>1|X1234567L>0"_s},
+              {NOMBRE, u"  >2"_s},
+              {DOMICILIO, u">3"_s},
+              {CODPROV, u">4|53>4|31>5"_s},
+              {CODPOS, u"2012>6|2012A>6|20000>7|31000>5|00000>8"_s},
+              {CODMUN, u">9|000>9|0001>9"_s},
+              {NOMMUN, u">10"_s},
+              {TELEFONO, u"94312345>11|>12"_s}})
+            for (const QString &caso : valores.split(u'|')) {
+                Registro datos = validacion();
+                datos[campo] = caso.section(u'>', 0, 0);
+                QVERIFY2(objeto->ValidarDatosDeclarante(datos) == caso.section(u'>', 1).toInt(),
+                         qPrintable(QString::number(campo) + u' ' + caso));
+            }
     }
 
     void primeraReglaRota()
@@ -96,38 +77,27 @@ private Q_SLOTS:
                  QVariantList{u"Ez dago horrelako bide motarik"_s});
     }
 
-    void cabecera_data()
-    {
-        QTest::addColumn<int>("ejercicio");
-        QTest::addColumn<int>("periodo");
-        QTest::addColumn<QString>("modelo");
-        QTest::addColumn<int>("codigo");
-        const auto m430 = u"430"_s;
-        QTest::newRow("valid") << 2026 << 1 << m430 << 0;
-        QTest::newRow("first month") << 2002 << 3 << m430 << 0;
-        QTest::newRow("annual") << 2026 << 12 << u"480"_s << 0;
-        QTest::newRow("last month") << 2030 << 10 << m430 << 0;
-        QTest::newRow("no exercise") << 0 << 0 << QString() << 1;
-        QTest::newRow("no period") << 2026 << 0 << QString() << 2;
-        QTest::newRow("no model") << 2026 << 1 << QString() << 3;
-        QTest::newRow("month before") << 2002 << 2 << m430 << 4;
-        QTest::newRow("month after") << 2030 << 11 << m430 << 4;
-        QTest::newRow("month 13") << 2026 << 13 << m430 << 4;
-        QTest::newRow("before Christ") << -1 << 5 << m430 << 4;
-        QTest::newRow("annual in May") << 2026 << 5 << u"480"_s << 2;
-    }
     void cabecera()
     {
-        QFETCH(int, ejercicio);
-        QFETCH(int, periodo);
-        QFETCH(QString, modelo);
-        QFETCH(int, codigo);
-        const int periodicidad = modelo == u"480" ? 2 : 1;
-        Registro datos{ejercicio, periodicidad, periodo, 2002, 3, 2030, 10};
         const auto objeto = m_servidor.declaraciones();
-        QCOMPARE(objeto->EjerPerValidos(datos), codigo == 0 || codigo == 3);
-        datos += QVariantList{modelo, 1};
-        QCOMPARE(objeto->ValidarDatosComunes(datos), codigo);
+        // exercise, period, model, code of the rule; the bounds are 2002-3 and 2030-10
+        for (const QString &caso :
+             u"2026 1 430 0|2002 3 430 0|2026 12 480 0|2030 10 430 0|0 0  1|2026 0  2|2026 1  3|"
+             "2002 2 430 4|2030 11 430 4|2026 13 430 4|-1 5 430 4|2026 5 480 2"_s.split(u'|')) {
+            const QStringList partes = caso.split(u' ');
+            const int codigo = partes[3].toInt();
+            Registro datos{partes[0].toInt(),
+                           partes[2] == u"480" ? 2 : 1,
+                           partes[1].toInt(),
+                           2002,
+                           3,
+                           2030,
+                           10};
+            QVERIFY2(objeto->EjerPerValidos(datos) == (codigo == 0 || codigo == 3),
+                     qPrintable(caso));
+            datos += QVariantList{partes[2], 1};
+            QVERIFY2(objeto->ValidarDatosComunes(datos) == codigo, qPrintable(caso));
+        }
     }
 
     void figuras()

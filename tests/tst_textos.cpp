@@ -30,17 +30,14 @@ private Q_SLOTS:
     void numeros()
     {
         QSet<int> deLaTabla;
-        QSet<QString> nombres;
         for (const Mensaje &mensaje : tablaMensajes()) {
             if (mensaje.numero <= 325)
                 deLaTabla.insert(mensaje.numero);
             QVERIFY2(mensaje.numero <= 325 || mensaje.numero > 1000, qPrintable(mensaje.nombre));
-            nombres.insert(mensaje.nombre);
         }
         QCOMPARE(deLaTabla.size(), 223);
         QCOMPARE(*std::ranges::min_element(deLaTabla), 101);
         QCOMPARE(*std::ranges::max_element(deLaTabla), 325);
-        QCOMPARE(nombres.size(), tablaMensajes().size());
         const auto repetido = std::ranges::adjacent_find(tablaMensajes(), std::ranges::equal_to(),
                                                          &Mensaje::numero);
         QVERIFY2(repetido == tablaMensajes().end(), qPrintable(repetido->nombre));
@@ -54,8 +51,6 @@ private Q_SLOTS:
             QCOMPARE(textoMensaje(mensaje.numero, Idioma::Castellano), mensaje.castellano);
             QCOMPARE(textoMensaje(mensaje.numero, Idioma::Euskera), mensaje.euskera);
         }
-        QCOMPARE(textoMensaje(240, Idioma::Castellano), QString());
-        QCOMPARE(textoMensaje(240, Idioma::Euskera), QString());
     }
 
     /// The wording that is fixed stands once more in a list of its own.
@@ -125,20 +120,19 @@ private Q_SLOTS:
 
     void meses()
     {
-        QStringList castellano;
-        QStringList euskera;
-        for (int mes = 1; mes <= 12; ++mes) {
-            fijarIdioma(Idioma::Castellano);
-            castellano += nombreMes(mes);
-            fijarIdioma(Idioma::Euskera);
-            euskera += nombreMes(mes);
+        for (const auto &[idioma, nombres] :
+             {std::pair{Idioma::Castellano,
+                        u"ENERO FEBRERO MARZO ABRIL MAYO JUNIO JULIO AGOSTO SEPTIEMBRE OCTUBRE "
+                        "NOVIEMBRE DICIEMBRE"_s},
+              {Idioma::Euskera,
+               u"URTARRILA OTSAILA MARTXOA APIRILA MAIATZA EKAINA UZTAILA ABUZTUA IRAILA URRIA "
+               "AZAROA ABENDUA"_s}}) {
+            fijarIdioma(idioma);
+            QStringList lista;
+            for (int mes = 1; mes <= 12; ++mes)
+                lista += nombreMes(mes);
+            QCOMPARE(lista.join(u' '), nombres);
         }
-        QCOMPARE(castellano.join(u' '),
-                 u"ENERO FEBRERO MARZO ABRIL MAYO JUNIO JULIO AGOSTO SEPTIEMBRE OCTUBRE NOVIEMBRE "
-                 u"DICIEMBRE"_s);
-        QCOMPARE(euskera.join(u' '),
-                 u"URTARRILA OTSAILA MARTXOA APIRILA MAIATZA EKAINA UZTAILA ABUZTUA IRAILA URRIA "
-                 u"AZAROA ABENDUA"_s);
         QCOMPARE(nombreMes(0) + nombreMes(13) + nombreMes(-1), QString());
         QCOMPARE(palabraPeriodicidad(PeriodicidadMensual), QString());
     }

@@ -1,11 +1,9 @@
 #include "app/Estilo.h"
-#include "core/CEntrada.h"
 #include "support/Entorno.h"
 #include "widgets/Ficheros.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -18,8 +16,6 @@
 #include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

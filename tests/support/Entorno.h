@@ -1,10 +1,19 @@
 #pragma once
 
+#include "core/CEntrada.h"
 #include "core/Rutas.h"
+#include "core/Servicios.h"
 #include "core/Sesion.h"
+#include "core/Textos.h"
 #include "core/Unico.h"
+#include "declarants/cDecDatos.h"
+#include "declarants/cDecResumen.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 

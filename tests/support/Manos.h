@@ -1,9 +1,14 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QAction>
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
+#include <QSignalSpy>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 

@@ -38,6 +38,19 @@ template <class T> struct PantallaAbierta
         return mensajes.texto();
     }
 
+    /// Leaves by the button so called, by "Escape", by an access key ("Alt+A") or by the "frame".
+    void salir(const char *manera) const
+    {
+        if (qstrcmp(manera, "frame") == 0)
+            pantalla->close();
+        else if (qstrcmp(manera, "Escape") == 0)
+            manos->tecla(Qt::Key_Escape);
+        else if (qstrncmp(manera, "Alt+", 4) == 0)
+            manos->tecla(Qt::Key(manera[4]), Qt::AltModifier);
+        else
+            manos->pulsar(manera);
+    }
+
     Entorno entorno;
     ConductorMensajes mensajes;
     std::unique_ptr<T> pantalla;
