@@ -1,5 +1,5 @@
+#include "core/LectorLineas.h"
 #include "core/Servicios.h"
-#include "exchange/LectorLineas.h"
 #include "exchange/LineaIntercambio.h"
 #include "support/Entorno.h"
 #include "support/LineasPrueba.h"

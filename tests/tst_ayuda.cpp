@@ -31,6 +31,8 @@ static QString patronDe(QString texto)
 {
     static const QRegularExpression hueco(u"%[1-9]"_s);
     texto = texto.remove(u'&').simplified();
+    if (texto.endsWith(u'…')) // a button that asks for more is named without its dots
+        texto.chop(1);
     QStringList partes;
     for (const QString &parte : texto.split(hueco))
         partes.append(QRegularExpression::escape(parte));

@@ -17,7 +17,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("dentro"); // or about every other one
         QTest::addColumn<QString>("prohibidas"); // headers
         const QString ventanas
-            = u"^(QtWidgets|Q(?!StringView)[A-Z]\\w*(Widget|Dialog|Box|Edit|Button|"
+            = u"^(QtWidgets|Q(?!StringView|ByteArrayView)[A-Z]\\w*(Widget|Dialog|Box|Edit|Button|"
               u"Window|Label|View)\\b|QWidget|"
               u"QApplication|widgets/|[a-z]+/[Ff]rm)"_s;
         QTest::newRow("no widget in a record")

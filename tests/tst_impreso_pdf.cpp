@@ -1,3 +1,4 @@
+#include "core/GuardarFichero.h"
 #include "printing/DocumentoPdf.h"
 #include "printing/TrabajoImpresion.h"
 #include "support/LineasPrueba.h"
@@ -36,13 +37,13 @@ static void guardarRestringido(const QString &carpeta, const QByteArray &bytes,
 {
     QVERIFY(QDir().mkpath(carpeta));
     const QString ruta = carpeta + u"/a.pdf"_s;
-    QCOMPARE(guardarPdf(ruta, "antes"), QString());
+    QCOMPARE(guardarFichero(ruta, "antes"), QString());
     const auto deAntes = QFile::permissions(carpeta);
     QVERIFY(QFile::setPermissions(carpeta, permisos));
     const pid_t hijo = fork();
     if (hijo == 0) {
         restringir();
-        _exit(guardarPdf(ruta, bytes).isEmpty() ? 0 : 3);
+        _exit(guardarFichero(ruta, bytes).isEmpty() ? 0 : 3);
     }
     int estado = 0;
     QCOMPARE(waitpid(hijo, &estado, 0), hijo);
@@ -77,7 +78,7 @@ private:
     QString guardado(const QString &nombre, const QByteArray &bytes)
     {
         const QString ruta = m_carpeta.filePath(nombre);
-        return guardarPdf(ruta, bytes).isEmpty() ? ruta : QString();
+        return guardarFichero(ruta, bytes).isEmpty() ? ruta : QString();
     }
     /// The page as a picture against the one kept with the tests.
     static void comparar(const QString &modelo)
@@ -158,7 +159,7 @@ private Q_SLOTS:
     {
         const QString ruta = guardado(u"s.pdf"_s, "antes");
         SincronizacionRota = true;
-        const QString motivo = guardarPdf(ruta, "nuevo");
+        const QString motivo = guardarFichero(ruta, "nuevo");
         SincronizacionRota = false;
         QVERIFY2(motivo.startsWith(u"Error del disco"_s), qPrintable(motivo));
         QCOMPARE(lineas::leer(ruta), QByteArray("antes"));
@@ -166,7 +167,7 @@ private Q_SLOTS:
 
     void guardadosQueFallan()
     {
-        const QString motivo = guardarPdf(m_carpeta.filePath(u"no/esta.pdf"_s), "x");
+        const QString motivo = guardarFichero(m_carpeta.filePath(u"no/esta.pdf"_s), "x");
         QVERIFY(motivo.startsWith(u"No existe el fichero"_s));
         QFile::setPermissions(m_carpeta.path(), QFile::Permissions(0x5755));
         guardarRestringido(

@@ -1,5 +1,5 @@
 #include "core/Caracteres.h"
-#include "exchange/LectorLineas.h"
+#include "core/LectorLineas.h"
 #include "exchange/LineaIntercambio.h"
 #include "support/LineasPrueba.h"
 

@@ -118,7 +118,7 @@ private Q_SLOTS:
         }
         QCOMPARE(
             textos.join(u'|'),
-            u"Aseguruen Ostrel|Irten aplikaziotik|&Aitortzailea|Aitortzaile &berria|&Ireki aitortzailea|&Deuseztatu aitortzailea|I&rten|A&ukerak|&Esportatu aitortzaileak|&Inportatu aitortzaileak|Segurtasun kopia sortu|Segurtasun kopia leheneratu|Lehentasunak|&Laguntza|&Edukia eta aurkibidea|On-line laguntza|Deskripzioa|&Honi buruz...|Tresna-barra|Aitortzaile berria|Ireki aitortzailea|Deuseztatu aitortzailea|Laguntza|Irten aplikaziotik"_s);
+            u"Aseguruen Ostrel|Irten aplikaziotik|&Aitortzailea|Aitortzaile &berria|&Ireki aitortzailea|&Deuseztatu aitortzailea|I&rten|A&ukerak|Aurkezteko &dauden aitorpenak|Ai&torpenak inportatu|&Esportatu aitortzaileak|&Inportatu aitortzaileak|Segurtasun kopia sortu|Segurtasun kopia leheneratu|Lehentasunak|&Laguntza|&Edukia eta aurkibidea|On-line laguntza|Deskripzioa|&Honi buruz...|Tresna-barra|Aitortzaile berria|Ireki aitortzailea|Deuseztatu aitortzailea|Aurkezteko dauden aitorpenak|Laguntza|Irten aplikaziotik"_s);
     }
 
     void elMenuDiceSuPistaYLeeLaBase()

@@ -43,8 +43,17 @@ private Q_SLOTS:
         QVERIFY2(repetido == tablaMensajes().end(), qPrintable(repetido->nombre));
     }
 
+    /// No line of the tables is passed over.
     void completos()
     {
+        qsizetype lineas = 0;
+        for (const auto &nombre : {u":/textos/mensajes.txt"_s, u":/textos/textos_propios.txt"_s}) {
+            QFile fichero(nombre);
+            QVERIFY(fichero.open(QIODevice::ReadOnly));
+            for (const QByteArray &linea : fichero.readAll().split('\n'))
+                lineas += !linea.isEmpty() && !linea.startsWith('#');
+        }
+        QCOMPARE(tablaMensajes().size(), lineas);
         for (const Mensaje &mensaje : tablaMensajes()) {
             QVERIFY2(!mensaje.castellano.trimmed().isEmpty(), qPrintable(mensaje.nombre));
             QVERIFY2(!mensaje.euskera.trimmed().isEmpty(), qPrintable(mensaje.nombre));

@@ -18,8 +18,12 @@ static constexpr EntradaMenu Entradas[] = {
     {0, "mnuSalir", Msj::MenuSalir, Msj::PistaMenuSalir, Icono::Salir, Mando::Salir, Siempre,
      "Ctrl+Q", true},
 
+    {1, "mnuPendientes", Msj::MenuPendientes, Msj::PistaMenuPendientes, Icono::Pendientes,
+     Pantalla::Pendientes, Siempre, "Ctrl+D"},
+    {1, "mnuImportarDeclaraciones", Msj::MenuImportarDeclaraciones, Msj::PistaImportarHoja,
+     Icono::Importar, Pantalla::ImportarDeclaraciones, SinEdicion | ConDeclarantes},
     {1, "mnuExport", Msj::MenuExportar, Msj::PistaMenuExportar, Icono::Exportar, Pantalla::Exportar,
-     ConDeclarantes},
+     ConDeclarantes, "", true},
     {1, "mnuImport", Msj::MenuImportar, Msj::PistaMenuImportar, Icono::Importar, Pantalla::Importar,
      SinEdicion},
     {1, "mnuBackup", Msj::MenuCopiaSeguridad, Msj::PistaMenuCopiaSeguridad, Icono::Copia,
@@ -43,6 +47,7 @@ static constexpr EntradaBarra Barra[] = {
     {"nuedec", "mnuNuevoDeclarante", Msj::BarraNuevoDeclarante},
     {"abrdec", "mnuAbrirDeclarante", Msj::BarraAbrirDeclarante},
     {"elidec", "mnuEliminarDeclarante", Msj::BarraEliminarDeclarante},
+    {"pendec", "mnuPendientes", Msj::BarraPendientes, true},
     {"ayu", "mnucontind", Msj::BarraAyuda, true},
     {"salir", "mnuSalir", Msj::BarraSalir, true},
 };

@@ -1,5 +1,7 @@
 #include "app/Pantallas.h"
 #include "app/frmAbout.h"
+#include "campaign/FrmImportarDeclaraciones.h"
+#include "campaign/FrmPendientes.h"
 #include "core/Unico.h"
 #include "declarants/FrmDecLista.h"
 #include "declarants/FrmDecResumen.h"
@@ -37,6 +39,8 @@ static constexpr DatosPantalla Tabla[] = {
     {Pantalla::Impresion, crear<FrmImOf>, DatosPantalla::Modal},
     {Pantalla::Exportar, crear<FrmExportar>, DatosPantalla::Amplio},
     {Pantalla::Importar, crear<frmimport>, DatosPantalla::Ajustado},
+    {Pantalla::Pendientes, crear<FrmPendientes>, DatosPantalla::Amplio},
+    {Pantalla::ImportarDeclaraciones, crear<FrmImportarDeclaraciones>, DatosPantalla::Amplio},
     {Pantalla::Preferencias, crear<frmPreferencias>, DatosPantalla::Modal},
     {Pantalla::AcercaDe, crear<frmAbout>, DatosPantalla::Modal},
 };

@@ -87,5 +87,8 @@ static QString ayudaGeneral(const QStringList &palabras)
 QString textoAyuda(const QStringList &palabras)
 {
     const Orden *orden = buscarOrden(palabras);
-    return orden ? ayudaDe(*orden) : ayudaGeneral(palabras);
+    const bool hayMas = orden && std::ranges::any_of(ordenes(), [orden](const Orden *otra) {
+                            return otra->palabras.startsWith(orden->palabras.toString() + u' ');
+                        });
+    return orden && !hayMas ? ayudaDe(*orden) : ayudaGeneral(palabras);
 }

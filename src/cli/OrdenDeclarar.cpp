@@ -3,30 +3,14 @@
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/MensajesDeclarante.h"
-#include "declarations/RegistroDeclaracion.h"
+#include "declarants/cDecResumen.h"
+#include "declarations/EntradaTexto.h"
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"
 
-#include <QMap>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
-
-/// An amount given on the command line, in cents, or why it is refused. An empty one is refused
-/// too: it is a slip of whoever wrote the command.
-struct ImporteDado
-{
-    double centimos = 0;
-    QString motivo;
-};
-
-static ImporteDado importeDado(const QString &texto)
-{
-    if (texto.trimmed().isEmpty())
-        return {0, msj(Msj::ImporteIlegible, texto)};
-    const ImporteLeido leido = leerImporte(texto);
-    return {leido.centimos, leido.motivo(texto)};
-}
 
 /// Makes the header of a new return of --dni and --ejercicio and checks it.
 static Rechazo prepararCabecera(const Argumentos &argumentos, const QString &modelo, int periodo)
@@ -58,33 +42,13 @@ static Resultado resultadoGuardar(qint32 clave, double total)
             textoPeriodo(cabecera.PERIODICIDAD(), cabecera.PERIODO()), textoImporte(total)));
 }
 
-/// The option of each box and the total that it goes into.
-struct Casilla430
-{
-    QStringView opcion;
-    void (cDatos430::*escribir)(double);
-    Msj total;
-};
-
 static constexpr QStringView BaseRectificacion = u"base-rectificacion";
 static constexpr QStringView CuotaRectificacion = u"cuota-rectificacion";
-static constexpr Casilla430 Casillas[] = {
-    {u"base", &cDatos430::BASELIQ, Msj::BaseImponible},
-    {BaseRectificacion, &cDatos430::BASEREC, Msj::BaseImponible},
-    {CuotaRectificacion, &cDatos430::CUOTAREC, Msj::Cuota},
+static constexpr std::pair<QStringView, Dato430> Datos[] = {
+    {u"base", Dato430::Base},
+    {BaseRectificacion, Dato430::BaseRectificacion},
+    {CuotaRectificacion, Dato430::CuotaRectificacion},
 };
-
-/// Takes one amount into the record: empty, or why not.
-static QString tomar(const Casilla430 &casilla, const QString &texto)
-{
-    const ImporteDado importe = importeDado(texto);
-    if (!importe.motivo.isEmpty())
-        return importe.motivo;
-    const bool cabe = cambiarSiCabe(unico::la<cDatos430>(), [&](cDatos430 &registro) {
-        (registro.*casilla.escribir)(importe.centimos);
-    });
-    return cabe ? QString() : msj(Msj::ImporteTotalExcedido, msj(casilla.total));
-}
 
 static Resultado declarar430(const Argumentos &argumentos)
 {
@@ -98,12 +62,12 @@ static Resultado declarar430(const Argumentos &argumentos)
     registro.MODO(Modo::Alta);
     registro.MarcarRectificacion(argumentos.tiene(BaseRectificacion)
                                  || argumentos.tiene(CuotaRectificacion));
-    for (const Casilla430 &casilla : Casillas) {
-        if (!argumentos.tiene(casilla.opcion))
+    for (const auto &[opcion, dato] : Datos) {
+        if (!argumentos.tiene(opcion))
             continue;
-        const QString motivo = tomar(casilla, argumentos.valor(casilla.opcion));
+        const QString motivo = tomarDato(dato, argumentos.valor(opcion));
         if (!motivo.isEmpty())
-            return rechazado(msj(Msj::CliOpcionMal, conGuiones(casilla.opcion), motivo));
+            return rechazado(msj(Msj::CliOpcionMal, conGuiones(opcion), motivo));
     }
     if (registro.ValidarDatos430(registro.RegistroValidar()) != 0)
         return rechazado(msj(Msj::ErrorRectificacion430));
@@ -123,14 +87,6 @@ static constexpr Opcion Opciones430[] = {
 extern constinit const Orden OrdenDeclarar430 = {
     u"declarar 430", Msj::AyudaDeclarar430, {}, Opciones430, Msj::NoSePudoGuardar, declarar430,
 };
-
-/// The boxes given, by their numbers: the order in which they were given does not matter.
-using Casillas480 = QMap<int, double>;
-
-static QString nombreCasilla(int numero)
-{
-    return QString::number(numero).rightJustified(2, u'0');
-}
 
 /// Reads "NN=IMPORTE".
 static Rechazo leerCasilla(const QString &texto, Casillas480 &dadas)
@@ -155,25 +111,6 @@ static Rechazo leerCasilla(const QString &texto, Casillas480 &dadas)
     return {};
 }
 
-static bool caben(const Casillas480 &dadas)
-{
-    return cambiarSiCabe(unico::la<cDatos480>(), [&](cDatos480 &registro) {
-        for (const auto &[numero, centimos] : dadas.asKeyValueRange())
-            registro.casilla(*casillaEntrada(numero), centimos);
-    });
-}
-
-/// The box, in the order of their numbers, with which the totals pass what fits.
-static int primeraQueNoCabe(Casillas480 dadas)
-{
-    int numero = 0;
-    do {
-        numero = dadas.lastKey();
-        dadas.remove(numero);
-    } while (!dadas.isEmpty() && !caben(dadas));
-    return numero;
-}
-
 static Resultado declarar480(const Argumentos &argumentos)
 {
     if (auto fallo = prepararCabecera(argumentos, Modelo480, PeriodoAnual))
@@ -185,8 +122,8 @@ static Resultado declarar480(const Argumentos &argumentos)
     for (const QString &texto : argumentos.valores(u"casilla"))
         if (auto fallo = leerCasilla(texto, dadas))
             return *fallo;
-    if (!caben(dadas))
-        return rechazado(msj(Msj::CliCasillaMal, nombreCasilla(primeraQueNoCabe(dadas)),
+    if (const int numero = tomarCasillas(dadas); numero != 0)
+        return rechazado(msj(Msj::CliCasillaMal, nombreCasilla(numero),
                              msj(Msj::ImporteTotalExcedido, msj(Msj::Totales))));
     if (registro.ValidarDatos480(registro.RegistroValidar()) != 0)
         return rechazado(msj(Msj::ErrorTotal480));

@@ -6,15 +6,6 @@
 #include "declarants/cDecLista.h"
 #include "declarants/cDecResumen.h"
 
-template <class Fila>
-static Resultado listado(const Argumentos &argumentos, std::span<const Columna<Fila>> columnas,
-                         const QList<Fila> &filas, Msj ninguno)
-{
-    if (argumentos.tiene(u"json"))
-        return hecho(textoJson(columnas, filas));
-    return hecho(filas.isEmpty() ? msj(ninguno) : textoTabla(columnas, filas));
-}
-
 /// The column of a member.
 template <class Fila, auto Dato> static QJsonValue de(const Fila &fila)
 {
@@ -61,11 +52,13 @@ static Resultado listarDeclaraciones(const Argumentos &argumentos)
 
 static constexpr Opcion OpcionesDeclarantes[] = {
     {u"json", {}, Msj::AyudaJson},
+    {u"csv", {}, Msj::AyudaCsv},
 };
 
 static constexpr Opcion OpcionesDeclaraciones[] = {
     {u"dni", u"DNI", Msj::AyudaDni, Opcion::Obligatoria},
     {u"json", {}, Msj::AyudaJson},
+    {u"csv", {}, Msj::AyudaCsv},
 };
 
 extern constinit const Orden OrdenListarDeclarantes = {

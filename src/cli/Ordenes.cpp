@@ -11,6 +11,8 @@ using namespace Qt::StringLiterals;
 extern const Orden OrdenDeclaranteAlta;
 extern const Orden OrdenDeclarar430;
 extern const Orden OrdenDeclarar480;
+extern const Orden OrdenDeclararDesde;
+extern const Orden OrdenPendientes;
 extern const Orden OrdenListarDeclarantes;
 extern const Orden OrdenListarDeclaraciones;
 extern const Orden OrdenImprimir;
@@ -39,17 +41,11 @@ static constexpr Orden OrdenIdioma = {
 };
 
 static constexpr const Orden *Tabla[] = {
-    &OrdenDeclaranteAlta,
-    &OrdenDeclarar430,
-    &OrdenDeclarar480,
-    &OrdenListarDeclarantes,
-    &OrdenListarDeclaraciones,
-    &OrdenImprimir,
-    &OrdenImportar,
-    &OrdenExportar,
-    &OrdenCopia,
-    &OrdenRestaurar,
-    &OrdenIdioma,
+    &OrdenDeclaranteAlta, &OrdenDeclarar430,       &OrdenDeclarar480,
+    &OrdenDeclararDesde, // after those whose names begin as its does
+    &OrdenPendientes,     &OrdenListarDeclarantes, &OrdenListarDeclaraciones,
+    &OrdenImprimir,       &OrdenImportar,          &OrdenExportar,
+    &OrdenCopia,          &OrdenRestaurar,         &OrdenIdioma,
 };
 
 static constexpr Opcion Comunes[] = {

@@ -1,5 +1,7 @@
 #include "cli/Tabla.h"
 
+#include "core/Csv.h"
+
 #include <QJsonDocument>
 
 #include <algorithm>
@@ -34,4 +36,15 @@ QString Tabla::texto() const
 QString textoJson(const QJsonArray &lista)
 {
     return QString::fromUtf8(QJsonDocument(lista).toJson()).trimmed();
+}
+
+QString Tabla::csv() const
+{
+    QStringList cabecera;
+    for (const Titulo &titulo : titulos)
+        cabecera += titulo.texto;
+    QByteArray lineas = csv::linea(cabecera);
+    for (const QStringList &fila : filas)
+        lineas += csv::linea(fila);
+    return QString::fromUtf8(lineas).chopped(2); // the end of the last line is added by who prints
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "cli/Orden.h"
+#include "core/Textos.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QStringList>
@@ -18,6 +21,7 @@ struct Tabla
     QList<QStringList> filas;
 
     QString texto() const;
+    QString csv() const;
 };
 
 /// One column of a list.
@@ -30,8 +34,9 @@ template <class Fila> struct Columna
     QString (*texto)(const Fila &) = nullptr; ///< in the table, where it is not the value
 };
 
+/// The table of a list.
 template <class Fila>
-QString textoTabla(std::span<const Columna<Fila>> columnas, const QList<Fila> &filas)
+Tabla tablaDe(std::span<const Columna<Fila>> columnas, const QList<Fila> &filas)
 {
     Tabla tabla;
     tabla.filas.resize(filas.size());
@@ -43,7 +48,7 @@ QString textoTabla(std::span<const Columna<Fila>> columnas, const QList<Fila> &f
             tabla.filas[i] += columna.texto ? columna.texto(filas[i])
                                             : columna.valor(filas[i]).toVariant().toString();
     }
-    return tabla.texto();
+    return tabla;
 }
 
 QString textoJson(const QJsonArray &lista);
@@ -59,4 +64,21 @@ QString textoJson(std::span<const Columna<Fila>> columnas, const QList<Fila> &fi
         lista.append(objeto);
     }
     return textoJson(lista);
+}
+
+/// What a command that lists answers: as a table, as JSON or as CSV. `ninguno` is said when there
+/// is nothing to list.
+template <class Fila>
+Resultado listado(const Argumentos &argumentos, std::span<const Columna<Fila>> columnas,
+                  const QList<Fila> &filas, Msj ninguno)
+{
+    const bool json = argumentos.tiene(u"json");
+    const bool csv = argumentos.tiene(u"csv");
+    if (json && csv)
+        return malUso(msj(Msj::CliOpcionesExcluyentes, conGuiones(u"json"), conGuiones(u"csv")));
+    if (json)
+        return hecho(textoJson(columnas, filas));
+    if (csv)
+        return hecho(tablaDe(columnas, filas).csv());
+    return hecho(filas.isEmpty() ? msj(ninguno) : tablaDe(columnas, filas).texto());
 }

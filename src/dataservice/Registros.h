@@ -73,6 +73,24 @@ namespace FilaDeclaracion {
 enum Columna { CSDE, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, TIPOLOGIA, IMPORTE, Total };
 }
 
+/// How a declarant stands with one return: CSDE is 0 and IMPORTE nothing while it is not stored.
+/// PRIMERO is the first month with a 430, counted exercise * 12 + month - 1 (0: none); CUANTOS the
+/// months with one before the return asked for, its own December included for an annual one;
+/// ANTERIORES (qint64) those of the last MesesVistos of them, bit 0 being the latest.
+namespace FilaPendiente {
+enum Columna { CSCO, DNI, NOMBRE, CSDE, IMPORTE, PRIMERO, CUANTOS, ANTERIORES, Total };
+inline constexpr int MesesVistos = 60;
+} // namespace FilaPendiente
+
+/// A return looked for by its declarant's identifier, and what is stored of it: keys are 0 where
+/// there is no such declarant or return, IMPORTE as in FilaDeclaracion.
+namespace RegBuscada {
+enum Campo { DNI, EJERCICIO, PERIODO, MODELO, Total };
+}
+namespace FilaBuscada {
+enum Columna { CSCO, CSDE, IMPORTE, Total };
+}
+
 /// The latest return: [0] the declarant's key, given by the caller; [1] to [5] filled by the
 /// service.
 namespace RegUltima {

@@ -129,6 +129,18 @@ public:
     /// not stored.
     virtual qint32 Guardar430(const Registro &datos) = 0;
     virtual qint32 Guardar480(const Registro &datos) = 0;
+    /// Saves a set of records of Guardar430 and Guardar480, of both models, in one transaction, in
+    /// their order and without counting their declarants as recent: one row (the key) a record, 0
+    /// where it was refused or its declarant or return is not stored. With `todoONada` nothing is
+    /// stored unless all are, and then every key is 0.
+    virtual Registro GuardarConjunto(const Filas &registros, bool todoONada) = 0;
+    /// One FilaBuscada a RegBuscada, all of them as of one moment.
+    virtual void Buscar(const Filas &buscadas, Filas &filas) = 0;
+    /// FilaPendiente of every declarant, by name, one after the other and none of them kept, until
+    /// `visitar` returns false.
+    virtual void RecorrerPendientes(qint16 ejercicio, const QString &modelo, quint8 periodo,
+                                    const std::function<bool(const Registro &)> &visitar)
+        = 0;
     /// Deletes the figures; the deletion holds once BorrarDeclaracion has followed on this object,
     /// and is undone when the object is released before.
     virtual void BorrarDatosNoComunes(qint32 CSDE, const QString &modelo) = 0;

@@ -60,6 +60,7 @@ FrmDecResumen::FrmDecResumen(QWidget *padre)
     conectar();
     mostrarNueva(false);
     PresentaDatos();
+    atenderPeticion();
 }
 
 QPushButton *FrmDecResumen::crearBoton(const QString &nombre)

@@ -51,6 +51,8 @@ private:
     bool tomarFila();
 
     void nueva();
+    void prepararNueva();
+    void atenderPeticion();
     void crear();
     void mostrarNueva(bool visible);
     void abandonarNueva();

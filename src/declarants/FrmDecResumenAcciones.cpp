@@ -105,9 +105,29 @@ void FrmDecResumen::nueva()
         return;
     }
     cabecera().MODO(ModoCabecera::Nueva);
+    prepararNueva();
+}
+
+void FrmDecResumen::prepararNueva()
+{
     m_nueva->PresentaDatos();
     mostrarNueva(true);
     m_nueva->enfocarPrimero();
+}
+
+/// The return that the screen was opened for: selected when it is stored, else proposed.
+void FrmDecResumen::atenderPeticion()
+{
+    const auto pedida = cabecera().TomarPedida();
+    if (!pedida)
+        return;
+    for (const Fila &fila : m_modelo->todas())
+        if (fila == *pedida) {
+            seleccionar(fila.csde);
+            return;
+        }
+    cabecera().Proponer(*pedida);
+    prepararNueva();
 }
 
 bool FrmDecResumen::ValidarCampos()

@@ -89,24 +89,6 @@ void NuevaDeclaracion::cargarPeriodos()
     m_cmbperiodo->entradas(textos);
 }
 
-static constexpr qsizetype MaximoMeses = 12; ///< named one by one
-
-/// "2025: MARZO, MAYO; 2026: ENERO".
-static QString textoMeses(const QList<MesSinDeclarar> &meses)
-{
-    QString texto;
-    int ejercicio = 0;
-    for (const auto &mes : meses.first(std::min(meses.size(), MaximoMeses))) {
-        if (mes.ejercicio != ejercicio)
-            texto += (texto.isEmpty() ? u"%1: "_s : u"; %1: "_s).arg(mes.ejercicio);
-        else
-            texto += u", "_s;
-        ejercicio = mes.ejercicio;
-        texto += nombreMes(mes.mes);
-    }
-    return meses.size() > MaximoMeses ? texto + u"…"_s : texto;
-}
-
 void NuevaDeclaracion::PresentaFaltan()
 {
     const auto meses = cabecera().MesesSinDeclarar();

@@ -5,6 +5,8 @@
 #include "core/Textos.h"
 #include "core/Unico.h"
 
+using namespace Qt::StringLiterals;
+
 /// The header's five elements of a service's row, from `primero` on.
 static CabeceraListada cabeceraDe(const Registro &fila, qsizetype primero)
 {
@@ -36,16 +38,38 @@ QString CabeceraListada::nombre() const
     return modelo + u' ' + textoPeriodo(periodicidad, periodo) + u' ' + QString::number(ejercicio);
 }
 
-/// Months counted on over the years.
 static int cuentaDeMes(const CabeceraListada &c)
 {
-    return c.ejercicio * UltimoMes + c.periodo - 1;
+    return cuentaDeMes(c.ejercicio, c.periodo);
+}
+
+static constexpr qsizetype MaximoMeses = 12; ///< named one by one
+
+QString textoMeses(const QList<MesSinDeclarar> &meses)
+{
+    QString texto;
+    int ejercicio = 0;
+    for (const auto &mes : meses.first(std::min(meses.size(), MaximoMeses))) {
+        if (mes.ejercicio != ejercicio)
+            texto += (texto.isEmpty() ? u"%1: "_s : u"; %1: "_s).arg(mes.ejercicio);
+        else
+            texto += u", "_s;
+        ejercicio = mes.ejercicio;
+        texto += nombreMes(mes.mes);
+    }
+    return meses.size() > MaximoMeses ? texto + u"…"_s : texto;
 }
 
 void cDecResumen::MODO(const QString &modo)
 {
     m = modo == ModoCabecera::Lista ? CabeceraListada() : proponer();
     m_modo = modo;
+}
+
+void cDecResumen::Proponer(const CabeceraListada &cabecera)
+{
+    m = cabecera;
+    m_modo = ModoCabecera::Nueva;
 }
 
 CabeceraListada cDecResumen::proponer() const
@@ -136,7 +160,7 @@ QList<MesSinDeclarar> cDecResumen::MesesSinDeclarar() const
     const int hasta = cuentaDeMes(m) + (m.tipologia == Tipologia480 ? 1 : 0);
     for (int mes = m_mensuales.constFirst(); mes < hasta; ++mes)
         if (!m_mensuales.contains(mes))
-            meses.append({mes / UltimoMes, mes % UltimoMes + 1});
+            meses.append(mesDeCuenta(mes));
     return meses;
 }
 

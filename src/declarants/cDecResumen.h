@@ -5,6 +5,9 @@
 
 #include <QList>
 
+#include <optional>
+#include <utility>
+
 /// What tells one return of a declarant from another.
 struct CabeceraListada
 {
@@ -16,6 +19,7 @@ struct CabeceraListada
 
     /// "430 ENERO 2026", in the session's language.
     QString nombre() const;
+    bool operator==(const CabeceraListada &) const = default;
 };
 
 /// A month without its 430.
@@ -24,6 +28,19 @@ struct MesSinDeclarar
     int ejercicio = 0;
     int mes = 0;
 };
+
+/// "2025: MARZO, MAYO; 2026: ENERO": the first dozen of them, in the session's language.
+QString textoMeses(const QList<MesSinDeclarar> &meses);
+
+/// A month counted on over the years, from 0.
+constexpr int cuentaDeMes(int ejercicio, int mes)
+{
+    return ejercicio * UltimoMes + mes - 1;
+}
+constexpr MesSinDeclarar mesDeCuenta(int cuenta)
+{
+    return {cuenta / UltimoMes, cuenta % UltimoMes + 1};
+}
 
 /// A stored return in a declarant's list.
 struct DeclaracionListada : CabeceraListada
@@ -83,6 +100,13 @@ public:
     /// Name of the return in hand.
     QString NombreDeclaracion() const { return m.nombre(); }
 
+    /// What a screen that opens the summary wants it to begin with: the stored return of that
+    /// header selected, or a new one with it proposed. Taken once.
+    void Pedir(const CabeceraListada &cabecera) { m_pedida = cabecera; }
+    std::optional<CabeceraListada> TomarPedida() { return std::exchange(m_pedida, {}); }
+    /// A new return with this header.
+    void Proponer(const CabeceraListada &cabecera);
+
     /// The declarant's returns, oldest first; sets NUMDECLASEL.
     QList<DeclaracionListada> CargarDeclaraciones();
     /// The months before the return in hand, from the first one declared on, that the returns
@@ -103,5 +127,6 @@ private:
     QString m_dni;
     QString m_nombre;
     CabeceraListada m;
+    std::optional<CabeceraListada> m_pedida;
     QList<int> m_mensuales; ///< months of the 430 returns loaded last, in order
 };

@@ -9,13 +9,18 @@ using namespace Qt::StringLiterals;
 
 void cDatos430::MODO(const QString &modo)
 {
-    if (modo == Modo::Alta) {
-        Figuras nuevas;
-        nuevas.tipoliq = nuevas.tipotot = redondearTipo(CalcularTipo());
-        m = m_inicial = nuevas;
-        m_cargado.olvidar();
-    }
+    if (modo == Modo::Alta)
+        Nueva(CalcularTipo());
     m_modo = modo;
+}
+
+void cDatos430::Nueva(float tipo)
+{
+    Figuras nuevas;
+    nuevas.tipoliq = nuevas.tipotot = redondearTipo(tipo);
+    m = m_inicial = nuevas;
+    m_cargado.olvidar();
+    m_modo = Modo::Alta;
 }
 
 void cDatos430::BASELIQ(double centimos)

@@ -13,6 +13,8 @@ public:
     /// "A" resets the record for a new return of the header's exercise and period and fetches its
     /// rate; other values ("C" existing) are only stored.
     void MODO(const QString &modo);
+    /// A new return whose rate is known already: what MODO("A") does after fetching it.
+    void Nueva(float tipo);
     QString RECTIFICA() const { return m.rectifica; } ///< "X" or empty
     void RECTIFICA(const QString &marca) { m.rectifica = marca; }
     double BASELIQ() const { return m.baseliq; }

@@ -31,15 +31,21 @@ void cDatos480::MODO(const QString &modo)
     if (modo == Modo::Alta) {
         Registro tipos;
         CalcularTipoAnual(tipos);
-        Figuras nuevas;
-        nuevas.tipo1 = redondearTipo(tipos.value(0).toFloat());
-        nuevas.tipo2 = tipos.size() == 2 ? redondearTipo(tipos.value(1).toFloat()) : 0;
-        m = m_inicial = nuevas;
-        m_cargado.olvidar();
-        m_csde = 0;
-        m_modificado = true;
+        Nueva(tipos);
     }
     m_modo = modo;
+}
+
+void cDatos480::Nueva(const Registro &tipos)
+{
+    Figuras nuevas;
+    nuevas.tipo1 = redondearTipo(tipos.value(0).toFloat());
+    nuevas.tipo2 = tipos.size() == 2 ? redondearTipo(tipos.value(1).toFloat()) : 0;
+    m = m_inicial = nuevas;
+    m_cargado.olvidar();
+    m_csde = 0;
+    m_modificado = true;
+    m_modo = Modo::Alta;
 }
 
 void cDatos480::casilla(Casilla480 cual, double centimos)

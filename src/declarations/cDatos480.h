@@ -27,6 +27,8 @@ public:
     /// "A" resets the record for a new return of the header's exercise and fetches the year's
     /// rates.
     void MODO(const QString &modo);
+    /// A new return whose rates are known already: what MODO("A") does after fetching them.
+    void Nueva(const Registro &tipos);
     /// "A" until the first page has loaded the return.
     QString ENTRADA() const { return m_entrada; }
     void ENTRADA(const QString &entrada) { m_entrada = entrada; }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "exchange/PantallaProceso.h"
 #include "exchange/cExportar.h"
 #include "widgets/ModeloFilas.h"
+#include "widgets/PantallaProceso.h"
 
 class QLineEdit;
 class QTableView;

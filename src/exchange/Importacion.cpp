@@ -1,11 +1,11 @@
 #include "exchange/Importacion.h"
 
+#include "core/LectorLineas.h"
 #include "core/Rutas.h"
 #include "core/Servicios.h"
 #include "core/Textos.h"
 #include "dataservice/ErrorDatos.h"
 #include "declarants/CamposDeclarante.h"
-#include "exchange/LectorLineas.h"
 #include "exchange/LineaIntercambio.h"
 
 #include <QDir>

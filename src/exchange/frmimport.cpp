@@ -14,13 +14,11 @@
 #include <QCheckBox>
 #include <QDesktopServices>
 #include <QDir>
-#include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPushButton>
 #include <QUrl>
 
@@ -45,13 +43,6 @@ static cImportar &estado()
     return unico::la<cImportar>();
 }
 
-/// The only local file among what is dragged; empty when there is no such one.
-static QString ficheroArrastrado(const QMimeData *datos)
-{
-    const auto direcciones = datos->urls();
-    return direcciones.size() == 1 ? direcciones.first().toLocalFile() : QString();
-}
-
 frmimport::frmimport(QWidget *padre)
     : PantallaProceso(u"frmimport"_s, padre)
     , m_txtFichero(new QLineEdit(contenido()))
@@ -70,7 +61,7 @@ frmimport::frmimport(QWidget *padre)
     m_chkauto->setObjectName(u"chkauto"_s);
     m_fraResultados->setObjectName(u"fraResultados"_s);
     m_cmdAbrirErrores->setObjectName(u"cmdAbrirErrores"_s);
-    setAcceptDrops(true);
+    recibirFicheros([this](const QString &ruta) { tomarFichero(ruta); });
     m_txtFichero->setAcceptDrops(false); // it would take the text of the address
     crearResultados();
     disponer();
@@ -323,19 +314,4 @@ void frmimport::abrirErrores()
 {
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(FicheroErrores::ruta())))
         aviso(msj(Msj::ErroresSinPrograma, m_lblFicheroErrores->text()));
-}
-
-void frmimport::dragEnterEvent(QDragEnterEvent *evento)
-{
-    if (!trabaja() && !ficheroArrastrado(evento->mimeData()).isEmpty())
-        evento->acceptProposedAction();
-}
-
-void frmimport::dropEvent(QDropEvent *evento)
-{
-    evento->acceptProposedAction();
-    // the program that it comes from waits until this returns
-    QMetaObject::invokeMethod(
-        this, [this, ruta = ficheroArrastrado(evento->mimeData())] { tomarFichero(ruta); },
-        Qt::QueuedConnection);
 }

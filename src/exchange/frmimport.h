@@ -1,7 +1,7 @@
 #pragma once
 
 #include "exchange/Importacion.h"
-#include "exchange/PantallaProceso.h"
+#include "widgets/PantallaProceso.h"
 
 #include <QDateTime>
 
@@ -23,8 +23,6 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    void dragEnterEvent(QDragEnterEvent *evento) override;
-    void dropEvent(QDropEvent *evento) override;
     void showEvent(QShowEvent *evento) override;
 
 private:

@@ -12,11 +12,6 @@ class TrabajoImpresion;
 QByteArray documentoPdf(const QString &titulo,
                         const std::function<bool(QPagedPaintDevice &)> &dibujar);
 
-/// Writes a PDF so that the file at `ruta` is either the old one or the whole new one, safely on
-/// the disk. Returns why it could not be written, in the session's language; empty when it was. One
-/// of the program's own files is refused.
-QString guardarPdf(const QString &ruta, const QByteArray &contenido);
-
 /// Why one of these files must not be written, in the session's language; empty when all may.
 QString motivoRutasRechazadas(const QStringList &rutas);
 

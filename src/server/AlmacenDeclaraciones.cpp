@@ -5,6 +5,7 @@
 #include "server/AlmacenDeclarantes.h"
 #include "server/LectorRegistro.h"
 
+#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -190,27 +191,80 @@ void guardarFiguras(const PConexion &conexion, const Modelo &modelo, qint32 CSDE
     sentencia.ejecutar();
 }
 
+/// A return as it is stored: nothing when the record is malformed or of another model.
+struct Declaracion
+{
+    const Modelo &modelo;
+    Cabecera cabecera;
+    QVariantList figuras;
+
+    static std::optional<Declaracion> leer(const Modelo &modelo, const Registro &datos)
+    {
+        LectorRegistro lector(datos, Figuras + static_cast<qsizetype>(modelo.columnas.size()));
+        Declaracion leida{modelo, leerCabecera(lector), leerFiguras(lector, modelo)};
+        if (!lector.valido() || !esDelModelo(leida.cabecera, modelo))
+            return {};
+        return leida;
+    }
+};
+
+/// The key of the return, 0 when it was refused.
+qint32 guardarEn(const PConexion &conexion, const Declaracion &declaracion)
+{
+    const Cabecera &cabecera = declaracion.cabecera;
+    const qint64 importe = declaracion.figuras[declaracion.modelo.listado].toLongLong();
+    const qint32 clave = cabecera.csde == 0 ? insertarCabecera(conexion, cabecera, importe)
+                                            : actualizarCabecera(conexion, cabecera, importe);
+    if (clave != 0)
+        guardarFiguras(conexion, declaracion.modelo, clave, declaracion.figuras);
+    return clave;
+}
+
+qint32 guardarDelConjunto(const PConexion &conexion, const Registro &datos)
+{
+    const Modelo *modelo = modeloDe(datos.value(MODELO).toString());
+    const auto leida = modelo ? Declaracion::leer(*modelo, datos) : std::nullopt;
+    if (!leida
+        || !Sentencia(conexion, "SELECT 1 FROM DECLARANTES WHERE CSCO = ?")
+                .con(leida->cabecera.csco)
+                .fila())
+        return 0;
+    try {
+        return guardarEn(conexion, *leida);
+    } catch (const ErrorDatos &error) {
+        if (error.fallo() != Fallo::SinDeclaracion)
+            throw;
+        return 0; // told before anything of it was written
+    }
+}
+
 } // namespace
 
 qint32 guardarDeclaracion(const QString &ruta, const Modelo &modelo, const Registro &datos)
 {
-    LectorRegistro lector(datos, Figuras + static_cast<qsizetype>(modelo.columnas.size()));
-    const Cabecera cabecera = leerCabecera(lector);
-    const QVariantList figuras = leerFiguras(lector, modelo);
-    if (!lector.valido() || !esDelModelo(cabecera, modelo))
+    const auto leida = Declaracion::leer(modelo, datos);
+    if (!leida)
         return 0;
-
     Transaccion transaccion(Conexion::datos(ruta));
-    const PConexion &conexion = transaccion.conexion();
-    marcarReciente(conexion, cabecera.csco);
-    const qint64 importe = figuras[modelo.listado].toLongLong();
-    const qint32 clave = cabecera.csde == 0 ? insertarCabecera(conexion, cabecera, importe)
-                                            : actualizarCabecera(conexion, cabecera, importe);
-    if (clave == 0)
-        return 0;
-    guardarFiguras(conexion, modelo, clave, figuras);
-    transaccion.confirmar();
+    marcarReciente(transaccion.conexion(), leida->cabecera.csco);
+    const qint32 clave = guardarEn(transaccion.conexion(), *leida);
+    if (clave != 0)
+        transaccion.confirmar();
     return clave;
+}
+
+Registro guardarDeclaraciones(const QString &ruta, const Filas &registros, bool todoONada)
+{
+    Transaccion transaccion(Conexion::datos(ruta));
+    Registro claves;
+    claves.reserve(registros.size());
+    for (const QVariant &registro : registros) {
+        claves.append(guardarDelConjunto(transaccion.conexion(), registro.toList()));
+        if (todoONada && claves.constLast() == 0)
+            return Registro(registros.size(), 0);
+    }
+    transaccion.confirmar();
+    return claves;
 }
 
 Registro cargarFiguras(const PConexion &conexion, const Modelo &modelo, qint32 CSDE)

@@ -43,6 +43,9 @@ const Modelo *modeloDe(const QString &codigo);
 /// stored.
 qint32 guardarDeclaracion(const QString &ruta, const Modelo &modelo, const Registro &datos);
 
+/// The same for a set of them, of both models, in one transaction (cDeclaracion::GuardarConjunto).
+Registro guardarDeclaraciones(const QString &ruta, const Filas &registros, bool todoONada);
+
 /// The figures of a return, in the order of its model's record.
 Registro cargarFiguras(const PConexion &conexion, const Modelo &modelo, qint32 CSDE);
 

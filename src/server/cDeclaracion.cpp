@@ -5,6 +5,7 @@
 #include "server/LectorRegistro.h"
 
 #include <stdexcept>
+#include <unordered_map>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -99,6 +100,57 @@ bool estaGuardada(const PConexion &conexion, const Registro &cabecera)
         .fila();
 }
 
+/// FilaBuscada of a RegBuscada.
+Registro buscarDeclaracion(const PConexion &conexion, const Registro &buscada)
+{
+    LectorRegistro lector(buscada, RegBuscada::Total);
+    const QString dni = lector.texto(RegBuscada::DNI);
+    const qint32 ejercicio = lector.entero(RegBuscada::EJERCICIO, -Anno, Anno);
+    const qint32 periodo = lector.entero(RegBuscada::PERIODO, 0, Periodo);
+    const QString modelo = lector.texto(RegBuscada::MODELO);
+    lector.exigirValido();
+    Sentencia sentencia(conexion,
+                        "SELECT D.CSCO, R.CSDE, R.IMPORTE FROM DECLARANTES D "
+                        "LEFT JOIN DECLARACIONES R ON R.CSCO = D.CSCO AND R.EJERCICIO = ? "
+                        "AND R.PERIODO = ? AND R.MODELO = ? WHERE D.DNI = ?");
+    if (!sentencia.con(ejercicio, periodo, modelo, dni).fila())
+        return {0, 0, 0.0};
+    return {sentencia.clave(0), sentencia.clave(1), static_cast<double>(sentencia.entero(2))};
+}
+
+/// How a declarant stands with a return (FilaPendiente).
+struct Estado
+{
+    qint32 csde = 0;
+    qint64 importe = 0;
+    qint32 primero = 0, cuantos = 0;
+    qint64 anteriores = 0;
+};
+
+/// Those of every declarant with returns, in one passage over the index that keeps returns unique:
+/// only the amount of the return asked for is looked up in the table.
+std::unordered_map<qint32, Estado> leerEstados(const PConexion &conexion, qint32 ejercicio,
+                                               const Modelo &modelo, qint32 periodo)
+{
+    const bool anual = modelo.periodicidad == PeriodicidadAnual;
+    const qint32 hasta = ejercicio * UltimoMes + periodo - 1 + (anual ? 1 : 0);
+    Sentencia sentencia(
+        conexion,
+        "SELECT CSCO, max(CASE WHEN EJERCICIO = ?1 AND PERIODO = ?2 AND MODELO = ?3 THEN CSDE END),"
+        " sum(CASE WHEN EJERCICIO = ?1 AND PERIODO = ?2 AND MODELO = ?3 THEN IMPORTE END),"
+        " min(CASE WHEN MODELO = '430' THEN EJERCICIO * 12 + PERIODO - 1 END),"
+        " sum(MODELO = '430' AND EJERCICIO * 12 + PERIODO - 1 < ?4),"
+        " sum(CASE WHEN MODELO = '430' AND EJERCICIO * 12 + PERIODO - 1 BETWEEN ?4 - ?5 AND ?4 - 1"
+        " THEN 1 << (?4 - EJERCICIO * 12 - PERIODO) END) "
+        "FROM DECLARACIONES GROUP BY CSCO");
+    sentencia.con(ejercicio, periodo, modelo.codigo, hasta, FilaPendiente::MesesVistos);
+    std::unordered_map<qint32, Estado> estados;
+    while (sentencia.fila())
+        estados[sentencia.clave(0)] = {sentencia.clave(1), sentencia.entero(2), sentencia.clave(3),
+                                       sentencia.clave(4), sentencia.entero(5)};
+    return estados;
+}
+
 } // namespace
 
 qint32 cDeclaracion::dameResultado(Filas &filas, qint32 CSCO)
@@ -187,6 +239,42 @@ qint32 cDeclaracion::Guardar430(const Registro &datos)
 qint32 cDeclaracion::Guardar480(const Registro &datos)
 {
     return guardarDeclaracion(m_ruta, modelo480(), datos);
+}
+
+Registro cDeclaracion::GuardarConjunto(const Filas &registros, bool todoONada)
+{
+    return guardarDeclaraciones(m_ruta, registros, todoONada);
+}
+
+void cDeclaracion::Buscar(const Filas &buscadas, Filas &filas)
+{
+    const PConexion conexion = Conexion::datos(m_ruta);
+    const LecturaUnica lectura(conexion);
+    Filas halladas;
+    halladas.reserve(buscadas.size());
+    for (const QVariant &una : buscadas)
+        halladas.append(QVariant(buscarDeclaracion(conexion, una.toList())));
+    filas = std::move(halladas);
+}
+
+void cDeclaracion::RecorrerPendientes(qint16 ejercicio, const QString &modelo, quint8 periodo,
+                                      const std::function<bool(const Registro &)> &visitar)
+{
+    const Modelo *pedido = modeloDe(modelo);
+    if (!pedido)
+        throw std::invalid_argument("unknown model");
+    const PConexion conexion = Conexion::datos(m_ruta);
+    const LecturaUnica lectura(conexion);
+    const auto estados = leerEstados(conexion, ejercicio, *pedido, periodo);
+    static const Estado ninguno;
+    Sentencia sentencia(conexion, "SELECT CSCO, DNI, NOMBRE FROM DECLARANTES ORDER BY CLAVE, DNI");
+    while (sentencia.fila()) {
+        const auto hallado = estados.find(sentencia.clave(0));
+        const Estado &e = hallado == estados.end() ? ninguno : hallado->second;
+        if (!visitar({sentencia.clave(0), sentencia.texto(1), sentencia.texto(2), e.csde,
+                      static_cast<double>(e.importe), e.primero, e.cuantos, e.anteriores}))
+            return;
+    }
 }
 
 void cDeclaracion::BorrarDatosNoComunes(qint32 CSDE, const QString &modelo)

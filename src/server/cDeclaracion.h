@@ -23,6 +23,10 @@ public:
     qint16 ValidarDatos480(const Registro &datos) override;
     qint32 Guardar430(const Registro &datos) override;
     qint32 Guardar480(const Registro &datos) override;
+    Registro GuardarConjunto(const Filas &registros, bool todoONada) override;
+    void Buscar(const Filas &buscadas, Filas &filas) override;
+    void RecorrerPendientes(qint16 ejercicio, const QString &modelo, quint8 periodo,
+                            const std::function<bool(const Registro &)> &visitar) override;
     void BorrarDatosNoComunes(qint32 CSDE, const QString &modelo) override;
     void BorrarDeclaracion(qint32 CSDE) override;
 

@@ -154,6 +154,12 @@ static constexpr Trazo Informacion[] = {
     {Blanco, 0, u"O 12 7.4 1.4"},
 };
 
+static constexpr Trazo Pendientes[] = {
+    {AcentoSuave, 0, u"R 3 4.5 18 16.5 2"},
+    {Tinta, Linea, u"R 3 4.5 18 16.5 2"},
+    {Tinta, Linea, u"M 3 9.5 L 21 9.5 M 8 2.5 L 8 6.5 M 16 2.5 L 16 6.5"},
+    {Verde, Grueso, u"M 7.8 14.8 L 10.8 17.6 L 16.4 12.2"},
+};
 static constexpr Trazo Aviso[] = {
     {Ambar, 0,
      u"M 12 2.6 C 12.8 2.6 13.4 3 13.8 3.7 L 22 18.4 C 22.8 19.9 21.9 21.4 20.2 21.4 "
@@ -171,10 +177,10 @@ static constexpr Trazo Pregunta[] = {
 
 /// In the order of the icons.
 static constexpr std::span<const Trazo> Dibujos[] = {
-    Nuevo,      Abrir,       Eliminar,  Ayuda,       Salir,       Aceptar,      Cancelar,
-    Siguiente,  Anterior,    Imprimir,  Declaracion, {}, // the program: its emblem
-    Declarante, Copia,       Restaurar, Importar,    Exportar,    Preferencias, Lista,
-    Buscar,     VistaPrevia, Pdf,       Asistencia,  Informacion, Aviso,        Pregunta,
+    Nuevo,       Abrir,    Eliminar,    Ayuda,       Salir,      Aceptar,      Cancelar, Siguiente,
+    Anterior,    Imprimir, Declaracion, {}, // the program: its emblem
+    Declarante,  Copia,    Restaurar,   Importar,    Exportar,   Preferencias, Lista,    Buscar,
+    VistaPrevia, Pdf,      Asistencia,  Informacion, Pendientes, Aviso,        Pregunta,
 };
 static_assert(std::size(Dibujos) == static_cast<std::size_t>(Icono::Pregunta) + 1);
 

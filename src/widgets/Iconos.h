@@ -29,6 +29,7 @@ enum class Icono {
     Pdf, ///< save as PDF
     Asistencia, ///< help on the network
     Informacion, ///< about the program
+    Pendientes, ///< what a month still lacks
     Aviso, ///< something the user must know
     Pregunta, ///< something the user decides
 };

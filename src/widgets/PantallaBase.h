@@ -21,6 +21,8 @@ enum class Pantalla {
     Impresion,
     Exportar,
     Importar,
+    Pendientes,
+    ImportarDeclaraciones,
     Preferencias,
     AcercaDe,
 };

@@ -1,4 +1,4 @@
-#include "exchange/LectorLineas.h"
+#include "core/LectorLineas.h"
 
 #include "dataservice/ErrorDatos.h"
 

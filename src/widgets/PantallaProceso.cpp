@@ -1,14 +1,17 @@
-#include "exchange/PantallaProceso.h"
+#include "widgets/PantallaProceso.h"
 
 #include "core/Textos.h"
 #include "widgets/Disposicion.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -94,4 +97,35 @@ void PantallaProceso::closeEvent(QCloseEvent *evento)
     }
     m_detener = true;
     evento->ignore();
+}
+
+void PantallaProceso::recibirFicheros(std::function<void(const QString &)> tomar)
+{
+    m_recibir = std::move(tomar);
+    setAcceptDrops(true);
+}
+
+/// The only local file among what is dragged; empty when there is no such one.
+static QString ficheroArrastrado(const QMimeData *datos)
+{
+    const auto direcciones = datos->urls();
+    return direcciones.size() == 1 ? direcciones.first().toLocalFile() : QString();
+}
+
+void PantallaProceso::dragEnterEvent(QDragEnterEvent *evento)
+{
+    if (!m_trabajando && !ficheroArrastrado(evento->mimeData()).isEmpty())
+        evento->acceptProposedAction();
+}
+
+void PantallaProceso::dropEvent(QDropEvent *evento)
+{
+    evento->acceptProposedAction();
+    // the program that it comes from waits until this returns
+    QMetaObject::invokeMethod(
+        this,
+        [this, ruta = ficheroArrastrado(evento->mimeData())] {
+            procedimiento(this, [&] { m_recibir(ruta); });
+        },
+        Qt::QueuedConnection);
 }

@@ -23,6 +23,8 @@ protected:
     /// What is disabled meanwhile.
     QWidget *contenido() const { return m_contenido; }
 
+    /// A file that is dragged onto the screen is handed to `tomar`.
+    void recibirFicheros(std::function<void(const QString &)> tomar);
     /// Runs `trabajo`, which calls paso() every few lines of `total`; the bar is shown only when
     /// there are many. False when an exception ended it, which the user has been told.
     bool trabajar(qint64 total, const std::function<void()> &trabajo);
@@ -30,10 +32,13 @@ protected:
     bool paso(qint64 linea);
 
     void closeEvent(QCloseEvent *evento) override;
+    void dragEnterEvent(QDragEnterEvent *evento) override;
+    void dropEvent(QDropEvent *evento) override;
 
 private:
     void ocupar(bool trabajando);
 
+    std::function<void(const QString &)> m_recibir;
     QWidget *m_contenido;
     QWidget *m_fraProgreso;
     QProgressBar *m_prgProgreso;
