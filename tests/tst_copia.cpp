@@ -167,16 +167,6 @@ private Q_SLOTS:
                  u"Abrir Declarante"_s);
         QCOMPARE(declarantes(copias(u"OstrMod_antes.mdb"_s)), 2);
         QCOMPARE(en(rutas().tablas), Enteras);
-
-        // and back again
-        elegir(copias(u"OstrMod_antes.mdb"_s));
-        mensajes.responder(QMessageBox::Yes);
-        mensajes.responder(QMessageBox::Ok);
-        menu("mnuRestore");
-        QVERIFY(mensajes.tomar().value(1).texto.contains(u"OstrMod_antes.mdb"));
-        QCOMPARE(tabla->model()->rowCount(), 2);
-        QCOMPARE(declarantes(copias(u"OstrMod_antes.mdb"_s)), 1);
-        QCOMPARE(declarantes(copias(u"OstrMod_antes.1.mdb"_s)), 2);
     }
 
     void candidatasRechazadas()

@@ -1,6 +1,7 @@
 #include "declarations/cDatos430.h"
 #include "printing/FrmImOf.h"
 #include "support/DeclaracionesPrueba.h"
+#include "support/LineasPrueba.h"
 #include "support/PantallaAbierta.h"
 #include "widgets/Ficheros.h"
 
@@ -194,6 +195,8 @@ private Q_SLOTS:
             anterior = carpeta.path();
             QCOMPARE(carpeta.entryList(QDir::Files).join(u' '),
                      unoSolo ? u"x_AD-IT.pdf"_s : u"x_AD.pdf x_IT.pdf"_s);
+            if (unoSolo)
+                QVERIFY(lineas::leer(carpeta.filePath(u"x_AD-IT.pdf"_s)).contains("/Count 2"));
             const QString dicho = o.mensajes.ficha();
             QVERIFY(dicho.startsWith(u"Information|"));
             QVERIFY(dicho.contains(unoSolo ? u"x_AD-IT.pdf"_s : u"x_IT.pdf"_s));

@@ -6,9 +6,7 @@
 #include "support/DeclaracionesPrueba.h"
 #include "support/GrabadorDibujo.h"
 
-#include <QBuffer>
 #include <QPainter>
-#include <QPdfWriter>
 #include <QTest>
 
 using namespace impreso;
@@ -119,29 +117,6 @@ private Q_SLOTS:
         QCOMPARE(domicilio(), u"ABRENZUOLA|VARLENDA||"_s);
         d.CODMUN(u"998"_s); // unknown to the service
         QCOMPARE(domicilio(), u"MUNICIPIO TECLEADO|VARLENDA||"_s);
-    }
-
-    void documentos()
-    {
-        const Entorno entorno;
-        pedirImpresion(u"430"_s);
-        TrabajoImpresion trabajo(unico::la<cImOf>());
-        QCOMPARE(trabajo.copias(), (QStringList{u"AD"_s, u"IT"_s}));
-        QBuffer memoria;
-        memoria.open(QIODevice::WriteOnly);
-        QPdfWriter dispositivo(&memoria);
-        prepararPagina(dispositivo);
-        QList<qsizetype> comienzos;
-        QVERIFY(trabajo.imprimir(dispositivo, [&] { comienzos += memoria.size(); }));
-        QCOMPARE(comienzos.size(), 2);
-        QCOMPARE(memoria.data().count("%%EOF"), 2);
-        QVERIFY(comienzos[1] > 10000);
-        // all in one
-        const QByteArray junto = trabajo.pdf(trabajo.copias());
-        QCOMPARE(junto.count("/Type /Catalog"), 1);
-        QVERIFY(junto.contains("/Count 2"));
-        unico::la<cImOf>().PedirBorrador();
-        QCOMPARE(TrabajoImpresion(unico::la<cImOf>()).copias(), QStringList{u"BO"_s});
     }
 };
 

@@ -344,27 +344,6 @@ private Q_SLOTS:
         }
         QVERIFY(vistos.contains(Manos(*datos).control("cmdCancelar")));
     }
-
-    /// The pages of a 480 follow each other where the user has put the frame.
-    void lasPaginasDel480SeQuedanEnSuSitio()
-    {
-        Entorno::altaDeclaracion(Entorno::altaDeclarante(), 2026, 12, u"480"_s);
-        abrirPrograma();
-        elegir("mnuDeclarante", "d1");
-        const Manos resumen(*pantalla("FrmDecResumen"));
-        auto *grid = resumen.control<QTableView>("flxDeclaraciones");
-        const QPoint anual = grid->visualRect(grid->model()->index(0, 1)).center();
-        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, anual);
-        resumen.pulsar("cmdDatos");
-        const QRect sitio(31, 17, marco("FrmDatos480a")->width() + 40, 600);
-        marco("FrmDatos480a")->setGeometry(sitio);
-        for (const auto &[pagina, siguiente] :
-             {std::pair{"FrmDatos480a", "FrmDatos480b"}, {"FrmDatos480b", "FrmDatos480c"}}) {
-            Manos(*pantalla(pagina)).pulsar("cmdSiguiente");
-            QTRY_VERIFY(!pantalla(pagina) && pantalla(siguiente)->isVisible());
-            QCOMPARE(marco(siguiente)->geometry(), sitio);
-        }
-    }
 };
 
 QTEST_MAIN(TstMdiOstrel)

@@ -1,7 +1,5 @@
 #include "support/ServidorPrueba.h"
 
-#include <QSet>
-
 #include <SQLiteCpp/SQLiteCpp.h>
 
 class TstServidorDeclaraciones : public QObject
@@ -78,31 +76,6 @@ private Q_SLOTS:
                      objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2026, 3, 1.0, 999));
                  }),
                  Fallo::SinDeclaracion);
-    }
-
-    /// Another mark after each change of a figure, the same while nothing changed.
-    void huella()
-    {
-        const auto objeto = m_servidor->declaraciones();
-        const auto comprobar = [&](Registro datos, auto guardar) {
-            const qint32 clave = guardar(datos);
-            QVERIFY(objeto->Huella(clave + 1).isEmpty());
-            QSet<QByteArray> vistas{objeto->Huella(clave)};
-            datos[RegGuardar::CSDE] = clave;
-            for (int campo = RegGuardar::Figuras; campo < datos.size(); ++campo) {
-                datos[campo] = datos[campo].typeId() == QMetaType::QString ? QVariant(u"Y"_s)
-                                                                           : QVariant(99.0);
-                QCOMPARE(guardar(datos), clave);
-                vistas += objeto->Huella(clave);
-            }
-            QCOMPARE(vistas.size(), datos.size() - RegGuardar::Figuras + 1);
-            QCOMPARE(guardar(datos), clave);
-            QVERIFY(vistas.contains(objeto->Huella(clave)));
-        };
-        comprobar(ServidorPrueba::datos430(m_declarante, 2026, 3, 1.0),
-                  [&](const Registro &datos) { return objeto->Guardar430(datos); });
-        comprobar(ServidorPrueba::datos480(m_declarante, 2025),
-                  [&](const Registro &datos) { return objeto->Guardar480(datos); });
     }
 
     void rechazados()

@@ -32,46 +32,16 @@ private Q_SLOTS:
         QVERIFY(!m_servidor->traspaso() && m_servidor->alta(u"12345678Z"_s, u"ANA"_s) > 0);
     }
 
-    void rechazados_data()
+    void rechazados()
     {
-        QTest::addColumn<QString>("caso");
-        QTest::addColumn<bool>("esDatos");
-        QTest::addColumn<Fallo>("fallo");
         for (const char *caso : {"empty", "truncated", "short", "text", "random", "damaged"})
-            QTest::addRow("%s", caso) << QString::fromUtf8(caso) << true << Fallo::Danada;
+            probarRechazado(caso, true, Fallo::Danada);
         for (const bool esDatos : {true, false})
             for (const auto &[caso, fallo] : {std::pair{"foreign", Fallo::Ajena},
                                               {"unnamed", Fallo::Ajena},
                                               {"swapped", Fallo::Ajena},
                                               {"newer", Fallo::MasNueva}})
-                QTest::addRow("%s %s", caso, esDatos ? "data" : "lookup")
-                    << QString::fromUtf8(caso) << esDatos << fallo;
-    }
-    void rechazados()
-    {
-        QFETCH(QString, caso);
-        QFETCH(bool, esDatos);
-        QFETCH(Fallo, fallo);
-        const QString ruta = esDatos ? m_servidor->datos() : m_servidor->lectura();
-        const QString otra = esDatos ? m_servidor->lectura() : m_servidor->datos();
-        const QByteArray malo = estropeado(caso, bytes(ruta), bytes(otra));
-        QVERIFY(QFile::remove(otra)); // has to be prepared again all the same
-        escribir(ruta, malo);
-        QString objeto;
-        try {
-            m_servidor->traspaso();
-            m_servidor->comprobar();
-        } catch (const ErrorDatos &error) {
-            objeto = error.objeto();
-            QCOMPARE(error.fallo(), fallo);
-        }
-        QCOMPARE(objeto, ruta);
-        QVERIFY(falloDe(usar));
-        if (esDatos) // found by the first write too, where nobody has looked before
-            QCOMPARE(falloDe(guardar), fallo);
-        QCOMPARE(bytes(ruta), malo);
-        QVERIFY(QFile::exists(otra));
-        QCOMPARE(QDir(m_servidor->carpeta()).entryList(QDir::Files).size(), 2);
+                probarRechazado(caso, esDatos, fallo);
     }
 
     /// What is made from our own texts is made again when it is not what they say.
@@ -368,6 +338,31 @@ private Q_SLOTS:
     }
 
 private:
+    void probarRechazado(const char *caso, bool esDatos, Fallo fallo)
+    {
+        init();
+        const QString ruta = esDatos ? m_servidor->datos() : m_servidor->lectura();
+        const QString otra = esDatos ? m_servidor->lectura() : m_servidor->datos();
+        const QByteArray malo = estropeado(QString::fromUtf8(caso), bytes(ruta), bytes(otra));
+        QVERIFY(QFile::remove(otra)); // has to be prepared again all the same
+        escribir(ruta, malo);
+        QString objeto;
+        try {
+            m_servidor->traspaso();
+            m_servidor->comprobar();
+        } catch (const ErrorDatos &error) {
+            objeto = error.objeto();
+            QCOMPARE(error.fallo(), fallo);
+        }
+        QVERIFY2(objeto == ruta, caso);
+        QVERIFY(falloDe(usar));
+        if (esDatos) // found by the first write too, where nobody has looked before
+            QCOMPARE(falloDe(guardar), fallo);
+        QCOMPARE(bytes(ruta), malo);
+        QVERIFY(QFile::exists(otra));
+        QCOMPARE(QDir(m_servidor->carpeta()).entryList(QDir::Files).size(), 2);
+    }
+
     /// The names stored, by a call that needs both databases.
     QString nombres() const
     {
