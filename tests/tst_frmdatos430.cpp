@@ -58,10 +58,10 @@ private Q_SLOTS:
             "<Rectificación de períodos anteriores>\nRectificación -[txtbrect=] -[txtcrect=]\n"
             "Total (txtbtot=) (txtttot=8,00) (txtctot=)\n<Aceptar> <Cancelar>"_s);
         QCOMPARE(vueltaConTab(*f.pantalla), u"txtbliq chkrect cmdAceptar cmdCancelar"_s);
-        f.manos->escribir("txtbliq", u"500"_s);
         f.manos->pulsar("chkrect");
         QCOMPARE(vueltaConTab(*f.pantalla),
                  u"chkrect txtbrect txtcrect cmdAceptar cmdCancelar txtbliq"_s);
+        f.manos->escribir("txtbliq", u"500"_s); // only typed yet
         Entorno::pasarAEuskera(*f.pantalla);
         QCOMPARE(f.pantalla->windowTitle(), u"Aitorpen - Likidazioa 430"_s);
         compararRetrato(

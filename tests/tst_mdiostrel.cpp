@@ -181,6 +181,20 @@ private Q_SLOTS:
         QTRY_VERIFY(accion("mnuNuevoDeclarante")->isEnabled());
     }
 
+    void elFocoVuelveTrasUnMenuPorTeclado()
+    {
+        pulsarBarra("nuedec");
+        const auto *dni = Manos(*m_ventana).control("txtdni");
+        QTRY_VERIFY(dni->hasFocus());
+        m_ventana->menuBar()->setFocus(Qt::MenuBarFocusReason);
+        accion("mnuPreferencias")->trigger();
+        auto *modal = ventanaVisible(u"frmPreferencias"_s);
+        QVERIFY(QTest::qWaitForWindowActive(modal));
+        QTest::keyClick(modal, Qt::Key_Escape);
+        m_ventana->activateWindow();
+        QTRY_VERIFY(dni->hasFocus());
+    }
+
     void listaEnSusDosModosYEnEuskera()
     {
         TextosQt textosQt;

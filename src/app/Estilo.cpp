@@ -245,6 +245,8 @@ static QPalette paleta(bool oscura)
                    QColor::fromRgb(oscura ? 0xff2f343a : 0xffe6eaee));
     nueva.setColor(QPalette::Disabled, QPalette::Highlight,
                    QColor::fromRgb(oscura ? 0xff4a5158 : 0xffc3ccd6));
+    nueva.setColor(QPalette::Disabled, QPalette::HighlightedText,
+                   QColor::fromRgb(oscura ? 0xffb4bcc4 : 0xff5c6873));
     return nueva;
 }
 

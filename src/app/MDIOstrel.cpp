@@ -21,6 +21,7 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -92,6 +93,10 @@ void MDIOstrel::changeEvent(QEvent *evento)
 {
     if (evento->type() == QEvent::LanguageChange)
         Anadir_captions();
+    // a menu used by keys keeps the focus when what it opened closes: back to the screen in front
+    if (evento->type() == QEvent::ActivationChange && isActiveWindow()
+        && focusWidget() == menuBar())
+        m_pantallas->enfocar();
     QMainWindow::changeEvent(evento);
 }
 

@@ -124,6 +124,13 @@ void Pantallas::olvidar(const PantallaBase *desaparecida)
     Q_EMIT cambiadas();
 }
 
+void Pantallas::enfocar()
+{
+    const auto *delante = m_area->activeSubWindow();
+    if (auto *campo = delante ? delante->widget()->focusWidget() : nullptr)
+        campo->setFocus(Qt::ActiveWindowFocusReason);
+}
+
 bool Pantallas::puedenCerrarse()
 {
     return std::ranges::all_of(m_abiertas.keys(), [this](Pantalla cual) {

@@ -34,6 +34,8 @@ public:
     bool abrir(Pantalla cual);
     /// Closes a screen and does not open what it asks for.
     void cerrar(Pantalla cual);
+    /// Gives the focus back to the field that had it in the screen in front.
+    void enfocar();
     /// Whether every screen may close; asks where something would be lost.
     bool puedenCerrarse();
     /// Shows the stored data again in every screen that is not editing, and says that they changed.

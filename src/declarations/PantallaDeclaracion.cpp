@@ -142,6 +142,13 @@ void PantallaDeclaracion::Anadir_captions()
     m_cabecera->mostrar();
 }
 
+void PantallaDeclaracion::alCambiarIdioma()
+{
+    // what is still only typed is not lost
+    if (confirmarCajas())
+        PresentaDatos();
+}
+
 CajaImporte *PantallaDeclaracion::cajaCalculada(const QString &nombre)
 {
     auto *caja = new CajaImporte(nombre, this);

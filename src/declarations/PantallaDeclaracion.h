@@ -26,7 +26,7 @@ protected:
     virtual void PresentaDatos() = 0;
     /// Key of the return that the record holds.
     virtual qint32 csdeRegistro() const = 0;
-    void alCambiarIdioma() override { PresentaDatos(); }
+    void alCambiarIdioma() override;
 
     /// An amount box whose changes go into `registro` by `escribir(registro, cents)`; a change by
     /// which a total would no longer fit is refused.
