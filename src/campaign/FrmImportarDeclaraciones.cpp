@@ -8,6 +8,7 @@
 #include "widgets/BarraBotones.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Ficheros.h"
+#include "widgets/cUtilidadesGrid.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -58,8 +59,8 @@ void FrmImportarDeclaraciones::prepararGrid()
 {
     m_flxHoja->setObjectName(u"flxHoja"_s);
     m_flxHoja->setModel(m_modelo);
-    prepararTabla(m_flxHoja);
-    m_flxHoja->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    prepararTablaDeVarias(m_flxHoja);
+    ponerAcciones(m_flxHoja, {});
     const int letra = fontMetrics().averageCharWidth();
     static constexpr int anchos[] = {4, 7, 14, 11, 14, 13, 20, 20};
     for (int columna = 0; const int ancho : anchos)
@@ -108,7 +109,7 @@ QSize FrmImportarDeclaraciones::sizeHint() const
 void FrmImportarDeclaraciones::showEvent(QShowEvent *evento)
 {
     PantallaProceso::showEvent(evento);
-    if (!evento->spontaneous() && !focusWidget())
+    if (!evento->spontaneous())
         m_cmdFichero->setFocus(Qt::OtherFocusReason);
 }
 

@@ -211,7 +211,7 @@ void FrmPendientes::alCambiarIdioma()
 void FrmPendientes::showEvent(QShowEvent *evento)
 {
     PantallaBase::showEvent(evento);
-    if (!evento->spontaneous() && !focusWidget())
+    if (!evento->spontaneous())
         m_flxPendientes->setFocus(Qt::OtherFocusReason);
 }
 

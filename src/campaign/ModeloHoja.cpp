@@ -89,6 +89,13 @@ QString ModeloHoja::texto(const Fila &fila, int columna) const
     }
 }
 
+static QVariant alineacion(int columna)
+{
+    const bool cifras = columna == ModeloHoja::Importe || columna == ModeloHoja::Anterior
+        || columna == ModeloHoja::Linea;
+    return QVariant::fromValue<int>((cifras ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+}
+
 QVariant ModeloHoja::data(const QModelIndex &indice, int papel) const
 {
     const Fila &una = fila(indice.row());
@@ -97,12 +104,7 @@ QVariant ModeloHoja::data(const QModelIndex &indice, int papel) const
         return texto(una, columna);
     if (papel == Qt::CheckStateRole && columna == Marca && elegible(indice.row()))
         return una.marcada ? Qt::Checked : Qt::Unchecked;
-    if (papel == Qt::TextAlignmentRole)
-        return QVariant::fromValue<int>(
-            (columna == Importe || columna == Anterior || columna == Linea ? Qt::AlignRight
-                                                                           : Qt::AlignLeft)
-            | Qt::AlignVCenter);
-    return {};
+    return papel == Qt::TextAlignmentRole ? alineacion(columna) : QVariant();
 }
 
 QVariant ModeloHoja::headerData(int seccion, Qt::Orientation orientacion, int papel) const
@@ -111,7 +113,11 @@ QVariant ModeloHoja::headerData(int seccion, Qt::Orientation orientacion, int pa
         Msj::ColumnaLinea, Msj::ColumnaLinea,     Msj::ColumnaDni,     Msj::Ejercicio,
         Msj::Periodo,      Msj::ColumnaResultado, Msj::ColumnaImporte, Msj::ColumnaImporteAnterior,
         Msj::ColumnaMotivo};
-    if (orientacion != Qt::Horizontal || papel != Qt::DisplayRole || seccion == Marca)
+    if (orientacion != Qt::Horizontal || seccion == Marca)
+        return {};
+    if (papel == Qt::TextAlignmentRole)
+        return alineacion(seccion);
+    if (papel != Qt::DisplayRole)
         return {};
     return msj(titulos[seccion]);
 }

@@ -61,7 +61,7 @@ std::optional<QStringList> partir(QByteArrayView linea, char separador, qsizetyp
     return campos;
 }
 
-static QString inofensivo(const QString &campo)
+QString inofensivo(const QString &campo)
 {
     static constexpr QStringView formula(u"=+-@\t\r");
     const bool peligroso = !campo.isEmpty() && formula.contains(campo.front());

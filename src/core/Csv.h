@@ -17,8 +17,11 @@ inline constexpr QByteArrayView Marca("\xEF\xBB\xBF");
 /// than `maximo` fields stand in it. Each field is UTF-8 where it can be, else Windows-1252.
 std::optional<QStringList> partir(QByteArrayView linea, char separador, qsizetype maximo);
 
-/// A line to be written, with its end, in UTF-8. What a spreadsheet would take for a formula gets
-/// an apostrophe in front, unless it is an amount.
+/// A text that a spreadsheet would take for a formula gets an apostrophe in front, unless it is an
+/// amount.
+QString inofensivo(const QString &campo);
+
+/// A line to be written, with its end, in UTF-8, its fields made harmless.
 QByteArray linea(const QStringList &campos);
 
 } // namespace csv

@@ -4,15 +4,19 @@
 #include "core/CEntrada.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
+#include "core/cFecha.h"
 #include "declarants/cDecDatos.h"
 #include "declarants/cDecLista.h"
 #include "declarants/cDecResumen.h"
+#include "printing/Listado.h"
+#include "printing/SalidaImpresora.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Mensajes.h"
 #include "widgets/ModeloFilas.h"
 #include "widgets/cUtilidadesGrid.h"
 
+#include <QDate>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -54,6 +58,7 @@ FrmDecLista::FrmDecLista(QWidget *padre)
     , m_lblBusqueda(nuevaEtiqueta(u"lblBusqueda"_s, this))
     , m_lblNumDecla(nuevaEtiqueta(u"lblNumDecla"_s, this))
     , m_botones(new BarraBotones(u"fraBotones"_s, this))
+    , m_cmdListado(m_botones->anadir(u"cmdListado"_s, {}, Icono::Imprimir))
     , m_cmdAceptar(m_botones->anadir(u"cmdAceptar"_s, u"PicAce"_s,
                                      eliminando() ? Icono::Eliminar : Icono::Aceptar))
     , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar))
@@ -66,6 +71,7 @@ FrmDecLista::FrmDecLista(QWidget *padre)
     crearOrdenes();
     ponerAspecto();
     disponer();
+    alPulsar(m_cmdListado, [this] { imprimirListado(); });
     alPulsar(m_cmdAceptar, [this] { aceptar(); });
     alPulsarSinConfirmar(m_cmdCancelar, [this] { cerrarA(Pantalla::Ninguna); });
     PresentaDatos();
@@ -75,7 +81,7 @@ void FrmDecLista::prepararGrid()
 {
     m_flxDeclarantes->setObjectName(u"flxDeclarantes"_s);
     m_flxDeclarantes->setModel(m_modelo);
-    prepararTabla(m_flxDeclarantes);
+    prepararTablaDeVarias(m_flxDeclarantes);
     for (const int oculta : {CSCO, NUM430, NUM480})
         m_flxDeclarantes->setColumnHidden(oculta, true);
     const int letra = fontMetrics().averageCharWidth();
@@ -109,8 +115,10 @@ void FrmDecLista::crearOrdenes()
 void FrmDecLista::ponerAspecto()
 {
     const bool borra = eliminando();
-    ponerAcciones(m_flxDeclarantes, {{m_cmdAceptar, borra ? Qt::Key_Delete : QKeySequence()}});
+    ponerAcciones(m_flxDeclarantes,
+                  {{m_cmdAceptar, borra ? Qt::Key_Delete : QKeySequence()}, {m_cmdListado, {}}});
     m_lblEliminar->setVisible(borra);
+    m_cmdListado->setVisible(!borra);
     if (!borra)
         return;
     QPalette banda = m_lblEliminar->palette();
@@ -177,6 +185,8 @@ void FrmDecLista::Anadir_captions()
         {QString(), [](const Fila &f) { return QString::number(f.num430); }},
         {QString(), [](const Fila &f) { return QString::number(f.num480); }},
     });
+    m_cmdListado->setText(msj(Msj::MenuImprimirListado));
+    m_cmdListado->setToolTip(msj(Msj::PistaImprimirListado));
     captionsAceptarCancelar(m_cmdAceptar, m_cmdCancelar);
     if (borra)
         m_cmdAceptar->setText(msj(Msj::BotonEliminar));
@@ -293,7 +303,29 @@ void FrmDecLista::alSeleccionar()
 const DeclaranteListado *FrmDecLista::filaActual() const
 {
     const auto filas = m_flxDeclarantes->selectionModel()->selectedRows();
-    return filas.isEmpty() ? nullptr : &m_modelo->fila(filas.first().row());
+    return filas.size() == 1 ? &m_modelo->fila(filas.first().row()) : nullptr;
+}
+
+/// The rows that are shown, in their order.
+void FrmDecLista::imprimirListado()
+{
+    const QDate hoy = QDate::currentDate();
+    impreso::Listado listado{
+        msj(Msj::TituloListado),
+        unico::la<cFecha>().LongToString(hoy.year() * 10000 + hoy.month() * 100 + hoy.day()),
+        {{msj(Msj::ColumnaDni), 24},
+         {msj(Msj::ColumnaRazonSocial), 72},
+         {msj(Msj::ColumnaMunicipio), 40},
+         {msj(Msj::ColumnaProvincia), 30},
+         {Modelo430, 12, true},
+         {Modelo480, 12, true}},
+        {}};
+    for (int i = 0; i < m_modelo->rowCount(); ++i) {
+        const Fila &f = m_modelo->fila(i);
+        listado.filas.append({f.dni, f.nombre, f.nommun, f.nomprov, QString::number(f.num430),
+                              QString::number(f.num480)});
+    }
+    SalidaImpresora().vistaPrevia(this, listado);
 }
 
 void FrmDecLista::aceptar()

@@ -41,8 +41,10 @@ private:
     void seleccionar(int fila);
     void seleccionarDeclarante(qint32 csco);
     void alSeleccionar();
-    const DeclaranteListado *filaActual() const; ///< null when no row is selected
+    const DeclaranteListado *
+    filaActual() const; ///< null unless just one is selected ///< null when no row is selected
     bool eliminando() const;
+    void imprimirListado();
     void aceptar();
     void eliminar(qint32 csco);
     void yaNoEsta(const DeclaranteListado &fila);
@@ -56,6 +58,7 @@ private:
     QLabel *m_lblBusqueda;
     QLabel *m_lblNumDecla;
     BarraBotones *m_botones;
+    QPushButton *m_cmdListado;
     QPushButton *m_cmdAceptar;
     QPushButton *m_cmdCancelar;
 };

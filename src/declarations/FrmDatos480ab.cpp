@@ -1,7 +1,9 @@
 #include "declarations/FrmDatos480ab.h"
 
+#include "core/Importe.h"
 #include "core/Textos.h"
 #include "declarations/cDatos480.h"
+#include "widgets/Disposicion.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -83,7 +85,10 @@ void PaginaClases::showEvent(QShowEvent *evento)
 FrmDatos480a::FrmDatos480a(QWidget *padre)
     : PaginaClases(u"FrmDatos480a"_s, Msj::Titulo480a, true, Pantalla::Ninguna, Pantalla::Datos480b,
                    padre)
+    , m_lblPorRepartir(nuevaEtiqueta(u"lblPorRepartir"_s, this))
 {
+    m_lblPorRepartir->setWordWrap(true);
+    m_cuerpo->addWidget(m_lblPorRepartir);
     auto &r = registro();
     if (r.ENTRADA() == Entrada::Abrir && r.MODO() == Modo::Consulta) {
         r.CargarDeclaracion(r.CSDE());
@@ -91,8 +96,21 @@ FrmDatos480a::FrmDatos480a(QWidget *padre)
     }
     // coming back from the second page must not load again over what was typed
     r.ENTRADA(QString());
+    if (const auto anno = r.CargarMensuales()) {
+        const BandasMensuales bandas = r.Bandas(*anno);
+        m_mensuales = bandas.base1 + bandas.base2;
+    }
     Anadir_captions();
     PresentaDatos();
+}
+
+void FrmDatos480a::PresentaDatos()
+{
+    PaginaClases::PresentaDatos();
+    const double total = registro().casilla(Casilla480::C70_TOT);
+    m_lblPorRepartir->setText(m_mensuales ? msj(Msj::PorRepartir, textoImporte(*m_mensuales),
+                                                textoImporte(*m_mensuales - total))
+                                          : QString());
 }
 
 FrmDatos480b::FrmDatos480b(QWidget *padre)

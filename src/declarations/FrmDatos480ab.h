@@ -4,6 +4,8 @@
 
 #include <QList>
 
+#include <optional>
+
 class QLabel;
 
 /// A page with the boxes of its classes of insurance, two columns, from the table Clases480.
@@ -41,6 +43,13 @@ class FrmDatos480a : public PaginaClases
 
 public:
     explicit FrmDatos480a(QWidget *padre = nullptr);
+
+protected:
+    void PresentaDatos() override;
+
+private:
+    QLabel *m_lblPorRepartir; ///< what the months declared, and what of it is in no class yet
+    std::optional<double> m_mensuales; ///< their bases, cents; nothing when there are none
 };
 
 /// Second page of a 480: classes 12 to 23.

@@ -80,6 +80,7 @@ FrmDatos480c::FrmDatos480c(QWidget *padre)
     m_cuerpo->addWidget(m_lblDiferencia);
     m_cuerpo->addWidget(m_mensuales, 1);
     alPulsar(m_cmdAceptar, [this] { aceptar(); });
+    alPulsar(m_mensuales->boton(), [this] { tomarMensuales(); });
 
     m_mensuales->cargar(registro());
     Anadir_captions();
@@ -168,6 +169,21 @@ void FrmDatos480c::presentarAvisos()
 void FrmDatos480c::showEvent(QShowEvent *evento)
 {
     Pantalla480::showEvent(evento);
+    caja(C73_BA1)->setFocus(Qt::OtherFocusReason);
+}
+
+/// The bases of the months in their bands; everything can still be edited.
+void FrmDatos480c::tomarMensuales()
+{
+    const BandasMensuales bandas = registro().Bandas(*m_mensuales->anno());
+    const bool cabe = cambiarSiCabe(registro(), [&](cDatos480 &r) {
+        r.casilla(C73_BA1, bandas.base1);
+        r.casilla(C76_BA2, bandas.base2);
+        r.MODIFICADO(true);
+    });
+    if (!cabe)
+        aviso(msj(Msj::ImporteTotalExcedido, msj(Msj::ResultadoAnual)));
+    PresentaDatos();
     caja(C73_BA1)->setFocus(Qt::OtherFocusReason);
 }
 

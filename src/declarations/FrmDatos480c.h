@@ -31,6 +31,7 @@ private:
     bool ValidarCampos();
     qint32 GuardarDeclaracion();
     void presentarAvisos();
+    void tomarMensuales();
     void aceptar();
 
     QList<Casilla> m_casillas;

@@ -11,6 +11,7 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QTreeWidget>
 
 using namespace Qt::StringLiterals;
@@ -36,7 +37,9 @@ PanelMensuales::PanelMensuales(QWidget *padre)
     : QWidget(padre)
     , m_titulo(new QLabel(this))
     , m_lst430(new ListaMeses(this))
+    , m_cmdTomar(new QPushButton(this))
     , m_lblNo430(new QLabel(this))
+    , m_lblAparte(nuevaEtiqueta(u"lblAparte"_s, this))
     , m_pie(new QWidget(this))
     , m_grafico(new GraficoCuotas(this))
 {
@@ -50,6 +53,9 @@ PanelMensuales::PanelMensuales(QWidget *padre)
     for (const int columna : {1, 2})
         m_lst430->headerItem()->setTextAlignment(columna, Qt::AlignRight | Qt::AlignVCenter);
     m_lblNo430->setObjectName(u"lblNo430"_s);
+    m_cmdTomar->setObjectName(u"cmdTomarMensuales"_s);
+    m_cmdTomar->setAutoDefault(false);
+    m_lblAparte->setWordWrap(true);
     static constexpr QStringView totales[] = {u"lblTotales430", u"lblTotalBase", u"lblTotalCuota"};
     for (int columna = 0; columna < 3; ++columna) {
         m_totales[columna] = nuevaEtiqueta(totales[columna].toString(), m_pie);
@@ -67,11 +73,13 @@ PanelMensuales::PanelMensuales(QWidget *padre)
     auto *rejilla = new QGridLayout(this);
     rejilla->setContentsMargins(0, 0, 0, 0);
     rejilla->setSpacing(6);
-    rejilla->addWidget(m_titulo, 0, 0, 1, 2);
+    rejilla->addWidget(m_titulo, 0, 0);
+    rejilla->addWidget(m_cmdTomar, 0, 1, Qt::AlignRight);
     rejilla->addWidget(m_lblNo430, 1, 0, 1, 2, Qt::AlignTop);
     rejilla->addWidget(m_lst430, 2, 0);
     rejilla->addWidget(m_pie, 3, 0);
     rejilla->addWidget(m_grafico, 2, 1, 2, 1);
+    rejilla->addWidget(m_lblAparte, 4, 0, 1, 2);
     rejilla->setColumnStretch(0, 3);
     rejilla->setColumnStretch(1, 2);
 }
@@ -79,9 +87,10 @@ PanelMensuales::PanelMensuales(QWidget *padre)
 void PanelMensuales::cargar(const cDatos480 &registro)
 {
     m_anno = registro.CargarMensuales();
-    for (QWidget *parte : QList<QWidget *>{m_lst430, m_pie, m_grafico})
+    for (QWidget *parte : QList<QWidget *>{m_lst430, m_pie, m_grafico, m_cmdTomar})
         parte->setVisible(m_anno.has_value());
     m_lblNo430->setVisible(!m_anno);
+    m_bandas = m_anno ? registro.Bandas(*m_anno) : BandasMensuales();
 }
 
 void PanelMensuales::Anadir_captions()
@@ -90,8 +99,27 @@ void PanelMensuales::Anadir_captions()
     m_lblNo430->setText(m_anno ? QString() : msj(Msj::SinDeclaracionesMensuales));
     m_lst430->setHeaderLabels({msj(Msj::ColumnaMes), msj(Msj::ColumnaBase), msj(Msj::Cuota)});
     m_lst430->setAccessibleName(msj(Msj::AccesibleListaMensuales));
+    m_cmdTomar->setText(msj(Msj::BotonTomarMensuales));
+    m_cmdTomar->setToolTip(msj(Msj::PistaTomarMensuales));
+    presentarAparte();
     if (m_anno)
         mostrar();
+}
+
+/// What is in the months and goes into no band.
+void PanelMensuales::presentarAparte()
+{
+    QStringList partes;
+    if (m_bandas.baseRectificada != 0 || m_bandas.cuotaRectificada != 0)
+        partes += msj(Msj::RectificacionesAparte, textoImporte(m_bandas.baseRectificada),
+                      textoImporte(m_bandas.cuotaRectificada));
+    QStringList meses;
+    for (const int mes : std::as_const(m_bandas.deOtroTipo))
+        meses += nombreMes(mes);
+    if (!meses.isEmpty())
+        partes += msj(Msj::MesesDeOtroTipo, meses.join(u", "_s));
+    m_lblAparte->setText(partes.join(u'\n'));
+    m_lblAparte->setVisible(!partes.isEmpty());
 }
 
 void PanelMensuales::mostrar()

@@ -147,13 +147,34 @@ std::optional<Mensuales430> cDatos480::CargarMensuales() const
         qint32 csde = fila.value(Fila430::CSDE).toInt();
         Registro figuras;
         servicioDeclaracion()->Cargar430(csde, figuras);
-        const Mensuales430::Mes datos{figuras.value(Reg430::BASETOT).toDouble(),
-                                      figuras.value(Reg430::CUOTATOT).toDouble()};
+        const Mensuales430::Mes datos{
+            figuras.value(Reg430::BASETOT).toDouble(), figuras.value(Reg430::CUOTATOT).toDouble(),
+            figuras.value(Reg430::BASELIQ).toDouble(), figuras.value(Reg430::TIPOLIQ).toFloat(),
+            figuras.value(Reg430::BASEREC).toDouble(), figuras.value(Reg430::CUOTAREC).toDouble()};
         anno.meses.at(static_cast<size_t>(mes - 1)) = datos;
         anno.base += datos.base;
         anno.cuota += datos.cuota;
     }
     return anno;
+}
+
+BandasMensuales cDatos480::Bandas(const Mensuales430 &anno) const
+{
+    BandasMensuales bandas;
+    for (int mes = 1; const auto &datos : anno.meses) {
+        if (datos) {
+            if (datos->tipo == m.tipo1)
+                bandas.base1 += datos->baseLiquidada;
+            else if (datos->tipo == m.tipo2)
+                bandas.base2 += datos->baseLiquidada;
+            else
+                bandas.deOtroTipo.append(mes);
+            bandas.baseRectificada += datos->baseRectificada;
+            bandas.cuotaRectificada += datos->cuotaRectificada;
+        }
+        ++mes;
+    }
+    return bandas;
 }
 
 double cDatos480::DiferenciaBases() const

@@ -11,11 +11,25 @@ struct Mensuales430
     {
         double base = 0; ///< total base, cents
         double cuota = 0; ///< total quota, cents
+        double baseLiquidada = 0; ///< without what was rectified
+        float tipo = 0; ///< of that base
+        double baseRectificada = 0;
+        double cuotaRectificada = 0;
     };
 
     std::array<std::optional<Mes>, 12> meses; ///< of two returns of one month, the last one loaded
     double base = 0; ///< running totals: every return counts
     double cuota = 0;
+};
+
+/// What the months declared, by the bands of their year; cents.
+struct BandasMensuales
+{
+    double base1 = 0; ///< at the rate of box 74
+    double base2 = 0; ///< at the rate of box 77
+    double baseRectificada = 0; ///< in none of them
+    double cuotaRectificada = 0;
+    QList<int> deOtroTipo; ///< months at neither rate, in none of them
 };
 
 /// Figures of one model 480 return. Amounts are whole cents, rates percent with two decimals. The
@@ -65,6 +79,8 @@ public:
     bool NumDecl430(Filas &lista) const;
     /// Those returns loaded; nothing when there is none.
     std::optional<Mensuales430> CargarMensuales() const;
+
+    BandasMensuales Bandas(const Mensuales430 &anno) const;
 
     /// Box 70 less 73 and 76: 0 when the bands add up.
     double DiferenciaBases() const;

@@ -70,8 +70,8 @@ FrmExportar::Lista FrmExportar::nuevaLista(const QString &nombre, const QString 
     auto *modelo = new Modelo(grid);
     grid->setObjectName(nombre);
     grid->setModel(modelo);
-    prepararTabla(grid);
-    grid->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    prepararTablaDeVarias(grid);
+    ponerAcciones(grid, {});
     auto filtrar = [grid, modelo](const QString &texto) {
         const QString plegado = busqueda::plegar(texto);
         modelo->filtrar([plegado](const Fila &fila) {

@@ -2,6 +2,7 @@
 
 #include "core/Textos.h"
 #include "printing/DocumentoPdf.h"
+#include "printing/Listado.h"
 #include "printing/TrabajoImpresion.h"
 
 #include <QAction>
@@ -49,11 +50,11 @@ QStringList SalidaImpresora::ficheros(const QStringList &copias) const
     return elegido.isEmpty() ? QStringList() : rutasPdf(elegido, copias, false);
 }
 
-void SalidaImpresora::preparar(const TrabajoImpresion &trabajo)
+void SalidaImpresora::preparar(const QString &titulo)
 {
     // a printer chosen meanwhile brings its own paper
     prepararPagina(*m_impresora);
-    m_impresora->setDocName(trabajo.titulo());
+    m_impresora->setDocName(titulo);
     m_impresora->setCreator(AutorDocumento.toString());
 }
 
@@ -74,13 +75,13 @@ static QAction *accion(const QPrintPreviewDialog &dialogo, const char *texto)
     return nullptr;
 }
 
-/// Printing from the preview would make one document of all the copies, and the forms have one page
+/// Printing the copies from the preview would make one document of them all, and the pages have one
 /// shape only. A page is read at the width of a window that takes most of the screen.
-static void prepararVistaPrevia(QPrintPreviewDialog &dialogo)
+static void prepararVistaPrevia(QPrintPreviewDialog &dialogo, bool imprimible)
 {
     for (const char *ajena : {"Print", "Page setup", "Portrait", "Landscape"})
         if (QAction *orden = accion(dialogo, ajena))
-            orden->setVisible(false);
+            orden->setVisible(imprimible && orden == accion(dialogo, "Print"));
     const QRect libre = dialogo.screen()->availableGeometry();
     dialogo.resize(libre.size() * 0.9);
     dialogo.move(libre.center() - dialogo.rect().center());
@@ -88,20 +89,35 @@ static void prepararVistaPrevia(QPrintPreviewDialog &dialogo)
         ancho->trigger();
 }
 
-void SalidaImpresora::vistaPrevia(QWidget *padre, TrabajoImpresion &trabajo)
+void SalidaImpresora::mostrarVistaPrevia(QWidget *padre,
+                                         const std::function<void(QPrinter &)> &dibujar,
+                                         bool imprimible)
 {
-    preparar(trabajo);
     QPrintPreviewDialog dialogo(m_impresora.get(), padre);
     dialogo.setObjectName(u"vistaPrevia"_s);
     dialogo.setWindowTitle(msj(Msj::VistaPrevia));
-    prepararVistaPrevia(dialogo);
+    prepararVistaPrevia(dialogo, imprimible);
     QObject::connect(&dialogo, &QPrintPreviewDialog::paintRequested, &dialogo,
-                     [&](QPrinter *impresora) { trabajo.paginas(*impresora, trabajo.copias()); });
+                     [&](QPrinter *impresora) { dibujar(*impresora); });
     dialogo.exec();
+}
+
+void SalidaImpresora::vistaPrevia(QWidget *padre, TrabajoImpresion &trabajo)
+{
+    preparar(trabajo.titulo());
+    mostrarVistaPrevia(
+        padre, [&](QPrinter &impresora) { trabajo.paginas(impresora, trabajo.copias()); }, false);
+}
+
+void SalidaImpresora::vistaPrevia(QWidget *padre, const impreso::Listado &listado)
+{
+    preparar(listado.titulo);
+    mostrarVistaPrevia(
+        padre, [&](QPrinter &impresora) { listado.dibujar(impresora); }, true);
 }
 
 bool SalidaImpresora::imprimir(TrabajoImpresion &trabajo)
 {
-    return trabajo.imprimir(*m_impresora, [&] { preparar(trabajo); })
+    return trabajo.imprimir(*m_impresora, [&] { preparar(trabajo.titulo()); })
         && m_impresora->printerState() != QPrinter::Error;
 }

@@ -2,9 +2,14 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
+namespace impreso {
+struct Listado;
+}
 class QPrinter;
+class QPrintPreviewDialog;
 class QWidget;
 class TrabajoImpresion;
 
@@ -30,13 +35,17 @@ public:
 
     /// The platform's printer dialogue.
     void opciones(QWidget *padre);
+    /// A list on screen, from where it is printed.
+    void vistaPrevia(QWidget *padre, const impreso::Listado &listado);
     /// The copies on screen.
     void vistaPrevia(QWidget *padre, TrabajoImpresion &trabajo);
     /// Every copy as a document of its own; false when the printer did not take one.
     bool imprimir(TrabajoImpresion &trabajo);
 
 private:
-    void preparar(const TrabajoImpresion &trabajo);
+    void preparar(const QString &titulo);
+    void mostrarVistaPrevia(QWidget *padre, const std::function<void(QPrinter &)> &dibujar,
+                            bool imprimible);
 
     std::unique_ptr<QPrinter> m_impresora;
 };

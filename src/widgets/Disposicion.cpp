@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QLabel>
+#include <QShortcut>
 #include <QTableView>
 
 QLabel *nuevaEtiqueta(const QString &nombre, QWidget *padre, QWidget *de)
@@ -43,4 +44,17 @@ void prepararTabla(QTableView *tabla)
     tabla->verticalHeader()->setDefaultSectionSize(tabla->fontMetrics().height() + 8);
     tabla->horizontalHeader()->setHighlightSections(false);
     tabla->horizontalHeader()->setStretchLastSection(true);
+}
+
+void prepararTablaDeVarias(QTableView *tabla)
+{
+    prepararTabla(tabla);
+    tabla->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    for (const auto tecla : {Qt::Key_Home, Qt::Key_End}) {
+        auto *atajo = new QShortcut(Qt::CTRL | tecla, tabla);
+        atajo->setContext(Qt::WidgetShortcut);
+        QObject::connect(atajo, &QShortcut::activated, tabla, [=] {
+            tabla->selectRow(tecla == Qt::Key_Home ? 0 : tabla->model()->rowCount() - 1);
+        });
+    }
 }

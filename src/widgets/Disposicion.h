@@ -23,6 +23,9 @@ QFrame *nuevaRaya(QWidget *padre);
 
 /// Rows selected one at a time, nothing edited, no grid.
 void prepararTabla(QTableView *tabla);
+/// The same with several rows at once. Ctrl+Home and Ctrl+End select the row that they go to, as
+/// where one row is selected at a time.
+void prepararTablaDeVarias(QTableView *tabla);
 
 /// Gives an access key to every label and button of `pantalla` that has none, all different from
 /// each other, from those written in the texts and from the menus of the main window.

@@ -1,6 +1,7 @@
 #include "widgets/cUtilidadesGrid.h"
 
 #include "core/Textos.h"
+#include "widgets/SalidaLista.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -126,7 +127,8 @@ static void abrirMenu(QTableView *grid, const QList<AccionFila> &acciones, const
     const auto fila = grid->indexAt(lugar);
     if (!fila.isValid())
         return;
-    grid->selectRow(fila.row());
+    if (!grid->selectionModel()->isRowSelected(fila.row()))
+        grid->selectRow(fila.row());
     QMenu menu(grid);
     menu.setObjectName(u"mnuFila"_s);
     for (const auto &accion : acciones) {
@@ -136,6 +138,7 @@ static void abrirMenu(QTableView *grid, const QList<AccionFila> &acciones, const
         entrada->setEnabled(accion.boton->isEnabled());
         QObject::connect(entrada, &QAction::triggered, accion.boton, &QPushButton::click);
     }
+    anadirSalidas(menu, grid);
     menu.exec(grid->viewport()->mapToGlobal(lugar));
 }
 
@@ -148,6 +151,7 @@ void ponerAcciones(QTableView *grid, const QList<AccionFila> &acciones)
         atajo->setContext(Qt::WidgetWithChildrenShortcut);
         QObject::connect(atajo, &QShortcut::activated, accion.boton, &QPushButton::click);
     }
+    permitirSalida(grid);
     grid->setContextMenuPolicy(Qt::CustomContextMenu);
     QObject::connect(grid, &QTableView::customContextMenuRequested, grid,
                      [=](const QPoint &lugar) { abrirMenu(grid, acciones, lugar); });

@@ -66,5 +66,6 @@ struct AccionFila
     QKeySequence tecla; ///< pressed in the grid; may be empty
 };
 
-/// Gives the rows of a grid a context menu and keys that press these buttons.
+/// Gives the rows of a grid a context menu and keys that press these buttons, and lets the list
+/// leave the program (SalidaLista.h).
 void ponerAcciones(QTableView *grid, const QList<AccionFila> &acciones);
