@@ -1,9 +1,11 @@
 #include "widgets/Disposicion.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
-#include <QShortcut>
 #include <QTableView>
+
+#include <algorithm>
 
 QLabel *nuevaEtiqueta(const QString &nombre, QWidget *padre, QWidget *de)
 {
@@ -46,15 +48,42 @@ void prepararTabla(QTableView *tabla)
     tabla->horizontalHeader()->setStretchLastSection(true);
 }
 
+namespace {
+
+/// Ctrl+Home and Ctrl+End in a list of which several rows can be selected.
+class TeclasDeFin : public QObject
+{
+public:
+    explicit TeclasDeFin(QTableView *tabla)
+        : QObject(tabla)
+        , m_tabla(tabla)
+    {
+        tabla->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *objeto, QEvent *evento) override
+    {
+        const auto *tecla
+            = evento->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(evento) : nullptr;
+        if (!tecla || tecla->modifiers() != Qt::ControlModifier
+            || (tecla->key() != Qt::Key_Home && tecla->key() != Qt::Key_End))
+            return QObject::eventFilter(objeto, evento);
+        const int fila = tecla->key() == Qt::Key_Home ? 0 : m_tabla->model()->rowCount() - 1;
+        m_tabla->selectionModel()->setCurrentIndex(
+            m_tabla->model()->index(fila, std::max(0, m_tabla->currentIndex().column())),
+            QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        return true;
+    }
+
+private:
+    QTableView *m_tabla;
+};
+
+} // namespace
+
 void prepararTablaDeVarias(QTableView *tabla)
 {
     prepararTabla(tabla);
     tabla->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    for (const auto tecla : {Qt::Key_Home, Qt::Key_End}) {
-        auto *atajo = new QShortcut(Qt::CTRL | tecla, tabla);
-        atajo->setContext(Qt::WidgetShortcut);
-        QObject::connect(atajo, &QShortcut::activated, tabla, [=] {
-            tabla->selectRow(tecla == Qt::Key_Home ? 0 : tabla->model()->rowCount() - 1);
-        });
-    }
+    new TeclasDeFin(tabla);
 }
