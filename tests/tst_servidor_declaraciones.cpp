@@ -52,6 +52,84 @@ private Q_SLOTS:
         QCOMPARE(contadores(), (QVariantList{1.0, 1.0}));
     }
 
+    /// Of both models, new and replaced; what cannot be stored is left out, or stops it all.
+    void conjunto()
+    {
+        const auto objeto = m_servidor->declaraciones();
+        const qint32 otro = m_servidor->alta(u"87654321X"_s, u"BLAS"_s);
+        const qint32 vieja
+            = objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2026, 1, 5.0));
+        Registro mala = ServidorPrueba::datos430(otro, 2026, 4, 1.0);
+        mala[RegGuardar::PERIODO] = 13;
+        const Filas registros{ServidorPrueba::datos430(m_declarante, 2026, 1, 7.0, vieja),
+                              ServidorPrueba::datos480(otro, 2026),
+                              mala,
+                              ServidorPrueba::datos430(otro, 2026, 2, 3.0),
+                              ServidorPrueba::datos430(otro, 2026, 2, 4.0),
+                              ServidorPrueba::datos430(999, 2026, 2, 4.0),
+                              ServidorPrueba::datos430(otro, 2026, 3, 4.0, 999)};
+        QCOMPARE(objeto->GuardarConjunto(registros, true), Registro(7, 0));
+        QCOMPARE(importes(), QVariantList{5.0});
+        const Registro claves = objeto->GuardarConjunto(registros, false);
+        QCOMPARE(claves, (Registro{vieja, vieja + 1, 0, vieja + 2, 0, 0, 0}));
+        QCOMPARE(importes(), QVariantList{7.0});
+        Registro figuras;
+        qint32 anual = claves[1].toInt();
+        objeto->Cargar480(anual, figuras);
+        QCOMPARE(figuras, ServidorPrueba::datos480(otro, 2026).mid(RegGuardar::Figuras));
+        Filas recientes;
+        m_servidor->declarantes()->ObtenerUltimosDeclarantes(recientes);
+        QCOMPARE(columna(recientes, FilaReciente::DNI),
+                 (QVariantList{u"12345678Z"_s, u"87654321X"_s}));
+
+        Filas halladas;
+        objeto->Buscar({Registro{u"87654321X"_s, 2026, 2, u"430"_s},
+                        Registro{u"87654321x "_s, 2026, 12, u"480"_s},
+                        Registro{u"12345678Z"_s, 2026, 2, u"430"_s},
+                        Registro{u"A58818501"_s, 2026, 2, u"430"_s}},
+                       halladas);
+        QCOMPARE(halladas,
+                 (Filas{Registro{otro, claves[3], 3.0}, Registro{otro, claves[1], 56.0},
+                        Registro{m_declarante, 0, 0.0}, Registro{0, 0, 0.0}}));
+    }
+
+    /// Every declarant by name, with what it has of one return and of the months before it.
+    void pendientes()
+    {
+        const auto objeto = m_servidor->declaraciones();
+        const qint32 blas = m_servidor->alta(u"87654321X"_s, u"BLAS"_s);
+        m_servidor->alta(u"00000001R"_s, u"AARON"_s);
+        for (const int mes : {11, 12})
+            objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2025, mes, 1.0));
+        const qint32 marzo
+            = objeto->Guardar430(ServidorPrueba::datos430(m_declarante, 2026, 3, 42.0));
+        objeto->Guardar430(ServidorPrueba::datos430(blas, 2026, 12, 9.0));
+        const qint32 anual = objeto->Guardar480(ServidorPrueba::datos480(blas, 2026));
+        const auto recorrer = [&](const QString &modelo, quint8 periodo) {
+            Filas filas;
+            objeto->RecorrerPendientes(2026, modelo, periodo, [&](const Registro &fila) {
+                filas += QVariant(fila);
+                return true;
+            });
+            return filas;
+        };
+        const auto sin = [](const Registro &estado) {
+            return Registro{3, u"00000001R"_s, u"AARON"_s} + estado;
+        };
+        const int noviembre = 2025 * 12 + 10, diciembre = 2026 * 12 + 11;
+        QCOMPARE(recorrer(u"430"_s, 3),
+                 (Filas{sin({0, 0.0, 0, 0, 0LL}),
+                        Registro{m_declarante, u"12345678Z"_s, u"ANA"_s, marzo, 42.0, noviembre, 2,
+                                 0b1100LL},
+                        Registro{blas, u"87654321X"_s, u"BLAS"_s, 0, 0.0, diciembre, 0, 0LL}}));
+        QCOMPARE(
+            recorrer(u"480"_s, 12),
+            (Filas{sin({0, 0.0, 0, 0, 0LL}),
+                   Registro{m_declarante, u"12345678Z"_s, u"ANA"_s, 0, 0.0, noviembre, 3,
+                            0b11001000000000LL},
+                   Registro{blas, u"87654321X"_s, u"BLAS"_s, anual, 56.0, diciembre, 1, 1LL}}));
+    }
+
     void cambioYDuplicado()
     {
         const auto objeto = m_servidor->declaraciones();
