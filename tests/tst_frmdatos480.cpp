@@ -354,6 +354,38 @@ private Q_SLOTS:
         Entorno::pasarAEuskera(*m_pagina);
         QVERIFY(filas().startsWith(u"URTARRILA 100,00 10,01|OTSAILA"_s));
     }
+
+    /// The months' bases go into the band of their rate; the rest is said beside the button.
+    void tomarDeLasMensuales()
+    {
+        const auto mes = [this](int periodo, double base, float tipo) {
+            servicioDeclaracion()->Guardar430({0, m_csco, 2026, 1, periodo, u"430"_s, 1, u"X"_s,
+                                               base, tipo, 0.0, 100.0, 8.0, base + 100, tipo, 8.0});
+        };
+        mes(1, 10000, 7.15F);
+        mes(2, 20000, 6.0F);
+        mes(3, 40000, 7.15F);
+        mes(4, 80000, 4.0F);
+        registro().C74_TI1(7.15F);
+        registro().C77_TI2(6.0F);
+        abrir(Pantalla::Datos480a);
+        manos().escribir("txt01vida", u"200"_s);
+        manos().tecla(Qt::Key_Tab);
+        QCOMPARE(manos().texto("lblPorRepartir"),
+                 u"Bases de las declaraciones mensuales: 700,00. Por repartir entre las clases: "
+                 "500,00"_s);
+        avanzar(2);
+        QCOMPARE(manos().texto("lblAparte"),
+                 u"Rectificaciones de las mensuales, que no se incluyen: base 4,00, cuota 0,32\n"
+                 "Meses con otro tipo, que no se incluyen: ABRIL"_s);
+        manos().pulsar("cmdTomarMensuales");
+        QCOMPARE(manos().textos("txt73ba1 txt76ba2 txt75cu1 txt78cu2"),
+                 u"500,00|200,00|35,75|12,00"_s);
+        QVERIFY(registro().MODIFICADO());
+        manos().escribir("txt73ba1", u"1"_s); // still to be edited
+        manos().tecla(Qt::Key_Tab);
+        QCOMPARE(registro().casilla(Casilla480::C73_BA1), 100.0);
+    }
 };
 
 QTEST_MAIN(TstFrmDatos480)

@@ -1,6 +1,10 @@
 #include "declarants/FrmDecLista.h"
 #include "declarants/cDecLista.h"
 #include "support/ListaAbierta.h"
+#include "widgets/Ficheros.h"
+
+#include <QClipboard>
+#include <QFileDialog>
 
 /// The list over three declarants, whose order by DNI is not that by name.
 struct Lista : ListaAbierta<FrmDecLista>
@@ -222,6 +226,46 @@ private Q_SLOTS:
         QCOMPARE(l.pantalla->windowTitle(), u"Deuseztatu aitortzailea"_s);
         QCOMPARE(l.manos->textos("lblNumDecla cmdAceptar").remove(u'&'),
                  u"2 aitortzaile hautatu d(ir)a|Deuseztatu"_s);
+    }
+
+    /// The rows selected as a spreadsheet takes them, the whole list as a file, and on paper.
+    void laListaSale()
+    {
+        Lista l;
+        Entorno::altaDeclarante(u"A58818501"_s, u"=1+1;\"A\""_s);
+        l.pantalla->Actualizar();
+        l.elegir(0);
+        l.tecla(Qt::Key_Down, Qt::ShiftModifier);
+        QVERIFY(!l.manos->control("cmdAceptar")->isEnabled()); // one at a time
+        l.tecla(Qt::Key_C, Qt::ControlModifier);
+        const QString titulos = u"DNI\tRazón social\tNombre del municipio\tNombre de provincia\n"_s;
+        QCOMPARE(QGuiApplication::clipboard()->text(),
+                 titulos
+                     + u"A58818501\t'=1+1;\"A\"\tABRENZUOLA\tVARLENDA\n"
+                       "12345678Z\tALFA\tABRENZUOLA\tVARLENDA\n"_s);
+        const QString ruta = l.entorno.ruta(u"lista.csv"_s);
+        ficheros::observar([&](QFileDialog &dialogo) {
+            QTimer::singleShot(0, &dialogo, [&] {
+                dialogo.selectFile(ruta);
+                QTest::keyClick(&dialogo, Qt::Key_Return);
+            });
+        });
+        l.manos->elegirEnMenu(*l.grid(), l.lugar(0), "mnuGuardarLista");
+        ficheros::observar({});
+        QFile csv(ruta);
+        QVERIFY(csv.open(QIODevice::ReadOnly));
+        const QByteArrayList lineas = csv.readAll().split('\n');
+        QCOMPARE(lineas.size(), 6);
+        QCOMPARE(lineas[0],
+                 QByteArray("\xef\xbb\xbf") + titulos.trimmed().replace(u'\t', u';').toUtf8()
+                     + '\r');
+        QCOMPARE(lineas[1], QByteArray("A58818501;\"'=1+1;\"\"A\"\"\";ABRENZUOLA;VARLENDA\r"));
+        QTimer::singleShot(0, qApp, [] {
+            auto *vista = ventanaVisible(u"vistaPrevia"_s);
+            QVERIFY(vista);
+            QTest::keyClick(vista, Qt::Key_Escape);
+        });
+        l.manos->pulsar("cmdListado");
     }
 
     void cancelar()

@@ -1,4 +1,5 @@
 #include "printing/Lienzo.h"
+#include "printing/Listado.h"
 #include "printing/cImOf.h"
 #include "support/ValoresPrueba.h"
 
@@ -82,6 +83,29 @@ private Q_SLOTS:
                 const QRectF sello = g.recuadros[g.recuadros.size() - 2].caja;
                 QVERIFY((sello.topLeft() - QPointF(108.5, 193)).manhattanLength() < 0.02);
             }
+    }
+
+    /// The last page of a list: heading, titles, the rows that are left under their columns, its
+    /// number.
+    void listado()
+    {
+        impreso::Listado lista{
+            u"Título"_s, u"20/11/2026"_s, {{u"Uno"_s, 100}, {u"Dos"_s, 90, true}}, {}};
+        QCOMPARE(lista.paginas(), 1);
+        for (int i = 0; i < 92; ++i)
+            lista.filas.append({u"a%1"_s.arg(i), u"b%1"_s.arg(i)});
+        QCOMPARE(lista.paginas(), 3);
+        GrabadorDibujo g;
+        {
+            QPainter pintor(&g);
+            lista.dibujarPagina(pintor, 2);
+        }
+        QStringList textos;
+        for (const auto &t : std::as_const(g.textos))
+            textos += t.texto;
+        QCOMPARE(textos.join(u' '), u"Título 20/11/2026 Uno Dos a90 b90 a91 b91 Página 3 de 3"_s);
+        QVERIFY(g.textos[4].caja.left() < 15 && g.textos[4].caja.top() > g.textos[2].caja.bottom());
+        QVERIFY(std::abs(g.textos[5].caja.right() - g.textos[3].caja.right()) < 0.5);
     }
 };
 

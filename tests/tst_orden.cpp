@@ -161,6 +161,60 @@ private Q_SLOTS:
         QCOMPARE(json("declaraciones --dni 12345678Z").count(u"CSDE"), 1);
     }
 
+    /// Returns of a sheet, and what is due before and after.
+    void hojaYPendientes()
+    {
+        hacer(opcionesAlta());
+        hacer(opcionesAlta(u"dni"_s, u"A58818501"_s));
+        hacer(declarar("430 --ejercicio 2026 --periodo 1 --base 100"));
+        const QString hoja = m_carpeta->filePath(u"hoja.csv"_s);
+        lineas::escribir(hoja,
+                         "DNI;EJERCICIO;PERIODO;BASE\n12345678Z;2026;1;500\n"
+                         "12345678Z;2026;3;1.000,50\nA58818501;2026;3;x\n");
+        const QStringList desde = partes("declarar --desde") + QStringList{hoja};
+        const QByteArray mala = "Fila 4: BASE: «x» no es un importe.\n";
+        const QByteArray guardada
+            = "Fila 2: ya está guardada; indique --sustituir para sustituirla\n" + mala;
+        rechazar(desde + partes("--simular --sustituir"),
+                 mala
+                     + "Simulación: no se ha guardado nada. 3 filas: 1 nuevas, 1 sustituyen a "
+                       "otra, 1 rechazadas. Marcadas para guardar: 2.\n");
+        rechazar(desde + partes("--todo-o-nada --sustituir"),
+                 mala + "Declaraciones guardadas: 0. No guardadas: 2. Rechazadas: 1.\n");
+        rechazar(desde, guardada + "Declaraciones guardadas: 1. No guardadas: 1. Rechazadas: 1.\n");
+        lineas::escribir(hoja, "DNI;EJERCICIO;PERIODO;BASE\n12345678Z;2026;1;500\n");
+        decir(desde + partes("--todo-o-nada --sustituir"),
+              "Declaraciones guardadas: 1. No guardadas: 0. Rechazadas: 0.\n");
+        decir(Listar + partes("--csv"),
+              "Ejercicio;Período;Modelo;Importe\r\n2026;ENERO;430;40,00\r\n"
+              "2026;MARZO;430;80,04\n");
+        rechazar(partes("declarar --desde /dev/null"), "");
+        rechazar(partes("declarar --desde="), "Falta el valor de la opción --desde", 2);
+
+        const auto pendientes
+            = [](const char *resto) { return partes("pendientes") + partes(resto); };
+        decir(pendientes("--ejercicio 2026 --periodo 3"),
+              "DNI        Razón social   Estado     Importe  Meses anteriores sin declarar\n"
+              "12345678Z  SEGUROS ÑANDÚ  Guardada     80,04  2026: FEBRERO\n"
+              "A58818501  SEGUROS ÑANDÚ  Pendiente\n");
+        decir(pendientes("--ejercicio 2026 --periodo anual --csv"),
+              "DNI;Razón social;Estado;Importe;Meses anteriores sin declarar\r\n"
+              "12345678Z;SEGUROS ÑANDÚ;Falta un mes anterior;;2026: FEBRERO, ABRIL, MAYO, JUNIO, "
+              "JULIO, AGOSTO, SEPTIEMBRE, OCTUBRE, NOVIEMBRE, DICIEMBRE\r\n"
+              "A58818501;SEGUROS ÑANDÚ;Pendiente;;\n");
+        const auto filas = QJsonDocument::fromJson(
+            ostrel(pendientes("--ejercicio 2026 --periodo 1 --json")).texto);
+        QCOMPARE(filas.toJson(QJsonDocument::Compact),
+                 QByteArray("[{\"CSCO\":1,\"CSDE\":1,\"DNI\":\"12345678Z\",\"ESTADO\":\"GUARDADA\","
+                            "\"FALTAN\":\"\",\"IMPORTE\":40,\"NOMBRE\":\"SEGUROS ÑANDÚ\"},"
+                            "{\"CSCO\":2,\"CSDE\":0,\"DNI\":\"A58818501\",\"ESTADO\":\"PENDIENTE\","
+                            "\"FALTAN\":\"\",\"IMPORTE\":null,\"NOMBRE\":\"SEGUROS ÑANDÚ\"}]"));
+        rechazar(pendientes("--ejercicio 2026 --periodo 13"), "El valor «13» no es válido", 2);
+        rechazar(pendientes("--ejercicio 2031 --periodo 1"), "El ejercicio-periodo no puede ser");
+        rechazar(pendientes("--ejercicio 2026 --periodo 1 --json --csv"),
+                 "Las opciones --json y --csv no se pueden indicar a la vez.", 2);
+    }
+
     /// Every option of the print command, read back from the paper.
     void imprimir()
     {

@@ -14,10 +14,10 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QStandardPaths>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -93,12 +93,18 @@ void FrmImportarDeclaraciones::conectar()
     alPulsar(m_cmdRechazadas, [this] { guardarRechazadas(); });
     alPulsarSinConfirmar(m_cmdCancelar, [this] { cerrarA(Pantalla::Ninguna); });
     connect(m_modelo, &ModeloHoja::marcada, this, &FrmImportarDeclaraciones::PresentaDatos);
-    auto *espacio = new QShortcut(Qt::Key_Space, m_flxHoja);
-    espacio->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(espacio, &QShortcut::activated, this, [this] {
-        for (const auto &fila : m_flxHoja->selectionModel()->selectedRows())
-            m_modelo->alternar(fila.row());
-    });
+    m_flxHoja->installEventFilter(this);
+}
+
+/// The space bar ticks the rows selected, or unticks them.
+bool FrmImportarDeclaraciones::eventFilter(QObject *objeto, QEvent *evento)
+{
+    if (evento->type() != QEvent::KeyPress
+        || static_cast<QKeyEvent *>(evento)->key() != Qt::Key_Space)
+        return PantallaProceso::eventFilter(objeto, evento);
+    for (const auto &fila : m_flxHoja->selectionModel()->selectedRows())
+        m_modelo->alternar(fila.row());
+    return true;
 }
 
 QSize FrmImportarDeclaraciones::sizeHint() const

@@ -22,6 +22,7 @@ public:
 
 protected:
     void alCambiarIdioma() override;
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
     void showEvent(QShowEvent *evento) override;
 
 private:

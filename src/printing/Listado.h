@@ -27,9 +27,7 @@ struct Listado
     int paginas() const; ///< at least one
     /// Draws them all; false when the device takes no more.
     bool dibujar(QPagedPaintDevice &dispositivo) const;
-
-private:
-    void dibujarPagina(QPainter &pintor, int pagina) const;
+    void dibujarPagina(QPainter &pintor, int pagina) const; ///< from 0
 };
 
 } // namespace impreso
