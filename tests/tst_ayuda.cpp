@@ -99,6 +99,11 @@ private:
                            << NoExisteFicheroImportar << SinNavegador << SinNavegador
                            << FalloConexion << FalloConexion << DatosActualizacionErroneos
                            << DatosActualizacionErroneos << FalloNoExiste << FalloLecturaEscritura
+                           << FalloEnlaceRoto << FalloEnlaceRoto << FalloIncompleta << FalloLectura
+                           << FalloSinDeclarante << FalloSinDeclaracion << FicheroNoRegular
+                           << FicheroDelPrograma << PreguntaCambioAjeno << PreguntaCambioAjeno
+                           << EliminadoEnOtraCopia << EliminadoEnOtraCopia
+                           << PreguntaCerrarSinGuardar << PreguntaCerrarSinGuardar
                            << ImporteIlegible << ImporteTotalExcedido;
         for (qsizetype i = 0; i < tramos.size(); i += 2) {
             for (int n = static_cast<int>(tramos[i]); n <= static_cast<int>(tramos[i + 1]); ++n) {

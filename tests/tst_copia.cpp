@@ -284,7 +284,10 @@ private Q_SLOTS:
             ::setrlimit(RLIMIT_FSIZE, &limite);
         };
         for (const QString &orden : {u"copia"_s, u"restaurar"_s}) {
-            rechazada(proceso({orden}, sinSitio), "No queda espacio en el disco");
+            const QString lleno = orden == u"copia" ? copias(u"OstrMod_bak.mdb"_s) : rutas().datos;
+            rechazada(proceso({orden}, sinSitio),
+                      "No queda espacio en el disco para guardar el fichero «" + lleno.toUtf8()
+                          + "».");
             QCOMPARE(bytes(rutas().datos), base);
             QCOMPARE(en(copias()), QStringList(u"OstrMod_bak.mdb"_s));
             QCOMPARE(bytes(copias(u"OstrMod_bak.mdb"_s)), copia);

@@ -29,16 +29,16 @@ void comprobarEntera(SQLite::Database &base, const QString &ruta)
         throw ErrorDatos(Fallo::Danada, ruta, u"rows without their parent"_s);
 }
 
-/// Runs `f`; what is wrong with our copy is told of the user's file.
-template <class F> void deEsteFichero(const QString &ruta, F &&f)
+/// Runs `f`; what is wrong with our copy is told of the user's file, what the disk lacks to make it
+/// of the database beside which it is made.
+template <class F> void deEsteFichero(const QString &ruta, const QString &propia, F &&f)
 {
     try {
         f();
     } catch (const ErrorDatos &error) {
         const bool delDisco
             = error.fallo() == Fallo::SinEspacio || error.fallo() == Fallo::SoloLectura;
-        throw ErrorDatos(error.fallo(), delDisco ? error.objeto() : ruta,
-                         QString::fromUtf8(error.what()));
+        throw ErrorDatos(error.fallo(), delDisco ? propia : ruta, QString::fromUtf8(error.what()));
     }
 }
 
@@ -62,7 +62,7 @@ CopiaElegida::CopiaElegida(const QString &ruta, const QString &propia)
     comprobarCabecera(ruta, FormatoDatos, Version::ActualOMenor);
     if (esLaMisma(ruta, propia))
         throw ErrorDatos(Fallo::EsElPropio, ruta);
-    deEsteFichero(ruta, [&] {
+    deEsteFichero(ruta, propia, [&] {
         copiarBytes(ruta, m_fichero.ruta());
         QFile::setPermissions(m_fichero.ruta(), QFile::ReadOwner | QFile::WriteOwner);
         m_base = abrirComprobada(m_fichero.ruta(), FormatoDatos, Version::ActualOMenor);

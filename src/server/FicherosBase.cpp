@@ -153,7 +153,11 @@ Provisional::~Provisional()
 
 void Provisional::preparar() const
 {
-    sincronizar(m_ruta);
+    try {
+        sincronizar(m_ruta);
+    } catch (const ErrorDatos &error) { // of a name that nobody else knows
+        throw ErrorDatos(error.fallo(), m_destino, QString::fromUtf8(error.what()));
+    }
     // SQLite would replay a journal left behind by an earlier file of that name into the new one.
     const QString diario = m_destino + u"-journal"_s;
     if (QFile::exists(diario) && !QFile::exists(m_destino))
