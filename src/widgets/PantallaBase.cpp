@@ -100,7 +100,8 @@ void PantallaBase::centrar()
 {
     const QRect libre = screen()->availableGeometry();
     const QWidget *sobre = parentWidget() ? parentWidget()->window() : nullptr;
-    QSize tamano = sizeHint();
+    // a scale such as 150 % may round a window down to less than what it holds
+    QSize tamano = sizeHint() + QSize(2, 2);
     // room for the bar by which the rest is reached
     if (tamano.height() > libre.height())
         tamano.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
