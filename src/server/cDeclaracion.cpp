@@ -127,28 +127,43 @@ struct Estado
     qint64 anteriores = 0;
 };
 
-/// Those of every declarant with returns, in one passage over the index that keeps returns unique:
-/// only the amount of the return asked for is looked up in the table.
-std::unordered_map<qint32, Estado> leerEstados(const PConexion &conexion, qint32 ejercicio,
-                                               const Modelo &modelo, qint32 periodo)
+using Estados = std::unordered_map<qint32, Estado>;
+
+void leerGuardadas(const PConexion &conexion, qint32 ejercicio, const QString &modelo,
+                   qint32 periodo, Estados &estados)
 {
-    const bool anual = modelo.periodicidad == PeriodicidadAnual;
-    const qint32 hasta = ejercicio * UltimoMes + periodo - 1 + (anual ? 1 : 0);
-    Sentencia sentencia(
-        conexion,
-        "SELECT CSCO, max(CASE WHEN EJERCICIO = ?1 AND PERIODO = ?2 AND MODELO = ?3 THEN CSDE END),"
-        " sum(CASE WHEN EJERCICIO = ?1 AND PERIODO = ?2 AND MODELO = ?3 THEN IMPORTE END),"
-        " min(CASE WHEN MODELO = '430' THEN EJERCICIO * 12 + PERIODO - 1 END),"
-        " sum(MODELO = '430' AND EJERCICIO * 12 + PERIODO - 1 < ?4),"
-        " sum(CASE WHEN MODELO = '430' AND EJERCICIO * 12 + PERIODO - 1 BETWEEN ?4 - ?5 AND ?4 - 1"
-        " THEN 1 << (?4 - EJERCICIO * 12 - PERIODO) END) "
-        "FROM DECLARACIONES GROUP BY CSCO");
-    sentencia.con(ejercicio, periodo, modelo.codigo, hasta, FilaPendiente::MesesVistos);
-    std::unordered_map<qint32, Estado> estados;
-    while (sentencia.fila())
-        estados[sentencia.clave(0)] = {sentencia.clave(1), sentencia.entero(2), sentencia.clave(3),
-                                       sentencia.clave(4), sentencia.entero(5)};
-    return estados;
+    Sentencia sentencia(conexion,
+                        "SELECT CSCO, CSDE, IMPORTE FROM DECLARACIONES "
+                        "WHERE EJERCICIO = ? AND PERIODO = ? AND MODELO = ?");
+    sentencia.con(ejercicio, periodo, modelo);
+    while (sentencia.fila()) {
+        Estado &estado = estados[sentencia.clave(0)];
+        estado.csde = sentencia.clave(1);
+        estado.importe = sentencia.entero(2);
+    }
+}
+
+/// The months with a 430, read from the index that keeps returns unique and nothing else; `hasta`
+/// is the first one that does not come before the return.
+void leerMeses(const PConexion &conexion, qint32 hasta, Estados &estados)
+{
+    Sentencia sentencia(conexion,
+                        "SELECT CSCO, EJERCICIO * 12 + PERIODO - 1 FROM DECLARACIONES "
+                        "WHERE MODELO = '430' ORDER BY CSCO, EJERCICIO, PERIODO");
+    Estado *estado = nullptr;
+    for (qint32 csco = 0; sentencia.fila();) {
+        const qint32 mes = sentencia.clave(1);
+        if (!estado || sentencia.clave(0) != csco) {
+            csco = sentencia.clave(0);
+            estado = &estados[csco];
+            estado->primero = mes;
+        }
+        if (mes >= hasta)
+            continue;
+        ++estado->cuantos;
+        if (hasta - mes <= FilaPendiente::MesesVistos)
+            estado->anteriores |= qint64(1) << (hasta - 1 - mes);
+    }
 }
 
 } // namespace
@@ -265,7 +280,10 @@ void cDeclaracion::RecorrerPendientes(qint16 ejercicio, const QString &modelo, q
         throw std::invalid_argument("unknown model");
     const PConexion conexion = Conexion::datos(m_ruta);
     const LecturaUnica lectura(conexion);
-    const auto estados = leerEstados(conexion, ejercicio, *pedido, periodo);
+    const bool anual = pedido->periodicidad == PeriodicidadAnual;
+    Estados estados;
+    leerGuardadas(conexion, ejercicio, modelo, periodo, estados);
+    leerMeses(conexion, ejercicio * UltimoMes + periodo - 1 + (anual ? 1 : 0), estados);
     static const Estado ninguno;
     Sentencia sentencia(conexion, "SELECT CSCO, DNI, NOMBRE FROM DECLARANTES ORDER BY CLAVE, DNI");
     while (sentencia.fila()) {
