@@ -152,6 +152,8 @@ int main(int argc, char **argv)
     guardar(ventana, u"MDIOstrel"_s);
     dentro(ventana, "mnuAbrirDeclarante", u"FrmDecLista"_s, u"cmdCancelar"_s);
     declaraciones(ventana);
+    dentro(ventana, "mnuPendientes", u"FrmPendientes"_s, {});
+    dentro(ventana, "mnuImportarDeclaraciones", u"FrmImportarDeclaraciones"_s, {});
     dentro(ventana, "mnuExport", u"FrmExportar"_s, {});
     dentro(ventana, "mnuImport", u"frmimport"_s, {});
     dentro(ventana, "mnuPreferencias", u"frmPreferencias"_s, u"cmdCancelar"_s);
