@@ -33,14 +33,16 @@ struct Formulario : PantallaAbierta<frmDecDatos>
             mensajes.responder(QMessageBox::Yes);
         salir(manera);
     }
-    /// Province, code and name of the municipality; in brackets what cannot be typed in.
+    /// Province, code and name of the municipality, in brackets what cannot be typed in; "-" when
+    /// there is no list to choose it from.
     QString lugar() const
     {
         QStringList textos;
         for (const char *nombre : {"txtcodprov", "txtcodmun", "txtnommun"})
             textos += (manos->control<QLineEdit>(nombre)->isReadOnly() ? u"(%1)"_s : u"%1"_s)
                           .arg(manos->texto(nombre));
-        return textos.join(u'|');
+        return textos.join(u'|')
+            + (manos->control("cmdMunicipio")->isEnabled() ? QString() : u"-"_s);
     }
     QTreeWidget *lista(const char *nombre) const { return manos->control<QTreeWidget>(nombre); }
 
@@ -245,7 +247,7 @@ private Q_SLOTS:
         QCOMPARE(f.lugar(), u"20|001|(ABRENZUOLA)"_s);
         f.manos->escribir("txtcodprov", u"1"_s);
         f.manos->tecla(Qt::Key_Tab);
-        QCOMPARE(f.lugar(), u"01|()|"_s);
+        QCOMPARE(f.lugar(), u"01|()|-"_s);
         QCOMPARE(registro().CODPROV() + registro().CODMUN(), u"01"_s);
         f.manos->escribir("txtcodprov", u"20"_s);
         f.manos->tecla(Qt::Key_Tab);

@@ -191,6 +191,7 @@ private Q_SLOTS:
         for (const auto &[datos, motivo, foco] :
              {std::tuple{u"//"_s, textoMensaje(255, Idioma::Castellano), u"txtejer"_s},
               {u"2025/430/"_s, textoMensaje(256, Idioma::Castellano), u"cmbperiodo"_s},
+              {u"2025//ENERO"_s, textoMensaje(257, Idioma::Castellano), u"cmbmodelo"_s},
               {u"2031/430/MAYO"_s, fuera, u"txtejer"_s},
               {u"2025/430/ENERO"_s, textoMensaje(259, Idioma::Castellano), u"txtejer"_s}}) {
             Resumen r({1});

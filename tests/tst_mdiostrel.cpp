@@ -290,6 +290,10 @@ private Q_SLOTS:
         enEuskera();
         QVERIFY(motivo->text().startsWith(u"Ez dago erabilgarri"));
 
+        // what is stored meanwhile is seen behind
+        Entorno::altaDeclarante(u"A58818501"_s, u"ZETA"_s);
+        Q_EMIT pantalla("frmDecDatos")->datosCambiados();
+        QCOMPARE(tabla->model()->rowCount(), 2);
         marco("frmDecDatos")->close();
         QTRY_VERIFY(!motivo->isVisible() && tabla->isEnabled());
         QTest::mouseClick(tabla->viewport(), Qt::LeftButton, {}, fila);

@@ -79,13 +79,16 @@ private Q_SLOTS:
         const auto declaraciones = m_servidor->declaraciones();
         declaraciones->BorrarDatosNoComunes(CSDE, u"430"_s);
         declaraciones->BorrarDeclaracion(CSDE);
+        qint32 otra = clave;
+        Registro registro;
+        objeto->CargarDeclarante(otra, registro);
+        QCOMPARE(registro.mid(RegDeclarante::NUM430), (Registro{0.0, 0.0}));
         objeto->BorrarDeclarante(clave);
         QCOMPARE(objeto->ObtenerCodigoDeclarante(u"12345678Z"_s), 0);
         QCOMPARE(falloDe([&] { objeto->BorrarDeclarante(clave); }), Fallo::SinDeclarante);
-        Registro registro{1};
-        qint32 otra = clave;
+        const Registro antes = registro;
         QCOMPARE(falloDe([&] { objeto->CargarDeclarante(otra, registro); }), Fallo::SinDeclarante);
-        QCOMPARE(registro, Registro{1});
+        QCOMPARE(registro, antes);
     }
 
     void listas()
