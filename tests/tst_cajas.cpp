@@ -1,13 +1,9 @@
-#include "app/Estilo.h"
 #include "support/PantallaAbierta.h"
 #include "widgets/CajaImporte.h"
 #include "widgets/CajaTexto.h"
 
-#include <QCheckBox>
 #include <QClipboard>
 #include <QVBoxLayout>
-
-#include <cmath>
 
 namespace {
 
@@ -19,7 +15,7 @@ public:
         : PantallaBase(u"Cajas"_s)
     {
         auto *columna = new QVBoxLayout(this);
-        for (QWidget *caja : QWidgetList{importe, texto, cifras, marca})
+        for (QWidget *caja : QWidgetList{importe, texto, cifras})
             columna->addWidget(caja);
         setWindowTitle(u"Cajas"_s);
     }
@@ -28,19 +24,7 @@ public:
     CajaImporte *importe = new CajaImporte(u"importe"_s, this);
     CajaTexto *texto = new CajaTexto(u"texto"_s, 6, CajaTexto::Texto, this);
     CajaTexto *cifras = new CajaTexto(u"cifras"_s, 3, CajaTexto::Cifras, this);
-    QCheckBox *marca = new QCheckBox(this);
 };
-
-double contraste(const QColor &uno, const QColor &otro)
-{
-    const auto canal
-        = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-    const auto luz = [&](const QColor &c) {
-        return 0.2126 * canal(c.redF()) + 0.7152 * canal(c.greenF()) + 0.0722 * canal(c.blueF());
-    };
-    const auto [menor, mayor] = std::minmax({luz(uno) + 0.05, luz(otro) + 0.05});
-    return mayor / menor;
-}
 
 } // namespace
 
@@ -160,23 +144,6 @@ private Q_SLOTS:
             QCOMPARE(caja->text() + u'|' + dicho.value(0).value(0).toString(),
                      partes[2] + u'|' + partes[3]);
             QVERIFY(dicho.isEmpty() || dicho.value(0).value(1).toBool());
-        }
-    }
-
-    void contrastes()
-    {
-        for (const QColor fondo : {Qt::white, Qt::black}) {
-            QApplication::setPalette(QPalette(fondo));
-            aplicarEstilo();
-            abrir();
-            // the mark itself, on its patch
-            m_pantalla->marca->setChecked(true);
-            const QPalette p = m_pantalla->palette();
-            QVERIFY(contraste(p.color(QPalette::Text), p.color(QPalette::Base)) >= 4.5);
-            QVERIFY(contraste(p.color(QPalette::HighlightedText), p.color(QPalette::Highlight))
-                    >= 4.5);
-            // a disabled box is no longer the colour of one to fill in
-            QVERIFY(p.color(QPalette::Disabled, QPalette::Base) != p.color(QPalette::Base));
         }
     }
 };

@@ -55,14 +55,10 @@ private Q_SLOTS:
 
     void nombres()
     {
-        const QString nif = u"A58818501"_s;
         const QStringList ambas{u"AD"_s, u"IT"_s};
-        QCOMPARE(nombrePdf(u"430"_s, 2026, 1, nif, {u"AD"_s}), u"430_2026-01_A58818501_AD.pdf"_s);
-        QCOMPARE(nombrePdf(u"480"_s, 2026, 12, nif, ambas), u"480_2026_A58818501_AD-IT.pdf"_s);
         QCOMPARE(nombrePdf(u"480"_s, 2026, 12, u"../A"_s, {u"BO"_s}), u"480_2026_.._A_BO.pdf"_s);
 
         const QString elegida = u"/x/430_2026-01_A_AD-IT.pdf"_s;
-        QCOMPARE(rutasPdf(elegida, ambas, true), QStringList{elegida});
         QCOMPARE(rutasPdf(elegida, ambas, false),
                  (QStringList{u"/x/430_2026-01_A_AD.pdf"_s, u"/x/430_2026-01_A_IT.pdf"_s}));
         QCOMPARE(rutasPdf(u"/x/otro"_s, ambas, false),

@@ -128,29 +128,6 @@ private Q_SLOTS:
         QCOMPARE(exportado(), QByteArray());
     }
 
-    void tablasExportar()
-    {
-        cExportar e;
-        for (const int numero : {3, 1, 2})
-            importar(lineas::linea(numero, "N" + QByteArray::number(9 - numero)));
-        e.CargarDeclarantes();
-        QCOMPARE(dnis(e), u"123|"_s);
-        QCOMPARE(e.NUMCONTRISEL(), 3);
-        e.MoverElementos(cExportar::Contri, {1, 2});
-        QCOMPARE(dnis(e), u"3|12"_s);
-        e.COPIARELEMENTOENTRETABLAS(cExportar::ContriExp, 2);
-        e.TablaContriExpBORRAR(2);
-        e.ORDEN(cExportar::PorNombre);
-        e.CargarDeclarantes();
-        QCOMPARE(dnis(e), u"32|1"_s);
-        e.MoverElementos(cExportar::ContriExp, {1});
-        QCOMPARE(dnis(e), u"321|"_s);
-        e.MoverElementos(cExportar::Contri, {1, 3});
-        QCOMPARE(dnis(e), u"2|31"_s);
-        e.TablaContriExpCLEAR();
-        QCOMPARE(dnis(e), u"2|"_s);
-    }
-
     void exportarFallos()
     {
         importar(lineas::linea(1) + '\n' + lineas::linea(2));
@@ -224,19 +201,6 @@ private:
             },
             [](qint64) { return true; });
         return lineas::leer(destino);
-    }
-
-    /// The numbers of the available and of the chosen ones.
-    static QString dnis(const cExportar &e)
-    {
-        QString texto;
-        for (const auto cual : {cExportar::Contri, cExportar::ContriExp}) {
-            for (int i = 1; i <= e.tabla(cual).COUNT(); ++i)
-                texto += e.tabla(cual).ELEMENTO(i).dni.at(7);
-            if (cual == cExportar::Contri)
-                texto += u'|';
-        }
-        return texto;
     }
 
     std::optional<Entorno> m_entorno;

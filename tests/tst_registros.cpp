@@ -2,7 +2,6 @@
 #include "core/cFecha.h"
 #include "dataservice/ErrorDatos.h"
 #include "dataservice/SvrOstr.h"
-#include "declarants/Listas.h"
 #include "declarants/cDecLista.h"
 #include "declarations/RegistroDeclaracion.h"
 #include "declarations/cDatos430.h"
@@ -85,18 +84,6 @@ private Q_SLOTS:
         QVERIFY_EXCEPTION_THROWN(d.CargarDeclarante(csco), ErrorDatos);
         fijarRutas(buenas);
         QCOMPARE(d.NOMBRE() + d.DNI(), u"ANTES"_s);
-    }
-
-    void listasDeCodigos()
-    {
-        const ListaCodigos provincias = cargarProvincias();
-        QCOMPARE(provincias.size(), 52);
-        QVERIFY(buscarCodigo(provincias, u"01"_s) == buscarCodigo(provincias, u"1"_s));
-        QVERIFY(!buscarCodigo(provincias, u"CL"_s));
-        QCOMPARE(buscarCodigo(cargarVias(), u"CL"_s)->nombre, u"CALLE"_s);
-        QCOMPARE(buscarCodigo(cargarMunicipios(), u"001"_s)->nombre, u"ABRENZUOLA"_s);
-        unico::la<CEntrada>().IDI(u"E"_s);
-        QCOMPARE(buscarCodigo(cargarVias(), u"CL"_s)->nombre, u"KALEA"_s);
     }
 
     /// Exercise × 100 + month, month 13 for the 480: what is stored, and then what is proposed.
