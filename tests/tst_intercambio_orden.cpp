@@ -99,8 +99,11 @@ private Q_SLOTS:
         for (const int transacciones : {1, 2}) {
             QProcess importar;
             iniciar(importar, {u"importar"_s, ruta("uno.txt")});
-            while (QFileInfo(ruta("Tablas/OstrMod.mdb")).size() <= vacia + transacciones * 700'000)
-                QVERIFY(!importar.waitForFinished(1));
+            QVERIFY(importar.waitForStarted());
+            const auto escrito
+                = [&] { return QFileInfo(ruta("Tablas/OstrMod.mdb")).size() - vacia; };
+            while (escrito() <= transacciones * 700'000 && importar.state() == QProcess::Running)
+                importar.waitForFinished(1);
             importar.kill();
             QVERIFY(importar.waitForFinished());
             const Salida salida = ostrel({u"exportar"_s, u"-"_s});
