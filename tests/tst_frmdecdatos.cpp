@@ -244,7 +244,7 @@ private Q_SLOTS:
     {
         Formulario f;
         f.rellenar();
-        QCOMPARE(f.lugar(), u"20|001|(ABRENZUOLA)"_s);
+        QCOMPARE(f.lugar(), u"20|1|(ABRENZUOLA)"_s);
         f.manos->escribir("txtcodprov", u"1"_s);
         f.manos->tecla(Qt::Key_Tab);
         QCOMPARE(f.lugar(), u"01|()|-"_s);

@@ -57,7 +57,7 @@ QString presentar(Cual caja, const cDecDatos &datos)
     const QString guardado = campos::leer(campo.campo, datos);
     if (campo.clase == campos::Clase::Contador)
         return guardado == u"0" ? QString() : textoImporte(guardado.toDouble() * 100).chopped(3);
-    if (campo.clase != campos::Clase::Numero)
+    if (campo.clase != campos::Clase::Numero && caja != CODMUN) // shown without its zeros
         return guardado;
     const int numero = guardado.toInt();
     return numero == 0 ? QString() : QString::number(numero);
