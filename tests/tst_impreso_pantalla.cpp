@@ -4,13 +4,12 @@
 #include "support/LineasPrueba.h"
 #include "support/PantallaAbierta.h"
 #include "widgets/Ficheros.h"
+#include "widgets/Navegador.h"
 
 #include <QComboBox>
 #include <QDate>
-#include <QDesktopServices>
 #include <QFileDialog>
 #include <QPrintPreviewWidget>
-#include <QUrl>
 
 /// The print options for a stored return.
 struct Opciones : PantallaAbierta<FrmImOf>
@@ -208,16 +207,19 @@ private Q_SLOTS:
     /// What was saved can be opened, or its folder.
     void abrirLoGuardado()
     {
-        QDesktopServices::setUrlHandler(u"file"_s, this, "anotarAbierto");
-        for (const auto &[boton, abierto] :
+        QString abierto;
+        navegador::sustituir([&](const QUrl &direccion) {
+            abierto = direccion.toLocalFile();
+            return true;
+        });
+        for (const auto &[boton, esperado] :
              {std::pair{QMessageBox::Open, u"salida/y.pdf"_s}, {QMessageBox::Apply, u"salida"_s}}) {
             Opciones o(u"430"_s);
             QVERIFY(QDir().mkpath(o.entorno.ruta(u"salida"_s)));
-            m_abierto.clear();
             guardarComo(o, o.entorno.ruta(u"salida/y.pdf"_s), boton);
-            QCOMPARE(m_abierto, o.entorno.ruta(abierto));
+            QCOMPARE(abierto, o.entorno.ruta(esperado));
         }
-        QDesktopServices::unsetUrlHandler(u"file"_s);
+        navegador::sustituir({});
     }
 
     /// "Print to file" in the printer's options: two copies are two files.
@@ -252,12 +254,6 @@ private Q_SLOTS:
         QCOMPARE(o.peticion().FECHAPRE(), 20020101);
         QVERIFY(!o.pantalla->isVisible());
     }
-
-public Q_SLOTS:
-    void anotarAbierto(const QUrl &direccion) { m_abierto = direccion.toLocalFile(); }
-
-private:
-    QString m_abierto;
 };
 
 QTEST_MAIN(TstImpresoPantalla)

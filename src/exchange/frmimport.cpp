@@ -10,9 +10,9 @@
 #include "widgets/Disposicion.h"
 #include "widgets/Ficheros.h"
 #include "widgets/Mensajes.h"
+#include "widgets/Navegador.h"
 
 #include <QCheckBox>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -312,6 +312,6 @@ void frmimport::informarErrores(bool hay)
 
 void frmimport::abrirErrores()
 {
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(FicheroErrores::ruta())))
+    if (!navegador::abrirFichero(FicheroErrores::ruta()))
         aviso(msj(Msj::ErroresSinPrograma, m_lblFicheroErrores->text()));
 }

@@ -119,6 +119,6 @@ void FrmVersionCheck::LanzarExplorador(const QString &direccion)
         || pagina.write(texto) != texto.size() || !pagina.flush())
         throw ErrorDatos(Fallo::SoloLectura, pagina.fileName(), pagina.errorString());
     pagina.close();
-    if (!navegador::abrir(QUrl::fromLocalFile(pagina.fileName())))
+    if (!navegador::abrirFichero(pagina.fileName()))
         mensajes::aviso(this, msj(Msj::TituloSinNavegador), msj(Msj::SinNavegador));
 }

@@ -5,11 +5,10 @@
 #include "printing/TrabajoImpresion.h"
 #include "widgets/Ficheros.h"
 #include "widgets/Mensajes.h"
+#include "widgets/Navegador.h"
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
-#include <QUrl>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -33,7 +32,7 @@ static QString &ultimaCarpeta()
 
 static void abrir(QWidget *pantalla, const QString &ruta)
 {
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(ruta)))
+    if (!navegador::abrirFichero(ruta))
         mensajes::aviso(pantalla, msj(Msj::GuardarPdf),
                         msj(Msj::PdfNoSeAbre, QDir::toNativeSeparators(ruta)));
 }

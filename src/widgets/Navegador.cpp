@@ -20,4 +20,9 @@ bool abrir(const QUrl &direccion)
     return sustituto() ? sustituto()(direccion) : QDesktopServices::openUrl(direccion);
 }
 
+bool abrirFichero(const QString &ruta)
+{
+    return abrir(QUrl::fromLocalFile(ruta));
+}
+
 } // namespace navegador
