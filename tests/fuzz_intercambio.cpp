@@ -20,16 +20,24 @@
 static constexpr qsizetype Ancho = 153;
 
 /// Texts as the service holds them; the counters are not the file's to say.
-static QStringList comparable(const Registro &registro)
+static QStringList comparable(const ConjuntoDeclarantes &conjunto)
 {
     QStringList textos;
-    for (int campo = RegDeclarante::DNI; campo <= RegDeclarante::TELEFONO; ++campo)
-        textos += registro.value(campo).toString().trimmed().toUpper();
+    for (const QString &texto : lineas::textos(conjunto))
+        textos += texto.trimmed().toUpper();
     // a file may fill its numbers with blanks
     for (const int campo : {RegDeclarante::CODPROV, RegDeclarante::CODMUN})
         textos[campo - 1] = QString::number(textos[campo - 1].toInt());
     textos[RegDeclarante::NUMERO - 1] = QString::number(textos[RegDeclarante::NUMERO - 1].toInt());
     return textos;
+}
+
+static Registro comoRegistro(const ConjuntoDeclarantes &conjunto)
+{
+    Registro registro{0};
+    for (const QString &texto : lineas::textos(conjunto))
+        registro += texto;
+    return registro << 0.0 << 0.0;
 }
 
 [[noreturn]] static void fallar(const char *que, QByteArrayView linea)
@@ -41,24 +49,24 @@ static QStringList comparable(const Registro &registro)
 /// A line that the service accepts: stored, read back, written and cut again, it says the same.
 static bool probarLinea(QByteArrayView linea)
 {
-    Registro leido;
+    ConjuntoDeclarantes leido;
     if (linea.size() < Ancho || intercambio::leerLinea(linea, leido))
         return false;
     auto servicio = servicioDeclarante();
     servicio->mdbnameL(rutas().lectura);
-    const Filas resultado = servicio->GuardarConjunto({QVariant(leido)}, Existentes::Sustituir, 0);
-    const bool aceptada = resultado.value(0).toList().value(0).toInt() != FilaConjunto::Incorrecto;
-    if (aceptada != servicio->ValidarDatosImportar(leido, 0).isEmpty())
+    const auto resultado = servicio->GuardarConjunto(leido, 0, 1, Existentes::Sustituir, 0).first();
+    const bool aceptada = resultado.clase != ResultadoConjunto::Incorrecto;
+    if (aceptada != servicio->ValidarDatosImportar(comoRegistro(leido), 0).isEmpty())
         fallar("checked alone and in a set, not the same", linea);
     if (!aceptada)
         return false;
-    qint32 csco = servicio->ObtenerCodigoDeclarante(leido[RegDeclarante::DNI].toString());
+    qint32 csco = servicio->ObtenerCodigoDeclarante(lineas::textos(leido).first());
     Registro guardado;
     servicio->CargarDeclarante(csco, guardado);
     QByteArray escrita;
     if (intercambio::escribirLinea(escrita, guardado) || escrita.size() != Ancho + 2)
         fallar("cannot be written", linea);
-    Registro releido;
+    ConjuntoDeclarantes releido;
     if (intercambio::leerLinea(escrita, releido) || comparable(releido) != comparable(leido))
         fallar("comes back otherwise", linea);
     return true;

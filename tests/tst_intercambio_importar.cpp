@@ -93,12 +93,15 @@ private Q_SLOTS:
     /// Stopped, all that was counted is stored; after a failure, what was counted before it.
     void interrumpida()
     {
-        for (const auto &[falla, guardadas] : {std::pair{false, 5500}, {true, 5000}}) {
+        for (const bool falla : {false, true}) {
+            const int guardadas = falla ? 5000 : 5500;
             m_entorno.emplace();
             lineas::escribir(ruta(), lineas::fichero(1, 6000));
             Importacion importacion(ruta(), Existentes::Conservar);
             std::optional<ModeloPerdido> perdido;
-            importacion.seguir = [&, falla = falla](qint64 linea) {
+            int avisos = 0; // one every 500 lines
+            importacion.seguir = [&](qint64 linea) {
+                avisos += linea == 500 * (avisos + 1) ? 1 : 10'000;
                 if (falla && linea == 5500)
                     perdido.emplace();
                 return falla || linea < 5500;
@@ -109,6 +112,7 @@ private Q_SLOTS:
                 importacion.ejecutar();
             perdido.reset();
             QCOMPARE(importacion.detenida(), !falla);
+            QCOMPARE(avisos, falla ? 12 : 11);
             QCOMPARE(cuentas(importacion.cuenta()), (QList<qint64>{guardadas, guardadas, 0, 0, 0}));
             QCOMPARE(exportado(), lineas::fichero(1, guardadas));
         }

@@ -63,16 +63,16 @@ private Q_SLOTS:
     void leer()
     {
         const QString nombre = u"Ñandú"_s.leftJustified(40);
-        Registro registro;
+        ConjuntoDeclarantes conjunto;
         QVERIFY(!intercambio::leerLinea(lineas::linea(12345678,
                                                       "\xD1"
                                                       "and\xFA")
                                             + "\x81 more",
-                                        registro));
-        QCOMPARE(registro,
-                 (Registro{0, u"12345678Z"_s, nombre, u"CL"_s, u"MAYOR"_s.leftJustified(30),
-                           u"00007"_s, u"A "_s, u"1 "_s, u"2 "_s, u"DCH"_s, u"20"_s, u"20123"_s,
-                           u"001"_s, u"ABRENZUOLA"_s.leftJustified(25), u"943123456"_s, 0.0, 0.0}));
+                                        conjunto));
+        QCOMPARE(lineas::textos(conjunto),
+                 (QStringList{u"12345678Z"_s, nombre, u"CL"_s, u"MAYOR"_s.leftJustified(30),
+                              u"00007"_s, u"A "_s, u"1 "_s, u"2 "_s, u"DCH"_s, u"20"_s, u"20123"_s,
+                              u"001"_s, u"ABRENZUOLA"_s.leftJustified(25), u"943123456"_s}));
     }
 
     void caracteres()
@@ -88,9 +88,9 @@ private Q_SLOTS:
         for (const auto &[byte, caracter] : std::as_const(casos)) {
             QByteArray linea = lineas::linea(1);
             linea[152] = char(byte);
-            Registro registro;
-            const auto malo = intercambio::leerLinea(linea, registro);
-            QVERIFY2(registro.isEmpty() == (caracter >= 0), linea);
+            ConjuntoDeclarantes conjunto;
+            const auto malo = intercambio::leerLinea(linea, conjunto);
+            QVERIFY2(conjunto.size() == (caracter < 0), linea);
             const QList<int> dicho = malo
                 ? QList<int>{malo->columna, malo->byte, malo->caracter.unicode()}
                 : QList<int>{};

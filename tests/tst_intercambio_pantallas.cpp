@@ -5,27 +5,13 @@
 #include "support/LineasPrueba.h"
 #include "support/PantallaAbierta.h"
 #include "widgets/Ficheros.h"
+#include "widgets/Navegador.h"
 
-#include <QDesktopServices>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QMimeData>
 #include <QRegularExpression>
-
-/// Notes the files that the desktop is asked to open.
-class Escritorio : public QObject
-{
-    Q_OBJECT
-
-public:
-    Escritorio() { QDesktopServices::setUrlHandler(u"file"_s, this, "abrir"); }
-    ~Escritorio() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
-
-    Q_INVOKABLE void abrir(const QUrl &direccion) { abiertos += direccion.toLocalFile(); }
-
-    QStringList abiertos;
-};
 
 /// Declarants 1 to 3, by name the other way round.
 struct Exportar : PantallaAbierta<FrmExportar>
@@ -135,7 +121,11 @@ private Q_SLOTS:
         for (const auto respuesta : {QMessageBox::No, QMessageBox::Yes}) {
             lineas::escribir(e.destino(), "old");
             e.responderYPulsar(respuesta, "cmdExportar");
-            QCOMPARE(e.mensajes.texto(), u"El archivo ya existe. ¿Desea sobreescribirlo?"_s);
+            const auto caja = e.mensajes.tomar().value(0);
+            QCOMPARE(caja.titulo + u'|' + caja.texto,
+                     u"Confirmación...|El archivo ya existe. ¿Desea sobreescribirlo?"_s);
+            QCOMPARE(caja.botones, QMessageBox::Yes | QMessageBox::No);
+            QCOMPARE(caja.porDefecto, QMessageBox::No);
             QCOMPARE(lineas::leer(e.destino()), escrito);
         }
         e.manos->escribir("txtFichero", rutas().datos);
@@ -189,9 +179,17 @@ private Q_SLOTS:
                      + QDir::toNativeSeparators(FicheroErrores::ruta()));
         QCOMPARE(cambios.count(), 1);
         QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 3);
-        const Escritorio escritorio;
-        i.manos->pulsar("cmdAbrirErrores");
-        QCOMPARE(escritorio.abiertos, QStringList{FicheroErrores::ruta()});
+        QUrl abierto;
+        navegador::sustituir([&](const QUrl &direccion) {
+            abierto = direccion;
+            return false;
+        });
+        i.responderYPulsar(QMessageBox::Ok, "cmdAbrirErrores");
+        navegador::sustituir({});
+        QCOMPARE(abierto, QUrl::fromLocalFile(FicheroErrores::ruta()));
+        QCOMPARE(i.mensajes.texto(),
+                 u"Ningún programa ha podido abrir el fichero «%1»."_s.arg(
+                     QDir::toNativeSeparators(FicheroErrores::ruta())));
 
         i.mensajes.responder(QMessageBox::YesToAll);
         for (const int cajas : {2, 1}) { // the second time by the box to be asked nothing
@@ -210,19 +208,26 @@ private Q_SLOTS:
                      + u" zk.ko NA/IFK duen aitortzailea lehenagotik dago \r"
                        "Ziur al zaude ordezkatu nahi duzula?"_s);
         QCOMPARE(i.cuentas(), u"0|1|0|3"_s);
+        lineas::escribir(i.origen(), "");
+        QCOMPARE(i.aviso("cmdImportar"),
+                 u"«%1» fitxategia hutsik dago."_s.arg(QDir::toNativeSeparators(i.origen())));
     }
 
     void detener()
     {
-        for (const char *manera : {"cmdDetener", "Escape", "frame"}) {
+        // what is stored: nothing when the file was still being looked through
+        for (const auto &[manera, guardadas] :
+             {std::pair{"cmdDetener", 500}, {"Escape", 500}, {"frame", 500}, {"cmdDetener", 0}}) {
             Importar i(lineas::fichero(1, 1500));
-            i.manos->tecla(Qt::Key_Return);
-            QTRY_VERIFY(!i.manos->texto("lblResumen").isEmpty());
+            if (guardadas > 0) {
+                i.manos->tecla(Qt::Key_Return);
+                QTRY_VERIFY(!i.manos->texto("lblResumen").isEmpty());
+            }
             QString progreso;
             bool ocupada = false;
             // once the bar is there; the same look at the screen that a person takes
             QTimer mirada;
-            connect(&mirada, &QTimer::timeout, this, [&] {
+            connect(&mirada, &QTimer::timeout, this, [&, manera = manera] {
                 if (!i.manos->control("cmdDetener")->isVisible())
                     return;
                 mirada.stop();
@@ -235,8 +240,8 @@ private Q_SLOTS:
             QCOMPARE(progreso, u"Línea 500 de 1500"_s);
             QVERIFY(ocupada);
             QCOMPARE(i.mensajes.texto(),
-                     u"Se ha detenido la importación después de la línea 500."_s);
-            QCOMPARE(i.cuentas(), u"500|0|0|0"_s);
+                     u"Se ha detenido la importación después de la línea %1."_s.arg(guardadas));
+            QCOMPARE(i.cuentas(), u"%1|0|0|0"_s.arg(guardadas));
             QVERIFY(i.pantalla->isVisible() && !i.pantalla->edita());
             QVERIFY(!i.manos->control("prgProgreso")->isVisible());
             QVERIFY(i.manos->control("cmdImportar")->isEnabled());

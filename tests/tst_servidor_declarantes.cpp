@@ -137,20 +137,11 @@ private Q_SLOTS:
     /// A stored identifier, with one that repeats an earlier one of the same set.
     void conjunto()
     {
-        using enum FilaConjunto::Resultado;
+        using enum ResultadoConjunto::Clase;
         probarConjunto(Existentes::Detenerse, {Nuevo, Incorrecto}, u"UNO VIEJA"_s);
         init();
         probarConjunto(Existentes::Sustituir, {Nuevo, Incorrecto, Sustituido, Sustituido, Nuevo},
                        u"DOS NUEVA TRES"_s);
-    }
-
-    void conjuntoTodoONada()
-    {
-        const auto bueno = QVariant(ServidorPrueba::registro(u"12345678Z"_s, u"ANA"_s));
-        QVERIFY_EXCEPTION_THROWN(m_servidor->declarantes()->GuardarConjunto(
-                                     {bueno, QVariantList{1, 2}}, Existentes::Sustituir, 0),
-                                 std::invalid_argument);
-        QCOMPARE(m_servidor->generales(m_servidor->datos())->NumeroDeclarantes(), 0);
     }
 
 private:
@@ -160,20 +151,23 @@ private:
         const qint32 vieja = m_servidor->alta(u"12345678Z"_s, u"VIEJA"_s);
         m_servidor->declaraciones()->Guardar480(ServidorPrueba::datos480(vieja, 2025));
         const auto objeto = m_servidor->declarantes();
-        const auto registro = [](const QString &dni, const QString &nombre) {
-            return QVariant(ServidorPrueba::registro(dni, nombre));
+        ConjuntoDeclarantes conjunto;
+        const auto anadir = [&](std::string_view dni, std::string_view nombre) {
+            conjunto.anadir({dni, nombre, "cl", "MAYOR", "00007", "", "", "", "", "20", "20123",
+                             "001", "X", "  "});
         };
-        const Filas filas = objeto->GuardarConjunto(
-            {registro(u"00000001R"_s, u"uno"_s), registro(u"00000002A"_s, u"MAL"_s),
-             registro(u"12345678z"_s, u"NUEVA"_s), registro(u"00000001R"_s, u"DOS"_s),
-             registro(u"00000003A"_s, u"TRES"_s)},
-            existentes, 10000);
+        anadir("00000001R", "uno");
+        anadir("00000002A", "MAL");
+        anadir("12345678z", " NUEVA ");
+        anadir("00000001R", "DOS");
+        anadir("00000003A", "TRES");
         QList<int> obtenidos;
-        for (const QVariant &fila : filas)
-            obtenidos += fila.toList().value(FilaConjunto::RESULTADO).toInt();
+        const auto hechos = objeto->GuardarConjunto(conjunto, 0, 5, existentes, 10000);
+        for (const auto &hecho : hechos)
+            obtenidos += hecho.clase;
         QCOMPARE(obtenidos, resultados);
-        QCOMPARE(filas[1].toList().mid(FilaConjunto::Hallazgos),
-                 QVariantList{u"NA-IFK eremua okerra da edo ez du kontrol digiturik"_s});
+        QCOMPARE(hechos[1].hallazgos,
+                 QStringList{u"NA-IFK eremua okerra da edo ez du kontrol digiturik"_s});
         Filas lista;
         objeto->dameResultado(lista, 2, 0);
         QCOMPARE(QVariant(columna(lista, FilaDeclarante::NOMBRE)).toStringList().join(u' '),

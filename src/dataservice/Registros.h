@@ -50,13 +50,6 @@ enum class Existentes {
     Examinar, ///< nothing at all is stored
 };
 
-/// What became of one declarant of a set: RESULTADO, followed by the findings (texts) when it is
-/// Incorrecto.
-namespace FilaConjunto {
-enum Columna { RESULTADO, Hallazgos };
-enum Resultado { Nuevo, Sustituido, Conservado, Incorrecto };
-} // namespace FilaConjunto
-
 /// Row of the declarant list. NUM430 and NUM480 count the returns really stored.
 namespace FilaDeclarante {
 enum Columna { CSCO, DNI, NOMBRE, NOMMUN, NOMPROV, NUM430, NUM480, Total };

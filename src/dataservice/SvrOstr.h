@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dataservice/ConjuntoDeclarantes.h"
 #include "dataservice/Fabrica.h"
 #include "dataservice/Registros.h"
 
@@ -75,11 +76,14 @@ public:
     /// Findings on a RegDeclarante read from a file: no row when it can be accepted, else one row
     /// (text) a finding, in the given language. The lookup database is needed.
     virtual Filas ValidarDatosImportar(const Registro &registro, qint16 idioma) = 0;
-    /// Checks RegDeclarantes read from a file as ValidarDatosImportar does and stores the valid
-    /// ones, in their order and in one transaction, without counting them as recent. One
-    /// FilaConjunto a record; fewer than were given only with Existentes::Detenerse. Needs both
+    /// Checks the declarants `desde` to before `hasta` (from 0) of a set as ValidarDatosImportar
+    /// does and stores the valid ones, in their order and in one transaction, without counting
+    /// them as recent. One result each; fewer only with Existentes::Detenerse. Needs both
     /// databases.
-    virtual Filas GuardarConjunto(const Filas &registros, Existentes existentes, qint16 idioma) = 0;
+    virtual QList<ResultadoConjunto> GuardarConjunto(const ConjuntoDeclarantes &conjunto,
+                                                     qsizetype desde, qsizetype hasta,
+                                                     Existentes existentes, qint16 idioma)
+        = 0;
     /// FilaDeclarante rows and their number; `orden` 1 by DNI, 2 by name. Needs both databases.
     virtual qint32 dameResultado(Filas &filas, quint8 orden, qint16 idioma) = 0;
     /// RegDeclarante rows of every declarant, in the same orders.

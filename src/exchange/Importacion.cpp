@@ -16,14 +16,8 @@
 
 using namespace Qt::StringLiterals;
 
-static constexpr qsizetype LineasConjunto = 5000; // one transaction
+static constexpr std::size_t LineasConjunto = 5000; // one transaction
 static constexpr qint64 CadaCuanto = 500; // lines between two looks at the user
-
-/// The tax identifier as the service compares it.
-static QString dniDe(const Registro &registro)
-{
-    return registro.value(RegDeclarante::DNI).toString().trimmed().toUpper();
-}
 
 static QString motivoDe(const intercambio::Rechazado &malo)
 {
@@ -49,15 +43,33 @@ void Importacion::ejecutar()
         throw ErrorDatos(Fallo::NoExiste, m_fichero, fichero.errorString());
     if (m_existentes != Existentes::Examinar)
         m_errores.emplace();
+    try {
+        importarLineas(fichero);
+    } catch (...) {
+        try {
+            terminarErrores(); // the lines that were counted are told
+        } catch (const ErrorDatos &) { // the first failure is the one to tell
+        }
+        throw;
+    }
+    terminarErrores();
+}
+
+void Importacion::importarLineas(QIODevice &fichero)
+{
     LectorLineas lector(fichero, campos::AnchoLinea);
     while (!m_detenida && lector.siguiente()) {
         tomarLinea(lector.numero(), lector.linea());
-        if (m_pendientes.size() == LineasConjunto)
+        if (m_lineas.size() == LineasConjunto)
             vaciar();
         if (lector.numero() % CadaCuanto == 0)
             continuar(lector.numero());
     }
     vaciar();
+}
+
+void Importacion::terminarErrores()
+{
     if (m_errores)
         m_errores->terminar();
 }
@@ -70,114 +82,124 @@ bool Importacion::continuar(qint64 linea)
 
 void Importacion::tomarLinea(qint64 numero, QByteArrayView linea)
 {
-    Pendiente nueva{numero, {}, {}};
+    QString motivo;
     if (linea.size() < campos::AnchoLinea)
-        nueva.motivo = msj(Msj::LineaCorta);
-    else if (const auto malo = intercambio::leerLinea(linea, nueva.registro))
-        nueva.motivo = motivoDe(*malo);
-    m_pendientes += std::move(nueva);
+        motivo = msj(Msj::LineaCorta);
+    else if (const auto malo = intercambio::leerLinea(linea, m_conjunto))
+        motivo = motivoDe(*malo);
+    m_lineas.push_back({numero, std::move(motivo)});
 }
 
 /// Stores what has been read; what the user stops is given up.
 void Importacion::vaciar()
 {
-    while (!m_pendientes.isEmpty()) {
+    while (m_hechas < m_lineas.size()) {
         guardarSeguidos();
-        if (m_pendientes.isEmpty())
+        if (m_hechas == m_lineas.size())
             break;
-        const qint64 linea = m_pendientes.first().linea;
+        const qint64 linea = m_lineas[m_hechas].numero;
         preguntarPorElPrimero();
         if (!continuar(linea))
-            m_pendientes.clear();
+            break;
     }
+    m_lineas.clear();
+    m_conjunto.clear();
+    m_hechas = 0;
+    m_guardados = 0;
 }
 
-static Filas guardarConjunto(const Filas &registros, Existentes existentes)
+/// Those from the first that is not stored yet.
+QList<ResultadoConjunto> Importacion::guardar(qsizetype hasta, Existentes existentes)
 {
     auto servicio = servicioDeclarante();
     servicio->mdbnameL(rutas().lectura);
-    return servicio->GuardarConjunto(registros, existentes, desplazamientoIdioma());
+    return servicio->GuardarConjunto(m_conjunto, m_guardados, hasta, existentes,
+                                     desplazamientoIdioma());
 }
 
 /// Those up to the next one that has to be asked about.
 void Importacion::guardarSeguidos()
 {
-    Filas registros;
-    for (const Pendiente &pendiente : std::as_const(m_pendientes))
-        if (pendiente.motivo.isEmpty())
-            registros.append(QVariant(pendiente.registro));
-    const Filas resultados = guardarConjunto(registros, m_existentes);
-
-    qsizetype hechas = 0;
-    qsizetype tomados = 0;
-    for (const Pendiente &pendiente : std::as_const(m_pendientes)) {
-        if (!pendiente.motivo.isEmpty())
-            anotarIncorrecto(pendiente.linea, {pendiente.motivo});
-        else if (tomados < resultados.size())
-            anotar(pendiente, resultados[tomados++].toList());
+    const auto resultados = guardar(m_conjunto.size(), m_existentes);
+    auto siguiente = resultados.begin();
+    while (m_hechas < m_lineas.size()) {
+        if (const QString &motivo = m_lineas[m_hechas].motivo; !motivo.isEmpty()) {
+            anotarIncorrecta({motivo});
+            siguienteLinea();
+        } else if (siguiente != resultados.end())
+            anotarDeclarante(*siguiente++);
         else
             break;
-        ++hechas;
     }
-    m_pendientes.remove(0, hechas);
 }
 
 void Importacion::preguntarPorElPrimero()
 {
-    const Pendiente &primera = m_pendientes.first();
-    switch (preguntar(dniDe(primera.registro))) {
+    switch (preguntar(dni())) {
     case Respuesta::SiATodos:
         m_existentes = Existentes::Sustituir;
-        return;
+        break;
     case Respuesta::NoATodos:
         m_existentes = Existentes::Conservar;
-        return;
+        break;
     case Respuesta::Si:
-        anotar(primera,
-               guardarConjunto({QVariant(primera.registro)}, Existentes::Sustituir)[0].toList());
+        anotarDeclarante(guardar(m_guardados + 1, Existentes::Sustituir).first());
         break;
     case Respuesta::No:
-        anotar(primera, {int(FilaConjunto::Conservado)});
+        anotarDeclarante({ResultadoConjunto::Conservado, {}});
         break;
     }
-    m_pendientes.removeFirst();
 }
 
-void Importacion::anotar(const Pendiente &pendiente, const QVariantList &resultado)
+void Importacion::anotarDeclarante(const ResultadoConjunto &resultado)
 {
-    switch (resultado[FilaConjunto::RESULTADO].toInt()) {
-    case FilaConjunto::Incorrecto:
-        anotarIncorrecto(pendiente.linea,
-                         QVariant(resultado.mid(FilaConjunto::Hallazgos)).toStringList());
-        return;
-    case FilaConjunto::Sustituido:
+    switch (resultado.clase) {
+    case ResultadoConjunto::Incorrecto:
+        anotarIncorrecta(resultado.hallazgos);
+        break;
+    case ResultadoConjunto::Sustituido:
         ++m_cuenta.sustituidos;
         break;
-    case FilaConjunto::Conservado:
+    case ResultadoConjunto::Conservado:
         ++m_cuenta.ignorados;
         break;
-    default:
-        ++(repetido(pendiente.registro) ? m_cuenta.ignorados : m_cuenta.importados);
+    case ResultadoConjunto::Nuevo:
+        ++(repetido() ? m_cuenta.ignorados : m_cuenta.importados);
     }
-    ++m_cuenta.lineas;
+    ++m_guardados;
+    siguienteLinea();
 }
 
-void Importacion::anotarIncorrecto(qint64 linea, const QStringList &motivos)
+void Importacion::anotarIncorrecta(const QStringList &motivos)
 {
-    ++m_cuenta.lineas;
     ++m_cuenta.incorrectos;
     if (m_errores)
         for (const QString &motivo : motivos)
-            m_errores->anotar(linea, motivo);
+            m_errores->anotar(m_lineas[m_hechas].numero, motivo);
 }
 
-/// While nothing is stored, whether a new declarant stood in an earlier line.
-bool Importacion::repetido(const Registro &registro)
+void Importacion::siguienteLinea()
+{
+    ++m_cuenta.lineas;
+    ++m_hechas;
+}
+
+/// The tax identifier of the first declarant that is not stored yet, as the service compares it.
+QString Importacion::dni() const
+{
+    const std::string_view texto = m_conjunto.texto(m_guardados, RegDeclarante::DNI);
+    return QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()))
+        .trimmed()
+        .toUpper();
+}
+
+/// While nothing is stored, whether that declarant stood in an earlier line.
+bool Importacion::repetido()
 {
     if (m_existentes != Existentes::Examinar)
         return false;
     quint64 clave = 0;
-    for (const QChar c : dniDe(registro)) // nine capitals and digits
+    for (const QChar c : dni()) // nine capitals and digits
         clave = clave << 7 | c.unicode();
     const auto antes = m_vistos.size();
     m_vistos.insert(clave);

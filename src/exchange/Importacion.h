@@ -1,12 +1,15 @@
 #pragma once
 
-#include "dataservice/Registros.h"
+#include "dataservice/ConjuntoDeclarantes.h"
 #include "exchange/FicheroErrores.h"
 
 #include <QSet>
 
 #include <functional>
 #include <optional>
+#include <vector>
+
+class QIODevice;
 
 /// Reads the declarants of an exchange file and stores those that are right, in the order of the
 /// file. What it has counted is on disk.
@@ -40,25 +43,32 @@ public:
     bool detenida() const { return m_detenida; }
 
 private:
-    struct Pendiente
+    struct Linea
     {
-        qint64 linea;
-        QString motivo; ///< why it cannot be stored; empty: `registro` is to be stored
-        Registro registro;
+        qint64 numero;
+        QString motivo; ///< why it holds no declarant; empty: the next one of m_conjunto
     };
 
+    void importarLineas(QIODevice &fichero);
     void tomarLinea(qint64 numero, QByteArrayView linea);
     void vaciar();
     void guardarSeguidos();
     void preguntarPorElPrimero();
-    void anotarIncorrecto(qint64 linea, const QStringList &motivos);
-    void anotar(const Pendiente &pendiente, const QVariantList &resultado);
-    bool repetido(const Registro &registro);
+    QList<ResultadoConjunto> guardar(qsizetype hasta, Existentes existentes);
+    void anotarDeclarante(const ResultadoConjunto &resultado);
+    void anotarIncorrecta(const QStringList &motivos);
+    void siguienteLinea();
+    bool repetido();
+    QString dni() const;
     bool continuar(qint64 linea);
+    void terminarErrores();
 
     QString m_fichero;
     Existentes m_existentes;
-    QList<Pendiente> m_pendientes;
+    std::vector<Linea> m_lineas; ///< read, but not yet all done
+    std::size_t m_hechas = 0; ///< of them
+    ConjuntoDeclarantes m_conjunto; ///< their declarants
+    qsizetype m_guardados = 0; ///< of those
     std::optional<FicheroErrores> m_errores;
     QSet<quint64> m_vistos; ///< identifiers met while only looking
     Cuenta m_cuenta;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 using namespace Qt::StringLiterals;
 
@@ -15,48 +16,40 @@ namespace {
 using campos::Clase;
 using campos::Definicion;
 
-/// Whether each byte may stand in a line.
-const std::array<bool, 256> &admitidos()
+/// The character of a byte in UTF-8; of no length when it may not stand in a line.
+struct Letra
+{
+    std::array<char, 3> bytes{};
+    std::uint8_t largo = 0;
+};
+
+const std::array<Letra, 256> &letras()
 {
     static const auto tabla = [] {
-        std::array<bool, 256> admitido{};
-        for (std::size_t byte = 0; byte < admitido.size(); ++byte) {
+        std::array<Letra, 256> letras{};
+        for (std::size_t byte = 0; byte < letras.size(); ++byte) {
             const QChar c = windows1252::caracter(static_cast<uchar>(byte));
-            admitido[byte] = c >= u' ' && admitidoEnFichero(c.toUpper());
+            if (c < u' ' || !admitidoEnFichero(c.toUpper()))
+                continue;
+            const QByteArray utf8 = QString(c).toUtf8();
+            std::ranges::copy(utf8, letras[byte].bytes.begin());
+            letras[byte].largo = static_cast<std::uint8_t>(utf8.size());
         }
-        return admitido;
+        return letras;
     }();
     return tabla;
 }
 
-QString columna(QByteArrayView linea, const Definicion &campo)
+/// A column of figures, with zeros in front.
+void escribirCifras(char *lugar, int ancho, qint64 valor)
 {
-    QString texto(campo.anchoFichero, Qt::Uninitialized);
-    std::ranges::transform(linea.sliced(campo.columna - 1, campo.anchoFichero), texto.begin(),
-                           [](char byte) { return windows1252::caracter(uchar(byte)); });
-    return texto;
+    for (char *cifra = lugar + ancho; cifra != lugar; valor /= 10)
+        *--cifra = static_cast<char>('0' + valor % 10);
 }
 
-/// A column as it is written: numbers with zeros in front, a telephone that is zero empty.
-QString textoColumna(const Definicion &campo, const QVariant &valor)
+std::optional<QChar> escribirTexto(char *lugar, qsizetype ancho, QStringView texto)
 {
-    switch (campo.clase) {
-    case Clase::Numero:
-    case Clase::Contador:
-        return QString::number(valor.toLongLong()).rightJustified(campo.anchoFichero, u'0');
-    case Clase::Codigo:
-        return valor.toString().rightJustified(campo.anchoFichero, u'0');
-    case Clase::Telefono:
-        return valor.toLongLong() == 0 ? QString() : valor.toString();
-    case Clase::Texto:
-        break;
-    }
-    return valor.toString();
-}
-
-std::optional<QChar> escribirColumna(char *lugar, int ancho, const QString &texto)
-{
-    const qsizetype caben = std::min<qsizetype>(ancho, texto.size());
+    const qsizetype caben = std::min(ancho, texto.size());
     for (qsizetype i = 0; i < caben; ++i) {
         const auto byte = windows1252::byte(texto[i]);
         if (!byte)
@@ -67,6 +60,31 @@ std::optional<QChar> escribirColumna(char *lugar, int ancho, const QString &text
     return {};
 }
 
+/// A column of a text: a code with zeros in front, a telephone that is all zeros empty.
+std::optional<QChar> escribirCampo(char *lugar, const Definicion &campo, QStringView texto)
+{
+    const qsizetype ancho = campo.anchoFichero;
+    const qsizetype ceros
+        = campo.clase == Clase::Codigo ? std::max<qsizetype>(0, ancho - texto.size()) : 0;
+    std::fill_n(lugar, ceros, '0');
+    if (campo.clase == Clase::Telefono
+        && std::ranges::all_of(texto, [](QChar c) { return c == u'0'; }))
+        texto = {};
+    return escribirTexto(lugar + ceros, ancho - ceros, texto);
+}
+
+std::optional<QChar> escribirColumna(char *lugar, const Definicion &campo, const QVariant &valor)
+{
+    if (campo.clase == Clase::Numero || campo.clase == Clase::Contador) {
+        escribirCifras(lugar, campo.anchoFichero, valor.toLongLong());
+        return {};
+    }
+    // without a copy of the text: there is one a column
+    if (valor.typeId() == QMetaType::QString)
+        return escribirCampo(lugar, campo, *static_cast<const QString *>(valor.constData()));
+    return escribirCampo(lugar, campo, valor.toString());
+}
+
 } // namespace
 
 std::optional<QChar> escribirLinea(QByteArray &destino, const Registro &registro)
@@ -75,8 +93,7 @@ std::optional<QChar> escribirLinea(QByteArray &destino, const Registro &registro
     destino.resize(principio + campos::AnchoLinea);
     for (const Definicion &campo : campos::tabla) {
         char *lugar = destino.data() + principio + campo.columna - 1;
-        const QString texto = textoColumna(campo, registro.value(campo.campo));
-        if (const auto malo = escribirColumna(lugar, campo.anchoFichero, texto)) {
+        if (const auto malo = escribirColumna(lugar, campo, registro[campo.campo])) {
             destino.truncate(principio);
             return malo;
         }
@@ -85,23 +102,35 @@ std::optional<QChar> escribirLinea(QByteArray &destino, const Registro &registro
     return {};
 }
 
-std::optional<Rechazado> leerLinea(QByteArrayView linea, Registro &registro)
+static Rechazado rechazado(int columna, uchar byte)
 {
-    linea = linea.first(campos::AnchoLinea);
-    const auto malo = std::ranges::find_if_not(
-        linea, [](char byte) { return admitidos()[static_cast<uchar>(byte)]; });
-    if (malo != linea.end()) {
-        const auto byte = static_cast<uchar>(*malo);
-        const QChar c = windows1252::caracter(byte);
-        return Rechazado{static_cast<int>(malo - linea.begin()) + 1, byte,
-                         c.isPrint() ? c : QChar()};
+    const QChar c = windows1252::caracter(byte);
+    return {columna, byte, c.isPrint() ? c : QChar()};
+}
+
+std::optional<Rechazado> leerLinea(QByteArrayView linea, ConjuntoDeclarantes &conjunto)
+{
+    const auto &tabla = letras();
+    std::array<char, campos::AnchoLinea * sizeof(Letra::bytes)> bytes;
+    std::array<std::size_t, campos::AnchoLinea + 1> lugares; // where each column starts in them
+    std::size_t lugar = 0;
+    for (std::size_t i = 0; i < campos::AnchoLinea; ++i) {
+        const auto byte = static_cast<uchar>(linea[static_cast<qsizetype>(i)]);
+        const Letra &letra = tabla[byte];
+        if (letra.largo == 0)
+            return rechazado(static_cast<int>(i) + 1, byte);
+        lugares[i] = lugar;
+        std::ranges::copy(letra.bytes, bytes.begin() + static_cast<std::ptrdiff_t>(lugar));
+        lugar += letra.largo;
     }
-    Registro leido;
-    leido.reserve(RegDeclarante::Total);
-    leido += 0;
-    for (const Definicion &campo : campos::tabla)
-        leido += campo.clase == Clase::Contador ? QVariant(0.0) : QVariant(columna(linea, campo));
-    registro = std::move(leido);
+    std::array<std::string_view, ConjuntoDeclarantes::Textos> textos;
+    for (std::size_t i = 0; i < textos.size(); ++i) {
+        const Definicion &campo = campos::tabla[i];
+        const auto principio = static_cast<std::size_t>(campo.columna) - 1;
+        const auto fin = principio + static_cast<std::size_t>(campo.anchoFichero);
+        textos[i] = {bytes.data() + lugares[principio], lugares[fin] - lugares[principio]};
+    }
+    conjunto.anadir(textos);
     return {};
 }
 

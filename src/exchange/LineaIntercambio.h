@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dataservice/ConjuntoDeclarantes.h"
 #include "dataservice/Registros.h"
 
 #include <QByteArray>
@@ -23,11 +24,11 @@ struct Rechazado
 /// Windows-1252 that character is returned and nothing appended.
 std::optional<QChar> escribirLinea(QByteArray &destino, const Registro &registro);
 
-/// Cuts a line into a RegDeclarante without key and counters, its texts as they stand in their
-/// columns. What follows the last column is ignored. A character that a declarant's texts may not
-/// hold is returned, and `registro` is left as it was.
+/// Adds the declarant of a line to a set, its texts as they stand in their columns. What follows
+/// the last column is ignored. A character that a declarant's texts may not hold is returned, and
+/// nothing added.
 /// The line must have at least campos::AnchoLinea bytes.
-std::optional<Rechazado> leerLinea(QByteArrayView linea, Registro &registro);
+std::optional<Rechazado> leerLinea(QByteArrayView linea, ConjuntoDeclarantes &conjunto);
 
 /// The lines that describe the format at the end of the error file.
 QStringList descripcionFormato();

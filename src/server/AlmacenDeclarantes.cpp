@@ -1,13 +1,12 @@
 #include "server/AlmacenDeclarantes.h"
 
+#include "dataservice/ClaveOrden.h"
 #include "dataservice/ErrorDatos.h"
-#include "server/LectorRegistro.h"
-#include "server/ListaLectura.h"
-#include "server/ValidacionDeclarante.h"
 
 #include <QCryptographicHash>
 
-#include <optional>
+#include <algorithm>
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
@@ -17,14 +16,13 @@ namespace {
 
 using namespace RegDeclarante;
 
-constexpr qint32 ClaveMaxima = std::numeric_limits<qint32>::max();
 constexpr qint32 CodigoMunicipioMaximo = 999;
 
 // Parameters 1 to 15 are CSCO to TELEFONO of the record, 16 the sort key.
 constexpr const char *Alta = R"(
 INSERT INTO DECLARANTES (DNI, NOMBRE, VIA, DOMICILIO, NUMERO, LETRA, ESCALERA, PISO, MANO, CODPROV,
     CODPOS, CODMUN, NOMMUN, TELEFONO, CLAVE)
-SELECT ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, ?15, ?16 WHERE ?1 = 0
+VALUES (?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, ?15, ?16)
 ON CONFLICT (DNI) DO NOTHING)";
 
 constexpr const char *Cambio = R"(
@@ -32,91 +30,81 @@ UPDATE DECLARANTES SET DNI = ?2, NOMBRE = ?3, VIA = ?4, DOMICILIO = ?5, NUMERO =
     ESCALERA = ?8, PISO = ?9, MANO = ?10, CODPROV = ?11, CODPOS = ?12, CODMUN = ?13, NOMMUN = ?14,
     TELEFONO = ?15, CLAVE = ?16 WHERE CSCO = ?1)";
 
-QVariantList leerCampos(const Registro &registro)
+std::string claveDelNombre(const std::string &nombre)
 {
-    LectorRegistro lector(registro, Total);
-    QVariantList campos;
-    for (qsizetype campo = CSCO; campo <= TELEFONO; ++campo) {
-        switch (campo) {
-        case CSCO:
-            campos += lector.entero(campo, 0, ClaveMaxima);
-            break;
-        case NUMERO:
-            campos += lector.codigo(campo, 99'999);
-            break;
-        case CODPROV:
-            campos += lector.codigo(campo, 99);
-            break;
-        case CODMUN:
-            campos += lector.codigo(campo, ClaveMaxima);
-            break;
-        default:
-            campos += lector.texto(campo);
-        }
-    }
-    lector.exigirValido();
-    return campos;
+    const bool sencillo
+        = std::ranges::all_of(nombre, [](char c) { return static_cast<uchar>(c) < 0x80; });
+    return sencillo ? nombre : claveOrden(QString::fromStdString(nombre)).toStdString();
 }
 
-void ligarCampos(Sentencia &sentencia, const QVariantList &campos)
+QString nombreDe(const DatosDeclarante &datos)
 {
-    int indice = 0;
-    for (const QVariant &campo : campos) {
-        ++indice;
-        if (campo.typeId() == QMetaType::QString)
-            sentencia.ligar(indice, campo.toString());
-        else
-            sentencia.ligar(indice, campo.toLongLong());
-    }
-    sentencia.ligar(++indice, claveOrden(campos[NOMBRE].toString()));
-}
-
-QString nombreDe(const QVariantList &campos)
-{
-    return campos[DNI].toString() + u" - "_s + campos[NOMBRE].toString();
+    return QString::fromStdString(datos.textos[DNI] + " - " + datos.textos[NOMBRE]);
 }
 
 // What the form keeps from being typed, but a caller may still hand in.
-bool admisible(const QVariantList &campos)
+bool admisible(const DatosDeclarante &datos)
 {
-    return !campos[DNI].toString().isEmpty() && campos[CODMUN].toInt() <= CodigoMunicipioMaximo;
+    return !datos.textos[DNI].empty() && datos.codigo(CODMUN).value_or(0) <= CodigoMunicipioMaximo;
 }
 
-bool dniDeOtro(const PConexion &conexion, const QVariantList &campos)
+bool dniDeOtro(const PConexion &conexion, const DatosDeclarante &datos)
 {
     return Sentencia(conexion, "SELECT 1 FROM DECLARANTES WHERE DNI = ? AND CSCO <> ?")
-        .con(campos[DNI].toString(), campos[CSCO].toLongLong())
+        .con(datos.textos[DNI], datos.csco)
         .fila();
 }
 
 // A code with its figures, empty when there is none.
-QString codigo(qint64 valor, int cifras)
+QString codigo(qint64 valor, qsizetype cifras)
 {
-    return valor == 0 ? QString() : QString::number(valor).rightJustified(cifras, u'0');
+    if (valor == 0)
+        return {};
+    QString texto(cifras, u'0');
+    for (qsizetype i = cifras; i > 0; valor /= 10)
+        texto[--i] = QChar(u'0' + static_cast<int>(valor % 10));
+    return texto;
 }
 
 } // namespace
 
-Guardado guardarDeclarante(const PConexion &conexion, const Registro &registro, Recientes recientes)
+EscrituraDeclarante::EscrituraDeclarante(const PConexion &conexion, Clase clase)
+    : m_sentencia(conexion, clase == Clase::Alta ? Alta : Cambio)
 {
-    const QVariantList campos = leerCampos(registro);
-    if (!admisible(campos))
+}
+
+bool EscrituraDeclarante::escribir(const DatosDeclarante &datos)
+{
+    m_sentencia.ligar(1, datos.csco);
+    for (int i = DNI; i <= TELEFONO; ++i) {
+        const auto campo = static_cast<Campo>(i);
+        if (!DatosDeclarante::esCodigo(campo))
+            m_sentencia.ligarFijo(i + 1, datos.textos[campo]);
+        else if (const auto codigo = datos.codigo(campo))
+            m_sentencia.ligar(i + 1, *codigo);
+        else
+            throw std::invalid_argument("a code is no number");
+    }
+    m_clave = claveDelNombre(datos.textos[NOMBRE]);
+    m_sentencia.ligarFijo(TELEFONO + 2, m_clave);
+    return m_sentencia.ejecutar() > 0;
+}
+
+Guardado guardarDeclarante(const PConexion &conexion, const Registro &registro)
+{
+    const DatosDeclarante datos = DatosDeclarante::de(registro);
+    if (!admisible(datos))
         return Guardado::NoValido;
-    qint32 clave = campos[CSCO].toInt();
-    const bool nuevo = clave == 0;
-    if (!nuevo && dniDeOtro(conexion, campos))
+    const bool nuevo = datos.csco == 0;
+    if (!nuevo && dniDeOtro(conexion, datos))
         return Guardado::CambioDniExiste;
-    Sentencia sentencia(conexion, nuevo ? Alta : Cambio);
-    ligarCampos(sentencia, campos);
-    if (sentencia.ejecutar() == 0) {
+    using enum EscrituraDeclarante::Clase;
+    if (!EscrituraDeclarante(conexion, nuevo ? Alta : Cambio).escribir(datos)) {
         if (nuevo)
             return Guardado::AltaDniExiste;
-        sinDeclarante(nombreDe(campos));
+        sinDeclarante(nombreDe(datos));
     }
-    if (nuevo)
-        clave = conexion->ultimaClave();
-    if (recientes == Recientes::Contar)
-        marcarReciente(conexion, clave);
+    marcarReciente(conexion, nuevo ? conexion->ultimaClave() : datos.csco);
     return Guardado::Hecho;
 }
 
@@ -175,79 +163,6 @@ QByteArray huella(const Registro &registro)
 void sinDeclarante(const QString &nombre)
 {
     throw ErrorDatos(Fallo::SinDeclarante, nombre);
-}
-
-namespace {
-
-using Resultado = FilaConjunto::Resultado;
-
-qint32 claveDe(const PConexion &datos, const QString &dni)
-{
-    Sentencia sentencia(datos, "SELECT CSCO FROM DECLARANTES WHERE DNI = ?");
-    return sentencia.con(normalizado(dni)).fila() ? sentencia.clave(0) : 0;
-}
-
-/// Nothing when the set has to end before this one.
-std::optional<Resultado> guardarValido(const PConexion &datos, Registro registro,
-                                       Existentes existentes)
-{
-    const QString dni = registro[RegDeclarante::DNI].toString();
-    if (existentes == Existentes::Examinar)
-        return claveDe(datos, dni) == 0 ? Resultado::Nuevo : Resultado::Conservado;
-    registro[RegDeclarante::CSCO] = 0;
-    if (guardarDeclarante(datos, registro, Recientes::NoContar) == Guardado::Hecho)
-        return Resultado::Nuevo;
-    if (existentes == Existentes::Detenerse)
-        return {};
-    if (existentes == Existentes::Conservar)
-        return Resultado::Conservado;
-    registro[RegDeclarante::CSCO] = claveDe(datos, dni);
-    guardarDeclarante(datos, registro, Recientes::NoContar);
-    return Resultado::Sustituido;
-}
-
-QVariantList fila(Resultado resultado)
-{
-    return {int(resultado)};
-}
-
-QVariantList filaIncorrecta(const Filas &hallazgos)
-{
-    QVariantList incorrecta = fila(Resultado::Incorrecto);
-    for (const QVariant &hallazgo : hallazgos)
-        incorrecta += hallazgo.toList().value(0);
-    return incorrecta;
-}
-
-} // namespace
-
-Filas guardarConjunto(const PConexion &datos, const PConexion &lectura, const Filas &registros,
-                      Existentes existentes, qint16 idioma)
-{
-    const bool escribe = existentes != Existentes::Examinar;
-    std::optional<Transaccion> transaccion;
-    if (escribe)
-        transaccion.emplace(datos);
-    const LecturaUnica vistaDatos(datos);
-    const LecturaUnica vistaLectura(lectura);
-
-    Filas resultados;
-    resultados.reserve(registros.size());
-    for (const QVariant &elemento : registros) {
-        const Registro registro = elemento.toList();
-        const Filas hallazgos = hallazgosImportar(lectura, registro, idioma);
-        if (!hallazgos.isEmpty()) {
-            resultados.append(QVariant(filaIncorrecta(hallazgos)));
-            continue;
-        }
-        const auto resultado = guardarValido(datos, registro, existentes);
-        if (!resultado)
-            break;
-        resultados.append(QVariant(fila(*resultado)));
-    }
-    if (transaccion)
-        transaccion->confirmar();
-    return resultados;
 }
 
 } // namespace servidor

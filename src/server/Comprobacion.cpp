@@ -164,7 +164,8 @@ SQLite::Database abrir(const QString &ruta, const Formato &formato, Version vers
         resolverDiario(ruta);
     return conErrores(ruta, [&] {
         const int modo = formato.soloLectura ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
-        return SQLite::Database(ruta.toStdString(), modo, EsperaMs);
+        // one thread alone uses it: no lock at each of SQLite's calls
+        return SQLite::Database(ruta.toStdString(), modo | SQLite::OPEN_NOMUTEX, EsperaMs);
     });
 }
 

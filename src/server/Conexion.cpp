@@ -93,6 +93,7 @@ std::unique_ptr<SQLite::Statement> Conexion::tomar(std::string_view sql)
 void Conexion::devolver(std::unique_ptr<SQLite::Statement> sentencia)
 {
     sentencia->tryReset();
+    sentencia->clearBindings(); // to texts that may be gone by the next use
     m_sentencias[sentencia->getQuery()] = std::move(sentencia);
 }
 

@@ -27,6 +27,16 @@ void Sentencia::ligar(int indice, const QString &valor)
     m_sentencia->bind(indice, valor.toStdString());
 }
 
+void Sentencia::ligar(int indice, const std::string &valor)
+{
+    m_sentencia->bind(indice, valor);
+}
+
+void Sentencia::ligarFijo(int indice, const std::string &valor)
+{
+    m_sentencia->bindNoCopy(indice, valor);
+}
+
 void Sentencia::filaDebida()
 {
     if (fila())
@@ -44,7 +54,9 @@ bool Sentencia::fila()
 int Sentencia::ejecutar()
 {
     while (fila()) {}
-    return m_sentencia->getChanges();
+    const int cambiadas = m_sentencia->getChanges();
+    m_sentencia->tryReset();
+    return cambiadas;
 }
 
 qint64 Sentencia::entero(int columna) const

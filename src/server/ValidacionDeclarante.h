@@ -2,21 +2,39 @@
 
 #include "dataservice/Registros.h"
 #include "server/Conexion.h"
+#include "server/DatosDeclarante.h"
 
-#include <QStringView>
+#include <QStringList>
+
+#include <set>
+#include <string_view>
 
 namespace servidor {
 
 /// Whether a tax identifier (9 characters, upper case) has the form and the control character of a
 /// DNI, NIE, special person (K, L, M) or entity.
-bool nifValido(QStringView nif);
+bool nifValido(std::string_view nif);
 
-enum class Telefono { Obligatorio, PuedeFaltar };
+/// The number of the first rule that a RegValidacion typed by the user breaks; 0 none.
+qint16 primeraReglaRota(const Registro &datos);
 
-/// The rules that a RegValidacion breaks, in the order in which they are told; at most one a field.
-QList<Regla> reglasRotas(const Registro &datos, Telefono telefono);
+/// What a declarant read from an exchange file is held against. The codes of the lookup database
+/// are read once.
+class ReglasImportar
+{
+public:
+    ReglasImportar(const PConexion &lectura, qint16 idioma);
 
-/// Findings on a RegDeclarante read from an exchange file, one row (text) each.
-Filas hallazgosImportar(const PConexion &lectura, const Registro &registro, qint16 idioma);
+    /// Findings, in the order in which they are told; at most one a field and cause.
+    QStringList hallazgos(const DatosDeclarante &declarante) const;
+
+private:
+    QList<Regla> codigosDesconocidos(const DatosDeclarante &declarante) const;
+
+    Idioma m_idioma;
+    std::set<std::string, std::less<>> m_vias;
+    std::set<qint64> m_provincias;
+    std::set<qint64> m_municipios;
+};
 
 } // namespace servidor

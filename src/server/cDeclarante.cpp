@@ -1,5 +1,6 @@
 #include "server/cDeclarante.h"
 
+#include "server/AlmacenConjunto.h"
 #include "server/AlmacenDeclarantes.h"
 #include "server/LectorRegistro.h"
 #include "server/ValidacionDeclarante.h"
@@ -56,8 +57,7 @@ QByteArray cDeclarante::Huella(qint32 CSCO)
 qint16 cDeclarante::GuardarDeclarante(const Registro &registro)
 {
     Transaccion transaccion(Conexion::datos(m_datos));
-    const Guardado resultado
-        = guardarDeclarante(transaccion.conexion(), registro, Recientes::Contar);
+    const Guardado resultado = guardarDeclarante(transaccion.conexion(), registro);
     if (resultado == Guardado::Hecho)
         transaccion.confirmar();
     return static_cast<qint16>(resultado);
@@ -74,7 +74,7 @@ void cDeclarante::BorrarDeclarante(qint32 CSCO)
 
 qint16 cDeclarante::ValidarDatosDeclarante(const Registro &datos)
 {
-    return static_cast<qint16>(reglasRotas(datos, Telefono::Obligatorio).value(0));
+    return primeraReglaRota(datos);
 }
 
 qint32 cDeclarante::ObtenerCodigoDeclarante(const QString &DNI)
@@ -85,13 +85,19 @@ qint32 cDeclarante::ObtenerCodigoDeclarante(const QString &DNI)
 
 Filas cDeclarante::ValidarDatosImportar(const Registro &registro, qint16 idioma)
 {
-    return hallazgosImportar(Conexion::lectura(m_lectura), registro, idioma);
+    const ReglasImportar reglas(Conexion::lectura(m_lectura), idioma);
+    Filas filas;
+    for (const QString &hallazgo : reglas.hallazgos(DatosDeclarante::de(registro)))
+        filas.append(QVariant(QVariantList{hallazgo}));
+    return filas;
 }
 
-Filas cDeclarante::GuardarConjunto(const Filas &registros, Existentes existentes, qint16 idioma)
+QList<ResultadoConjunto> cDeclarante::GuardarConjunto(const ConjuntoDeclarantes &conjunto,
+                                                      qsizetype desde, qsizetype hasta,
+                                                      Existentes existentes, qint16 idioma)
 {
-    return guardarConjunto(Conexion::datos(m_datos), Conexion::lectura(m_lectura), registros,
-                           existentes, idioma);
+    return guardarConjunto(Conexion::datos(m_datos), Conexion::lectura(m_lectura),
+                           {conjunto, desde, hasta}, existentes, idioma);
 }
 
 // Read as the table lies and put in order here: following an index to each row takes three times as

@@ -17,7 +17,9 @@ public:
     qint16 ValidarDatosDeclarante(const Registro &datos) override;
     qint32 ObtenerCodigoDeclarante(const QString &DNI) override;
     Filas ValidarDatosImportar(const Registro &registro, qint16 idioma) override;
-    Filas GuardarConjunto(const Filas &registros, Existentes existentes, qint16 idioma) override;
+    QList<ResultadoConjunto> GuardarConjunto(const ConjuntoDeclarantes &conjunto, qsizetype desde,
+                                             qsizetype hasta, Existentes existentes,
+                                             qint16 idioma) override;
     qint32 dameResultado(Filas &filas, quint8 orden, qint16 idioma) override;
     qint32 dameResultadoExportar(Filas &filas, quint8 orden) override;
     void RecorrerExportar(quint8 orden,

@@ -22,6 +22,7 @@ public:
         QString titulo;
         QString texto;
         QMessageBox::StandardButton porDefecto;
+        QMessageBox::StandardButtons botones;
     };
 
     ConductorMensajes()
@@ -65,7 +66,8 @@ private:
     {
         auto *porDefecto = caja.defaultButton();
         m_mostrados.append({caja.icon(), caja.windowTitle(), caja.text(),
-                            porDefecto ? caja.standardButton(porDefecto) : QMessageBox::NoButton});
+                            porDefecto ? caja.standardButton(porDefecto) : QMessageBox::NoButton,
+                            caja.standardButtons()});
         if (m_respuestas.isEmpty())
             QTest::qFail(qPrintable(u"unexpected message: "_s + caja.text()), __FILE__, __LINE__);
         const auto respuesta

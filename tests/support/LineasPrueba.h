@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dataservice/ConjuntoDeclarantes.h"
+
 #include <QFile>
 #include <QString>
 
@@ -30,6 +32,17 @@ inline QByteArray fichero(int primera, int ultima)
     for (int numero = primera; numero <= ultima; ++numero)
         todas += linea(numero) + "\r\n";
     return todas;
+}
+
+/// The texts of a set's first declarant.
+inline QStringList textos(const ConjuntoDeclarantes &conjunto)
+{
+    QStringList todos;
+    for (int campo = RegDeclarante::DNI; campo <= RegDeclarante::TELEFONO; ++campo) {
+        const auto texto = conjunto.texto(0, static_cast<RegDeclarante::Campo>(campo));
+        todos += QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
+    }
+    return todos;
 }
 
 inline void escribir(const QString &ruta, const QByteArray &contenido)
