@@ -253,8 +253,11 @@ void frmimport::importar()
     }
     informarErrores(false);
     presentarCuenta({});
-    if (!examinar())
+    if (!examinar()) {
+        if (detenido())
+            informarDetenida(0);
         return;
+    }
     Importacion importacion(ruta,
                             m_chkauto->isChecked() ? Existentes::Sustituir : Existentes::Detenerse);
     importacion.preguntar = [this](const QString &dni) { return preguntar(dni); };
@@ -276,10 +279,15 @@ void frmimport::terminar(const Importacion &importacion, bool entera)
     unico::la<CEntrada>().InicializarContadores();
     Q_EMIT datosCambiados();
     if (importacion.detenida())
-        mensajes::informacion(this, windowTitle(),
-                              msj(Msj::ImportacionDetenida, QString::number(cuenta.lineas)));
+        informarDetenida(cuenta.lineas);
     else if (entera)
         mensajes::informacion(this, windowTitle(), mensajeFinal(cuenta));
+}
+
+void frmimport::informarDetenida(qint64 lineas)
+{
+    mensajes::informacion(this, windowTitle(),
+                          msj(Msj::ImportacionDetenida, QString::number(lineas)));
 }
 
 Importacion::Respuesta frmimport::preguntar(const QString &dni)

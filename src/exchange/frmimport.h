@@ -39,6 +39,7 @@ private:
     bool examinar();
     void presentarResumen();
     void importar();
+    void informarDetenida(qint64 lineas);
     void terminar(const Importacion &importacion, bool entera);
     Importacion::Respuesta preguntar(const QString &dni);
     void presentarCuenta(const Importacion::Cuenta &cuenta);

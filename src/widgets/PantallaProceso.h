@@ -30,6 +30,7 @@ protected:
     bool trabajar(qint64 total, const std::function<void()> &trabajo);
     /// Shows how far it has come; false when it is to stop.
     bool paso(qint64 linea);
+    bool detenido() const { return m_detener; } ///< the last work, by the user
 
     void closeEvent(QCloseEvent *evento) override;
     void dragEnterEvent(QDragEnterEvent *evento) override;
