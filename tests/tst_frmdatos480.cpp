@@ -338,7 +338,8 @@ private Q_SLOTS:
         QCOMPARE(filas(),
                  u"ENERO 100,00 10,01|FEBRERO  |MARZO 300,00 30,03|ABRIL  |MAYO  |JUNIO  |"
                  "JULIO  |AGOSTO  |SEPTIEMBRE  |OCTUBRE  |NOVIEMBRE  |DICIEMBRE  "_s);
-        QCOMPARE(manos().textos("lblTotalBase lblTotalCuota"), u"400,00|40,04"_s);
+        QCOMPARE(manos().textos("lblTotales430 lblTotalBase lblTotalCuota"),
+                 u"Total|400,00|40,04"_s);
         QVERIFY(manos().control("picCuotas")->accessibleDescription().contains(u"MARZO: 30,03"_s));
         Entorno::pasarAEuskera(*m_pagina);
         QVERIFY(filas().startsWith(u"URTARRILA 100,00 10,01|OTSAILA"_s));

@@ -1,6 +1,7 @@
 #include "declarants/FrmDecLista.h"
 #include "declarants/cDecLista.h"
 #include "support/ListaAbierta.h"
+#include "support/Retrato.h"
 #include "widgets/Ficheros.h"
 
 #include <QClipboard>
@@ -181,7 +182,13 @@ private Q_SLOTS:
     {
         Lista l(u"E"_s);
         QCOMPARE(l.pantalla->windowTitle(), u"Eliminar Declarante"_s);
-        QVERIFY(l.manos->control("lblEliminar")->isVisible());
+        compararRetrato(
+            *l.pantalla,
+            u"Eliminación de declarantes: el que elija se borrará.\n"
+            "Haga click en la cabecera de la lista sobre el campo RAZÓN SOCIAL o DNI para ordenar\n"
+            "Escriba para ver solo los declarantes que tienen ese texto en el DNI o en la razón "
+            "social. Ctrl+1 ordena por DNI; Ctrl+2, por razón social.\n"
+            "3 declarantes seleccionados <Eliminar> <Cancelar>"_s);
         QSignalSpy cambios(l.pantalla.get(), &PantallaBase::datosCambiados);
         QSignalSpy dichos(l.pantalla.get(), &PantallaBase::dicho);
         l.tecla(Qt::Key_Down);

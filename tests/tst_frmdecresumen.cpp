@@ -5,6 +5,7 @@
 #include "printing/cImOf.h"
 #include "resources/TablaMensajes.h"
 #include "support/ListaAbierta.h"
+#include "support/Retrato.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -77,9 +78,10 @@ private Q_SLOTS:
         const qint32 clave = mensual.GuardarDeclaracion(mensual.RegistroGuardar());
         r.abrir();
         QCOMPARE(cabecera().MODO(), u"L"_s);
-        QVERIFY(r.manos->texto("lbldni").contains(u"12345678Z"_s));
-        QCOMPARE(r.manos->textos("lblnombre lblNumDecla"),
-                 u"SEGUROS UNO|4 declaraciones seleccionadas"_s);
+        compararRetrato(*r.pantalla,
+                        u"SEGUROS UNO\nDNI-CIF: 12345678Z\n"
+                        "4 declaraciones seleccionadas <Nueva Declaración>\n<Datos>\n<Imprimir>\n"
+                        "<Eliminar declaración>\n<Declarante>\n<Cerrar>"_s);
         QCOMPARE(r.titulos(), u"Ejercicio|Período|Modelo|Importe"_s);
         QCOMPARE(r.fila(0), u"%1|2025|1|ENERO|430|1|0,00|1"_s.arg(r.claves[0]));
         QCOMPARE(r.fila(1), u"%1|2025|1|MARZO|430|1|9.876,54|3"_s.arg(clave));
@@ -152,6 +154,7 @@ private Q_SLOTS:
     {
         for (const bool anual : {false, true}) {
             Resumen r;
+            QCOMPARE(cabecera().CSDE(), 0);
             const QString periodo = anual ? u"ANUAL"_s : u"MARZO"_s;
             r.manos->pulsar("ImgNueva");
             QTest::keyClicks(r.manos->control("txtejer"), u"2026"_s);

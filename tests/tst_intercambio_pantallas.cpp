@@ -4,6 +4,7 @@
 #include "exchange/frmimport.h"
 #include "support/LineasPrueba.h"
 #include "support/PantallaAbierta.h"
+#include "support/Retrato.h"
 #include "widgets/Ficheros.h"
 #include "widgets/Navegador.h"
 
@@ -155,6 +156,11 @@ private Q_SLOTS:
     void importarPreguntando()
     {
         Importar i(lineas::fichero(1, 3) + "corta\r\n");
+        compararRetrato(*i.pantalla,
+                        u"&Fichero a importar\n[txtFichero=%1] <Seleccionar fichero>\n"
+                        "También puede arrastrar el fichero hasta esta ventana.\n<Automático>\n"
+                        "Importados 0\nIncorrectos 0\nSustituídos 0\nIgnorados 0\n"
+                        "<Importar> <Cerrar>"_s.arg(i.origen()));
         QSignalSpy cambios(i.pantalla.get(), &PantallaBase::datosCambiados);
         Entorno::altaDeclarante(lineas::dni(2), u"VIEJA"_s);
         i.manos->tecla(Qt::Key_Return);
@@ -283,6 +289,13 @@ private Q_SLOTS:
         QVERIFY(!cerrada && ventana.isVisible());
         QVERIFY(ventana.findChild<QAction *>(u"mnuExport"_s)->isEnabled());
         QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 1201);
+    }
+
+    void noImportable()
+    {
+        Importar i("");
+        QFile::remove(i.origen());
+        QCOMPARE(i.aviso("cmdImportar"), u"No existe el fichero que se desea importar"_s);
     }
 
     void arrastrar()

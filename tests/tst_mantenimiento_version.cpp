@@ -94,7 +94,7 @@ private Q_SLOTS:
         QVERIFY(leida);
         QCOMPARE(leida->partes.join(u'.'), u"1.2.3"_s); // the rest is seen on the screen
         QCOMPARE(valorPerfil("\xEF\xBB\xBF[s]\nk=\xC3\xB1", u"S"_s, u"K"_s), u"ñ"_s);
-        QVERIFY(!valorPerfil("[s]\n[t]\nk=1", u"s"_s, u"k"_s));
+        QVERIFY(!valorPerfil("k=1\n[s]\n[t]\nk=1", u"s"_s, u"k"_s));
         QCOMPARE(valorPerfil("[s]\nk=", u"s"_s, u"k"_s), QString());
     }
 

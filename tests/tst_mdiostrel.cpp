@@ -169,6 +169,7 @@ private Q_SLOTS:
             QTest::keyClick(m_ventana.get(), Qt::Key_N, Qt::ControlModifier);
             QTRY_COMPARE(pantallas(), QStringList(u"frmDecDatos"_s));
         }
+        QCOMPARE(unico::la<cDecDatos>().MODO(), u"A"_s);
         // the screen owns its record from now on
         QCOMPARE(habilitadas({"mnuNuevoDeclarante", "nuedec", "d1", "mnuAbrirDeclarante", "elidec",
                               "mnuSalir"}),

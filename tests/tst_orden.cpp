@@ -332,13 +332,19 @@ private Q_SLOTS:
         caso("idioma --carpeta=", "Falta el valor de la opción --carpeta.");
     }
 
+    /// Every page of the help, against the list kept with the tests.
     void ayuda()
     {
-        for (const auto &[orden, contiene] : {std::pair{"--help", "idioma [C|E]"},
-                                              {"-h", "declarante alta"},
-                                              {"listar -h", "listar declaraciones"},
-                                              {"declarar 480 --help", "[--casilla NN=EUROS …]"}})
-            QVERIFY2(ostrel(partes(orden)).texto.contains(contiene), orden);
+        QByteArray paginas;
+        for (const QString &orden :
+             u"-h|declarante alta -h|declarar -h|declarar 430 --help|declarar 480 -h|pendientes -h|"
+             "listar -h|listar declarantes -h|listar declaraciones -h|imprimir -h|importar -h|"
+             "exportar -h|copia -h|restaurar -h|idioma -h"_s.split(u'|'))
+            paginas += ostrel(orden.split(u' ')).texto + '\n';
+        const QString ruta = QStringLiteral(OSTREL_REFERENCIAS "/ordenes.txt");
+        if (qEnvironmentVariableIsSet("OSTREL_NUEVAS_REFERENCIAS"))
+            lineas::escribir(ruta, paginas);
+        QCOMPARE(paginas.split('\n'), lineas::leer(ruta).split('\n'));
         const Salida version = proceso(partes("--version"));
         dicha(version, "Ostrel de Seguros " + version.texto.mid(18));
         QCOMPARE(version.texto.count('.'), 2);
