@@ -108,6 +108,8 @@ private Q_SLOTS:
         QCOMPARE(e.pantalla->windowTitle(), u"Esportatu aitortzaileak"_s);
         QCOMPARE(e.manos->textos("lblResultado1 lblresultado2"),
                  u"2 aitortzaile hautatu d(ir)a|1 aitortzaile hautatu dira esportatzeko"_s);
+        e.abrir(); // begins afresh
+        QVERIFY(e.nombres().size() == 4 && e.nombres().endsWith(u'|'));
     }
 
     void escribirFichero()
