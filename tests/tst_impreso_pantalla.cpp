@@ -202,6 +202,15 @@ private Q_SLOTS:
             QVERIFY(!o.pantalla->isVisible());
             QCOMPARE(o.siguiente, Pantalla::Resumen);
         }
+        // a copy that is there is written over only when the user says so
+        const QString una = salida.filePath(u"dos/x_AD.pdf"_s);
+        lineas::escribir(una, "old");
+        Opciones o(u"430"_s);
+        o.manos->control<QAbstractButton>("chkUnPdf")->setChecked(false);
+        guardarComo(o, salida.filePath(u"dos/x_AD-IT.pdf"_s), QMessageBox::No);
+        QCOMPARE(o.mensajes.texto(), u"El archivo ya existe. ¿Desea sobreescribirlo?"_s);
+        QCOMPARE(lineas::leer(una), "old");
+        QVERIFY(o.pantalla->isVisible());
     }
 
     /// What was saved can be opened, or its folder.
