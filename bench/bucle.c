@@ -4,7 +4,7 @@
 #include <stdio.h>
 #include <stdlib.h>
 
-enum { ANCHO = 153, LINEAS_TRANSACCION = 5000 };
+enum { ANCHO = 153 };
 
 static const char *const AJUSTES
     = "PRAGMA foreign_keys = ON; PRAGMA journal_mode = DELETE; PRAGMA synchronous = EXTRA;"
@@ -84,21 +84,29 @@ static int insertar(sqlite3_stmt *alta, const char *linea)
     return codigo == SQLITE_DONE ? 0 : 1;
 }
 
+/* As the program does: a long file takes larger transactions. */
+static long lineasTransaccion(long leidas)
+{
+    return leidas < 50000 ? 5000 : leidas > 500000 ? 50000 : leidas / 10;
+}
+
 int bucle_importar(const char *base, const char *fichero)
 {
     sqlite3 *bd = NULL;
     sqlite3_stmt *alta = NULL;
     char linea[ANCHO + 16];
-    long numero = 0;
+    long numero = 0, primera = 0;
     int malo = 0;
     FILE *entrada = fopen(fichero, "rb");
     if (!entrada || sqlite3_open(base, &bd) || sqlite3_exec(bd, AJUSTES, NULL, NULL, NULL)
         || sqlite3_prepare_v2(bd, ALTA, -1, &alta, NULL))
         return 1;
     for (; !malo && fgets(linea, sizeof linea, entrada); ++numero) {
-        if (numero % LINEAS_TRANSACCION == 0)
+        if (numero == 0 || numero - primera >= lineasTransaccion(numero)) {
             malo = sqlite3_exec(bd, numero ? "COMMIT; BEGIN IMMEDIATE" : "BEGIN IMMEDIATE", NULL,
                                 NULL, NULL);
+            primera = numero;
+        }
         malo |= insertar(alta, linea);
     }
     malo |= sqlite3_exec(bd, "COMMIT", NULL, NULL, NULL);

@@ -10,7 +10,7 @@ extern "C" {
 
 /* Writes `lineas` declarants in the exchange format, in no order. */
 int bucle_generar(const char *fichero, long lineas);
-/* Puts the lines of a file into a database with the program's schema, 5,000 a transaction. */
+/* Puts the lines of a file into a database with the program's schema, 5,000 to 50,000 a transaction. */
 int bucle_importar(const char *base, const char *fichero);
 /* Writes every declarant of a database to a file. */
 int bucle_exportar(const char *base, const char *fichero);

@@ -3,6 +3,7 @@
 #include "core/Textos.h"
 #include "widgets/Disposicion.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
 

@@ -12,11 +12,18 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <filesystem>
 
 using namespace Qt::StringLiterals;
 
-static constexpr std::size_t LineasConjunto = 5000; // one transaction
+/// Lines of one transaction. Each writes most pages of the index of the identifiers, so that a long
+/// file takes larger ones.
+static std::size_t lineasConjunto(qint64 leidas)
+{
+    return static_cast<std::size_t>(std::clamp<qint64>(leidas / 10, 5000, 50'000));
+}
+
 static constexpr qint64 CadaCuanto = 500; // lines between two looks at the user
 
 static QString motivoDe(const intercambio::Rechazado &malo)
@@ -60,7 +67,7 @@ void Importacion::importarLineas(QIODevice &fichero)
     LectorLineas lector(fichero, campos::AnchoLinea);
     while (!m_detenida && lector.siguiente()) {
         tomarLinea(lector.numero(), lector.linea());
-        if (m_lineas.size() == LineasConjunto)
+        if (m_lineas.size() >= lineasConjunto(lector.numero()))
             vaciar();
         if (lector.numero() % CadaCuanto == 0)
             continuar(lector.numero());

@@ -82,6 +82,10 @@ QList<ResultadoConjunto> guardarConjunto(const PConexion &datos, const PConexion
         Destino destino(datos, existentes);
         return guardarTramo(destino, reglas, tramo);
     }
+    // a large set is written once, at its end, if its pages find room until then
+    constexpr qsizetype grande = 5000;
+    datos->paginas(tramo.hasta - tramo.desde > grande ? Conexion::Paginas::Muchas
+                                                      : Conexion::Paginas::Usuales);
     Transaccion transaccion(datos);
     auto resultados = [&] {
         Destino destino(transaccion.conexion(), existentes);

@@ -53,6 +53,12 @@ void Conexion::olvidar(const QString &ruta)
     abiertas().remove(ruta);
 }
 
+void Conexion::paginas(Paginas cuantas)
+{
+    m_base.tryExec(cuantas == Paginas::Muchas ? "PRAGMA cache_size = -49152"
+                                              : "PRAGMA cache_size = -16384");
+}
+
 bool Conexion::enTransaccion() const
 {
     return sqlite3_get_autocommit(m_base.getHandle()) == 0;

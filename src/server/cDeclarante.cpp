@@ -6,6 +6,7 @@
 #include "server/ValidacionDeclarante.h"
 
 #include <QHash>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <utility>
@@ -143,7 +144,11 @@ qint32 cDeclarante::dameResultadoExportar(Filas &filas, quint8 orden)
 void cDeclarante::RecorrerExportar(quint8 orden,
                                    const std::function<bool(const Registro &)> &visitar)
 {
-    Sentencia sentencia(Conexion::datos(m_datos), seleccionDeclarante(orderBy(orden)));
+    const PConexion conexion = Conexion::datos(m_datos);
+    // the rows of another order than the table's lie anywhere in it
+    conexion->paginas(orden == 0 ? Conexion::Paginas::Usuales : Conexion::Paginas::Muchas);
+    const auto vuelta = qScopeGuard([&] { conexion->paginas(Conexion::Paginas::Usuales); });
+    Sentencia sentencia(conexion, seleccionDeclarante(orderBy(orden)));
     while (sentencia.fila() && visitar(registroDeclarante(sentencia))) {}
 }
 
