@@ -3,6 +3,7 @@
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"
 #include "printing/cImOf.h"
+#include "printing/cImprimirVarias.h"
 #include "resources/TablaMensajes.h"
 #include "support/ListaAbierta.h"
 #include "support/Retrato.h"
@@ -298,6 +299,39 @@ private Q_SLOTS:
         r.tecla(Qt::Key_P, Qt::ControlModifier);
         QCOMPARE(r.siguiente, Pantalla::Impresion);
         QCOMPARE(p.CSDE(), r.claves[1]);
+    }
+
+    /// Several rows can only be printed, by the button as by keys and menu.
+    void variasFilas()
+    {
+        Resumen r({1, 2, 3}, true);
+        r.elegir(1);
+        QTest::mouseClick(r.grid()->viewport(), Qt::LeftButton, Qt::ControlModifier, r.lugar(3));
+        QCOMPARE(cabecera().CSDE(), 0);
+        for (const char *boton : {"cmdDatos", "cmdEliminar"})
+            QVERIFY2(!r.manos->control(boton)->isEnabled(), boton);
+        r.tecla(Qt::Key_Return);
+        r.tecla(Qt::Key_Delete);
+        QVERIFY(!r.siguiente);
+        for (const bool menu : {false, true}) {
+            r.siguiente.reset();
+            if (menu)
+                r.manos->elegirEnMenu(*r.grid(), r.lugar(1), "cmdImprimir");
+            else
+                r.tecla(Qt::Key_P, Qt::ControlModifier);
+            QVERIFY2(r.siguiente == Pantalla::ImprimirVarias, menu ? "menu" : "key");
+        }
+        QVariantList pedidas;
+        for (const auto &fila : unico::la<cImprimirVarias>().filas())
+            pedidas += {fila.csco, fila.csde, fila.dni, fila.nombre, fila.cabecera.nombre()};
+        QCOMPARE(unidos(pedidas),
+                 u"%1|%2|12345678Z|SEGUROS UNO|430 FEBRERO 2025|"
+                 "%1|%3|12345678Z|SEGUROS UNO|480 ANUAL 2025"_s.arg(r.csco)
+                     .arg(r.claves[1])
+                     .arg(r.claves[3]));
+        r.elegir(2);
+        QCOMPARE(cabecera().CSDE(), r.claves[2]);
+        QVERIFY(r.manos->control("cmdEliminar")->isEnabled());
     }
 
     void borrar()

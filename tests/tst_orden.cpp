@@ -250,6 +250,48 @@ private Q_SLOTS:
                   "LA_ADMINISTRACIÓN");
     }
 
+    void imprimirTodas()
+    {
+        const QDir salida(carpeta + u"/pdf"_s);
+        const auto todas = [&](const char *resto) {
+            return partes("imprimir --todas --ejercicio 2026") + partes(resto)
+                + QStringList{u"--pdf"_s, salida.path()};
+        };
+        hacer(opcionesAlta());
+        hacer(opcionesAlta(u"dni"_s, u"A58818501"_s));
+        hacer(opcionesAlta(u"dni"_s, u"00000001R"_s));
+        rechazar(todas("--modelo 430 --periodo 1"),
+                 "No hay ninguna declaración guardada que imprimir.\n");
+        for (const char *dni : {"12345678Z", "A58818501"})
+            hacer(partes("declarar 430 --ejercicio 2026 --periodo 1 --base 100 --dni")
+                  + partes(dni));
+        hacer(declarar("430 --ejercicio 2026 --periodo 2 --base 100"));
+        hacer(declarar("480 --ejercicio 2026"));
+        rechazar(todas("--modelo 430 --periodo 1"),
+                 u"No existe la carpeta «%1».\n"_s.arg(salida.path()).toUtf8());
+        QVERIFY(salida.mkpath(u"."_s));
+        const QString enlace = salida.filePath(u"430_2026-01_A58818501_AD.pdf"_s);
+        QVERIFY(QFile::link(tablas() + u"/OstrMod.mdb"_s, enlace));
+        lineas::escribir(salida.filePath(u"430_2026-01_12345678Z_AD.pdf"_s), "antes");
+        const Salida dicho = ostrel(todas("--modelo 430 --periodo 1 --copias adm"));
+        rechazada(dicho, "A58818501: ");
+        QVERIFY(dicho.error.endsWith("Impresas: 1. No impresas: 1.\n"));
+        QVERIFY(QFile::remove(enlace));
+        decir(todas("--modelo 430 --periodo 1 --copias adm"), "Impresas: 2. No impresas: 0.\n");
+        decir(todas("--modelo 480 --borrador"), "Impresas: 1. No impresas: 0.\n");
+        QCOMPARE(salida.entryList(QDir::Files | QDir::Hidden).join(u' '),
+                 u"430_2026-01_12345678Z_AD.pdf 430_2026-01_A58818501_AD.pdf "
+                 "480_2026_12345678Z_BO.pdf"_s);
+        for (const QFileInfo &uno : salida.entryInfoList(QDir::Files))
+            QVERIFY(lineas::leer(uno.filePath()).startsWith("%PDF-"));
+        rechazar(todas("--modelo 430 --periodo 1 --dni 12345678Z"),
+                 "Las opciones --dni y --todas no se pueden indicar a la vez.", 2);
+        rechazar(partes("imprimir --modelo 480 --ejercicio 2026 --pdf x"), "Falta la opción --dni",
+                 2);
+        rechazar(todas("--modelo 430 --periodo 1 --imprimir-en x --copias todas"),
+                 "La opción --copias", 2);
+    }
+
     void imprimirRechazado()
     {
         hacer(opcionesAlta());

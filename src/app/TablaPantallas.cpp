@@ -1,6 +1,7 @@
 #include "app/Pantallas.h"
 #include "app/frmAbout.h"
 #include "campaign/FrmImportarDeclaraciones.h"
+#include "campaign/FrmImprimirVarias.h"
 #include "campaign/FrmPendientes.h"
 #include "core/Unico.h"
 #include "declarants/FrmDecLista.h"
@@ -14,6 +15,7 @@
 #include "exchange/frmimport.h"
 #include "maintenance/frmPreferencias.h"
 #include "printing/FrmImOf.h"
+#include "printing/cImprimirVarias.h"
 
 #include <algorithm>
 
@@ -26,6 +28,12 @@ template <class T> static PantallaBase *crear(QWidget *padre)
 static bool resumenNuevo()
 {
     return unico::la<cDecResumen>().ENTRADA() == Entrada::Abrir;
+}
+
+/// Other returns to be printed.
+static bool otrasVarias()
+{
+    return unico::la<cImprimirVarias>().HayPedidas();
 }
 
 static constexpr DatosPantalla Tabla[] = {
@@ -41,6 +49,7 @@ static constexpr DatosPantalla Tabla[] = {
     {Pantalla::Importar, crear<frmimport>, DatosPantalla::Ajustado},
     {Pantalla::Pendientes, crear<FrmPendientes>, DatosPantalla::Amplio},
     {Pantalla::ImportarDeclaraciones, crear<FrmImportarDeclaraciones>, DatosPantalla::Amplio},
+    {Pantalla::ImprimirVarias, crear<FrmImprimirVarias>, DatosPantalla::Amplio, otrasVarias},
     {Pantalla::Preferencias, crear<frmPreferencias>, DatosPantalla::Modal},
     {Pantalla::AcercaDe, crear<frmAbout>, DatosPantalla::Modal},
 };

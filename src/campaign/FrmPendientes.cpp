@@ -6,6 +6,7 @@
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/MensajesDeclarante.h"
+#include "printing/cImprimirVarias.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/CajaTexto.h"
 #include "widgets/Disposicion.h"
@@ -23,6 +24,8 @@
 #include <QStandardPaths>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -69,6 +72,7 @@ FrmPendientes::FrmPendientes(QWidget *padre)
     , m_cmdAceptar(m_botones->anadir(u"cmdAceptar"_s, u"PicAce"_s, Icono::Abrir))
     , m_cmdPlantilla(m_botones->anadir(u"cmdPlantilla"_s, {}, Icono::Exportar))
     , m_cmdImportar(m_botones->anadir(u"cmdImportar"_s, {}, Icono::Importar))
+    , m_cmdImprimir(m_botones->anadir(u"cmdImprimir"_s, {}, Icono::Imprimir))
     , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar))
 {
     for (auto *etiqueta : {m_lblVacio, m_lblBusqueda})
@@ -104,7 +108,7 @@ void FrmPendientes::prepararGrid()
 {
     m_flxPendientes->setObjectName(u"flxPendientes"_s);
     m_flxPendientes->setModel(m_modelo);
-    prepararTabla(m_flxPendientes);
+    prepararTablaDeVarias(m_flxPendientes);
     const int letra = fontMetrics().averageCharWidth();
     m_flxPendientes->setColumnWidth(DNI, 16 * letra);
     m_flxPendientes->setColumnWidth(ESTADO, 24 * letra);
@@ -114,7 +118,7 @@ void FrmPendientes::prepararGrid()
     cabecera->setStretchLastSection(false);
     cabecera->setSectionResizeMode(NOMBRE, QHeaderView::Stretch);
     m_busqueda->columna(NOMBRE);
-    ponerAcciones(m_flxPendientes, {{m_cmdAceptar, {}}});
+    ponerAcciones(m_flxPendientes, {{m_cmdAceptar, {}}, {m_cmdImprimir, Qt::CTRL | Qt::Key_P}});
 }
 
 void FrmPendientes::disponer()
@@ -164,6 +168,7 @@ void FrmPendientes::conectar()
     alPulsar(m_cmdAceptar, [this] { abrir(); });
     alPulsar(m_cmdPlantilla, [this] { guardarPlantilla(); });
     alPulsar(m_cmdImportar, [this] { Q_EMIT mostrar(Pantalla::ImportarDeclaraciones); });
+    alPulsar(m_cmdImprimir, [this] { imprimir(); });
     alPulsarSinConfirmar(m_cmdCancelar, [this] { cerrarA(Pantalla::Ninguna); });
 }
 
@@ -190,6 +195,7 @@ void FrmPendientes::Anadir_captions()
     rotular(m_cmdAceptar, Msj::BotonDatos, Msj::PistaAbrirResumen);
     rotular(m_cmdPlantilla, Msj::BotonPlantilla, Msj::PistaPlantilla);
     rotular(m_cmdImportar, Msj::BotonImportarHoja, Msj::PistaImportarHoja);
+    rotular(m_cmdImprimir, Msj::BotonImprimirVarias, Msj::PistaImprimirVarias);
     rotular(m_cmdCancelar, Msj::BotonCerrar, Msj::PistaVolverMenu);
     m_modelo->columnas({
         {msj(Msj::ColumnaDni), [](const Fila &f) { return f.dni; }},
@@ -325,8 +331,8 @@ void FrmPendientes::seleccionarDeclarante(qint32 csco)
 
 const DeclarantePendiente *FrmPendientes::filaActual() const
 {
-    const auto filas = m_flxPendientes->selectionModel()->selectedRows();
-    return filas.isEmpty() ? nullptr : &m_modelo->fila(filas.first().row());
+    const int fila = filaUnica(*m_flxPendientes);
+    return fila < 0 ? nullptr : &m_modelo->fila(fila);
 }
 
 void FrmPendientes::alSeleccionar()
@@ -334,6 +340,28 @@ void FrmPendientes::alSeleccionar()
     const auto *fila = filaActual();
     estado().CSCO(fila ? fila->csco : 0);
     m_cmdAceptar->setEnabled(fila);
+    m_cmdImprimir->setEnabled(!filasParaImprimir().isEmpty());
+}
+
+/// The stored ones of several rows selected, else of all that are shown.
+QList<int> FrmPendientes::filasParaImprimir() const
+{
+    QList<int> filas = filasElegidas(*m_flxPendientes);
+    if (filas.size() < 2) {
+        filas.resize(m_modelo->rowCount());
+        std::iota(filas.begin(), filas.end(), 0);
+    }
+    filas.removeIf([this](int fila) { return m_modelo->fila(fila).csde == 0; });
+    return filas;
+}
+
+void FrmPendientes::imprimir()
+{
+    QList<Fila> filas;
+    for (const int fila : filasParaImprimir())
+        filas.append(m_modelo->fila(fila));
+    unico::la<cImprimirVarias>().Pedir(estado().ParaImprimir(filas));
+    Q_EMIT mostrar(Pantalla::ImprimirVarias);
 }
 
 void FrmPendientes::abrir()

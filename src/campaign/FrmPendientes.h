@@ -46,6 +46,8 @@ private:
     const DeclarantePendiente *filaActual() const;
     void abrir();
     void guardarPlantilla();
+    QList<int> filasParaImprimir() const;
+    void imprimir();
 
     CajaTexto *m_txtejer;
     ListaDesplegable *m_cmbperiodo;
@@ -64,5 +66,6 @@ private:
     QPushButton *m_cmdAceptar;
     QPushButton *m_cmdPlantilla;
     QPushButton *m_cmdImportar;
+    QPushButton *m_cmdImprimir;
     QPushButton *m_cmdCancelar;
 };

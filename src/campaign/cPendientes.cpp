@@ -135,6 +135,15 @@ cPendientes::Plantilla(const QList<DeclarantePendiente> &lista) const
     return {texto, cuantos};
 }
 
+QList<FilaImprimir> cPendientes::ParaImprimir(const QList<DeclarantePendiente> &lista) const
+{
+    QList<FilaImprimir> filas;
+    for (const auto &una : lista)
+        if (una.estado() == EstadoPendiente::Guardada)
+            filas.append({una.csco, una.csde, una.dni, una.nombre, m_cabecera});
+    return filas;
+}
+
 void cPendientes::Colocar(QList<DeclarantePendiente> &lista, DeclarantePendiente fila)
 {
     const auto clave

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "declarants/cDecResumen.h"
+#include "printing/cImprimirVarias.h"
 
 #include <QDate>
 #include <QList>
@@ -52,6 +53,8 @@ public:
     /// A sheet to be filled in and read back (cImportarDeclaraciones): those of `lista` that have
     /// the return not stored, and how many they are.
     std::pair<QByteArray, qsizetype> Plantilla(const QList<DeclarantePendiente> &lista) const;
+    /// Those of `lista` that have the return stored, to be printed.
+    QList<FilaImprimir> ParaImprimir(const QList<DeclarantePendiente> &lista) const;
     /// Adds a row at its place by name.
     static void Colocar(QList<DeclarantePendiente> &lista, DeclarantePendiente fila);
 

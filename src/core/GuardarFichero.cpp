@@ -32,13 +32,6 @@ static bool sincronizado(int descriptor)
 #endif
 }
 
-/// Whether the file is whole under its name; asked where its folder could not be made safe.
-static bool estaEnDisco(const QString &ruta, const QByteArray &contenido)
-{
-    QFile escrito(ruta);
-    return escrito.open(QIODevice::ReadOnly) && escrito.readAll() == contenido;
-}
-
 static bool carpetaSincronizada([[maybe_unused]] const QString &carpeta)
 {
 #ifdef Q_OS_UNIX
@@ -52,7 +45,26 @@ static bool carpetaSincronizada([[maybe_unused]] const QString &carpeta)
 #endif
 }
 
-QString guardarFichero(const QString &ruta, const QByteArray &contenido)
+bool escribirEntero(QIODevice &destino, QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const qint64 escritos = destino.write(bytes.data(), bytes.size());
+        if (escritos <= 0)
+            return false;
+        bytes = bytes.sliced(escritos);
+    }
+    return true;
+}
+
+QString guardarFichero(const QString &ruta, const QByteArray &contenido, bool *lleno)
+{
+    bool entero = true;
+    const QString fallo = guardarFichero(
+        ruta, [&](QFileDevice &f) { return entero = escribirEntero(f, contenido); }, lleno);
+    return entero || !fallo.isEmpty() ? fallo : motivo(Msj::FalloLecturaEscritura, ruta);
+}
+
+QString guardarFichero(const QString &ruta, const Escritura &escribir, bool *lleno)
 {
     if (const QString rechazo = motivoRutaRechazada(ruta); !rechazo.isEmpty())
         return rechazo;
@@ -62,11 +74,18 @@ QString guardarFichero(const QString &ruta, const QByteArray &contenido)
     QSaveFile fichero(ruta);
     if (!fichero.open(QIODevice::WriteOnly))
         return motivo(Msj::FalloSoloLectura, ruta);
-    const bool escrito = fichero.write(contenido) == contenido.size() && fichero.flush()
-        && sincronizado(fichero.handle()) && fichero.commit();
-    if (escrito && (carpetaSincronizada(carpeta) || estaEnDisco(ruta, contenido)))
+    const bool acabado = escribir(fichero);
+    if (!acabado && fichero.error() == QFileDevice::NoError)
+        return {};
+    const qint64 escritos = fichero.pos();
+    const bool guardado
+        = acabado && fichero.flush() && sincronizado(fichero.handle()) && fichero.commit();
+    // where its folder could not be made safe, the file is looked for under its name
+    if (guardado && (carpetaSincronizada(carpeta) || QFileInfo(ruta).size() == escritos))
         return {};
     const bool sinEspacio = fichero.error() == QFileDevice::ResourceError
-        || QStorageInfo(carpeta).bytesAvailable() < contenido.size();
+        || QStorageInfo(carpeta).bytesAvailable() < escritos;
+    if (lleno)
+        *lleno = sinEspacio;
     return motivo(sinEspacio ? Msj::FalloSinEspacio : Msj::FalloLecturaEscritura, ruta);
 }

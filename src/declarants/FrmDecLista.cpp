@@ -302,8 +302,8 @@ void FrmDecLista::alSeleccionar()
 
 const DeclaranteListado *FrmDecLista::filaActual() const
 {
-    const auto filas = m_flxDeclarantes->selectionModel()->selectedRows();
-    return filas.size() == 1 ? &m_modelo->fila(filas.first().row()) : nullptr;
+    const int fila = filaUnica(*m_flxDeclarantes);
+    return fila < 0 ? nullptr : &m_modelo->fila(fila);
 }
 
 /// The rows that are shown, in their order.

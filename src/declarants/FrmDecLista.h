@@ -41,8 +41,7 @@ private:
     void seleccionar(int fila);
     void seleccionarDeclarante(qint32 csco);
     void alSeleccionar();
-    const DeclaranteListado *
-    filaActual() const; ///< null unless just one is selected ///< null when no row is selected
+    const DeclaranteListado *filaActual() const; ///< null unless exactly one row is selected
     bool eliminando() const;
     void imprimirListado();
     void aceptar();

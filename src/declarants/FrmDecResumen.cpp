@@ -85,7 +85,7 @@ void FrmDecResumen::prepararGrid()
 {
     m_flxDeclaraciones->setObjectName(u"flxDeclaraciones"_s);
     m_flxDeclaraciones->setModel(m_modelo);
-    prepararTabla(m_flxDeclaraciones);
+    prepararTablaDeVarias(m_flxDeclaraciones);
     for (const int oculta : {CSDE, PERIODICIDAD, TIPOLOGIA, NUMERO_PERIODO})
         m_flxDeclaraciones->setColumnHidden(oculta, true);
     const int letra = fontMetrics().averageCharWidth();
@@ -233,6 +233,7 @@ void FrmDecResumen::PresentaDatos()
 void FrmDecResumen::PresentaBotones()
 {
     const bool hay = filaActual() != nullptr;
-    for (auto *boton : {m_cmdDatos, m_cmdImprimir, m_cmdEliminar})
+    for (auto *boton : {m_cmdDatos, m_cmdEliminar})
         boton->setEnabled(hay);
+    m_cmdImprimir->setEnabled(m_flxDeclaraciones->selectionModel()->hasSelection());
 }

@@ -45,7 +45,7 @@ private:
     void LeerDeclarante();
     void vaciar();
 
-    const DeclaracionListada *filaActual() const; ///< null when no row is selected
+    const DeclaracionListada *filaActual() const; ///< null unless exactly one row is selected
     void alSeleccionar();
     void seleccionar(qint32 csde);
     bool tomarFila();
@@ -58,6 +58,7 @@ private:
     void abandonarNueva();
     void abrir();
     void imprimir();
+    void imprimirVarias();
     void eliminar();
     void verDeclarante();
 

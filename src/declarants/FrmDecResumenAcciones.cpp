@@ -13,8 +13,10 @@
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"
 #include "printing/cImOf.h"
+#include "printing/cImprimirVarias.h"
 #include "widgets/Mensajes.h"
 #include "widgets/ModeloFilas.h"
+#include "widgets/cUtilidadesGrid.h"
 
 #include <QKeyEvent>
 #include <QPushButton>
@@ -31,8 +33,8 @@ static cDecResumen &cabecera()
 
 const DeclaracionListada *FrmDecResumen::filaActual() const
 {
-    const auto filas = m_flxDeclaraciones->selectionModel()->selectedRows();
-    return filas.isEmpty() ? nullptr : &m_modelo->fila(filas.first().row());
+    const int fila = filaUnica(*m_flxDeclaraciones);
+    return fila < 0 ? nullptr : &m_modelo->fila(fila);
 }
 
 void FrmDecResumen::alSeleccionar()
@@ -203,10 +205,21 @@ void FrmDecResumen::abrir()
     }
 }
 
+void FrmDecResumen::imprimirVarias()
+{
+    QList<FilaImprimir> filas;
+    for (const int numero : filasElegidas(*m_flxDeclaraciones)) {
+        const Fila &fila = m_modelo->fila(numero);
+        filas.append({cabecera().CSCO(), fila.csde, cabecera().DNI(), cabecera().NOMBRE(), fila});
+    }
+    unico::la<cImprimirVarias>().Pedir(std::move(filas));
+    Q_EMIT mostrar(Pantalla::ImprimirVarias);
+}
+
 void FrmDecResumen::imprimir()
 {
     if (!tomarFila())
-        return;
+        return imprimirVarias();
     auto &peticion = unico::la<cImOf>();
     peticion.CSCO(cabecera().CSCO());
     peticion.CSDE(cabecera().CSDE());

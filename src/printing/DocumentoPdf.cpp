@@ -31,46 +31,83 @@ static QByteArray propiedades(const QString &titulo)
         .toUtf8();
 }
 
-/// The same bytes with an author in the document's dictionary, which QPdfWriter has no setter for
-/// either: a new version of that dictionary after the end, as the format lets one be changed.
-static QByteArray conAutor(QByteArray pdf, const QString &autor)
+/// Hands on what is written into it, and keeps both ends.
+class Extremos : public QIODevice
+{
+public:
+    explicit Extremos(QIODevice &destino)
+        : m_destino(destino)
+    {
+        open(QIODevice::WriteOnly);
+    }
+    bool isSequential() const override { return true; }
+
+    static constexpr qsizetype Cabeza = 8192;
+    static constexpr qsizetype Cola = 400;
+    QByteArray cabeza;
+    QByteArray cola;
+    qint64 total = 0;
+
+protected:
+    qint64 readData(char * /*datos*/, qint64 /*maximo*/) override { return -1; }
+    qint64 writeData(const char *datos, qint64 bytes) override
+    {
+        const QByteArrayView trozo(datos, bytes);
+        cabeza += trozo.first(std::min<qsizetype>(bytes, Cabeza - cabeza.size()));
+        cola += trozo.last(std::min<qsizetype>(bytes, Cola));
+        cola = cola.last(std::min(cola.size(), Cola));
+        total += bytes;
+        return escribirEntero(m_destino, trozo) ? bytes : -1;
+    }
+
+private:
+    QIODevice &m_destino;
+};
+
+/// An author in the document's dictionary, which QPdfWriter has no setter for either: a new version
+/// of that dictionary to stand after the end, as the format lets one be changed.
+static QByteArray autoria(const Extremos &pdf, const QString &autor)
 {
     static const QRegularExpression final(
         u"/Size (\\d+)\\s+/Info (\\d+) 0 R\\s+/Root (\\d+) 0 R\\s*>>\\s*startxref\\s+(\\d+)\\s+%%EOF\\s*$"_s);
-    const auto m = final.match(QString::fromLatin1(pdf.last(std::min<qsizetype>(pdf.size(), 400))));
-    const QByteArray cabeza = m.captured(2).toLatin1() + " 0 obj\n<<";
-    const auto desde = pdf.indexOf('\n' + cabeza) + 1;
-    const auto hasta = pdf.indexOf("endobj", desde);
+    const auto m = final.match(QString::fromLatin1(pdf.cola));
+    const QByteArray principio = m.captured(2).toLatin1() + " 0 obj\n<<";
+    const auto desde = pdf.cabeza.indexOf('\n' + principio) + 1;
+    const auto hasta = pdf.cabeza.indexOf("endobj", desde);
     if (!m.hasMatch() || desde == 0 || hasta < 0)
-        return pdf;
-    QByteArray diccionario = pdf.mid(desde, hasta - desde);
+        return {};
+    QByteArray diccionario = pdf.cabeza.mid(desde, hasta - desde);
     QByteArray texto("\xfe\xff");
     for (const QChar c : autor)
         texto += static_cast<char>(c.unicode() >> 8), texto += static_cast<char>(c.unicode() & 255);
-    diccionario.insert(cabeza.size(), "\n/Author <" + texto.toHex() + '>');
-    const auto lugar = pdf.size();
-    pdf += diccionario + "endobj\n";
-    const auto tabla = pdf.size();
-    return pdf + "xref\n" + m.captured(2).toLatin1() + " 1\n"
-        + QByteArray::number(lugar).rightJustified(10, '0') + " 00000 n \ntrailer\n<<\n/Size "
+    diccionario.insert(principio.size(), "\n/Author <" + texto.toHex() + '>');
+    diccionario += "endobj\n";
+    const auto tabla = pdf.total + diccionario.size();
+    return diccionario + "xref\n" + m.captured(2).toLatin1() + " 1\n"
+        + QByteArray::number(pdf.total).rightJustified(10, '0') + " 00000 n \ntrailer\n<<\n/Size "
         + m.captured(1).toLatin1() + "\n/Info " + m.captured(2).toLatin1() + " 0 R\n/Root "
         + m.captured(3).toLatin1() + " 0 R\n/Prev " + m.captured(4).toLatin1() + "\n>>\nstartxref\n"
         + QByteArray::number(tabla) + "\n%%EOF\n";
 }
 
-QByteArray documentoPdf(const QString &titulo,
-                        const std::function<bool(QPagedPaintDevice &)> &dibujar)
+bool escribirPdf(QIODevice &destino, const QString &titulo, const DibujoPdf &dibujar)
 {
-    QBuffer memoria;
-    memoria.open(QIODevice::WriteOnly);
-    QPdfWriter escritor(&memoria);
+    Extremos pdf(destino);
+    QPdfWriter escritor(&pdf);
     prepararPagina(escritor);
     escritor.setTitle(titulo);
     escritor.setCreator(AutorDocumento.toString());
     escritor.setDocumentXmpMetadata(propiedades(titulo));
     if (!dibujar(escritor))
-        return {};
-    return conAutor(memoria.data(), AutorDocumento.toString());
+        return false;
+    return escribirEntero(destino, autoria(pdf, AutorDocumento.toString()));
+}
+
+QByteArray documentoPdf(const QString &titulo, const DibujoPdf &dibujar)
+{
+    QBuffer memoria;
+    memoria.open(QIODevice::WriteOnly);
+    return escribirPdf(memoria, titulo, dibujar) ? memoria.data() : QByteArray();
 }
 
 QString motivoRutasRechazadas(const QStringList &rutas)

@@ -5,12 +5,18 @@
 
 #include <functional>
 
+class QIODevice;
 class QPagedPaintDevice;
 class TrabajoImpresion;
 
+/// Draws the pages of a document; false when that failed.
+using DibujoPdf = std::function<bool(QPagedPaintDevice &)>;
+
 /// A PDF drawn in memory by `dibujar`; empty when the drawing failed.
-QByteArray documentoPdf(const QString &titulo,
-                        const std::function<bool(QPagedPaintDevice &)> &dibujar);
+QByteArray documentoPdf(const QString &titulo, const DibujoPdf &dibujar);
+/// The same, written page by page as it is drawn; false when the drawing failed. Whether everything
+/// was written, `destino` knows.
+bool escribirPdf(QIODevice &destino, const QString &titulo, const DibujoPdf &dibujar);
 
 /// Why one of these files must not be written, in the session's language; empty when all may.
 QString motivoRutasRechazadas(const QStringList &rutas);

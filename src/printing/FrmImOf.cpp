@@ -2,86 +2,42 @@
 
 #include "core/Textos.h"
 #include "core/Unico.h"
-#include "core/cFecha.h"
 #include "declarants/cDecResumen.h"
 #include "declarations/cDatos430.h"
 #include "declarations/cDatos480.h"
 #include "printing/GuardarCopias.h"
+#include "printing/OpcionesImpresion.h"
 #include "printing/TrabajoImpresion.h"
 #include "printing/cImOf.h"
 #include "widgets/BarraBotones.h"
-#include "widgets/CajaTexto.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Mensajes.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
-#include <QDate>
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-enum { Oficial, Borrador };
 
 static cImOf &peticion()
 {
     return unico::la<cImOf>();
 }
 
-template <class Control> static Control *crear(const QString &nombre, QWidget *padre)
-{
-    auto *control = new Control(padre);
-    control->setObjectName(nombre);
-    return control;
-}
-
 FrmImOf::FrmImOf(QWidget *padre)
     : PantallaBase(u"FrmImOf"_s, padre)
     , m_lblDeclaracion(nuevaEtiqueta(u"lblDeclaracion"_s, this))
     , m_lblImpresora(nuevaEtiqueta(u"lblImpresora"_s, this))
-    , m_frameTipo(crear<QGroupBox>(u"frameTipoImpreso"_s, this))
-    , m_opt(new QButtonGroup(this))
-    , m_fraDestinatario(crear<QGroupBox>(u"fraDestinatario"_s, this))
-    , m_chkInteresado(crear<QCheckBox>(u"chkCopiaInteresado"_s, m_fraDestinatario))
-    , m_chkAdministracion(crear<QCheckBox>(u"chkCopiaAdministracion"_s, m_fraDestinatario))
-    , m_fraFecha(crear<QGroupBox>(u"fraFechaDePresentacion"_s, this))
-    , m_txtFecha(new CajaFecha(u"txtFechaPresentacion"_s, m_fraFecha))
-    , m_chkUnPdf(crear<QCheckBox>(u"chkUnPdf"_s, this))
+    , m_opciones(new OpcionesImpresion(peticion(), this))
+    , m_chkUnPdf(new QCheckBox(this))
 {
-    crearTipo();
-    crearDestinatario();
+    m_chkUnPdf->setObjectName(u"chkUnPdf"_s);
     disponer();
     Anadir_captions();
     cargarPeticion();
     PresentaDatos();
     conectar();
-}
-
-void FrmImOf::crearTipo()
-{
-    m_opt->setObjectName(u"optTipoImpreso"_s);
-    auto *fila = new QHBoxLayout(m_frameTipo);
-    for (const int tipo : {Oficial, Borrador}) {
-        auto *opcion
-            = crear<QRadioButton>(u"optTipoImpreso"_s + QString::number(tipo), m_frameTipo);
-        m_opt->addButton(opcion, tipo);
-        fila->addWidget(opcion);
-    }
-}
-
-void FrmImOf::crearDestinatario()
-{
-    auto *fila = new QHBoxLayout(m_fraDestinatario);
-    fila->addWidget(m_chkInteresado);
-    fila->addWidget(m_chkAdministracion);
-    auto *fecha = new QHBoxLayout(m_fraFecha);
-    fecha->addWidget(m_txtFecha);
-    fecha->addStretch(1);
 }
 
 void FrmImOf::disponer()
@@ -98,9 +54,7 @@ void FrmImOf::disponer()
     agrandarLetra(m_lblDeclaracion, 1.1);
     m_lblDeclaracion->setWordWrap(true);
     todo->addWidget(m_lblDeclaracion);
-    todo->addWidget(m_frameTipo);
-    todo->addWidget(m_fraDestinatario);
-    todo->addWidget(m_fraFecha);
+    todo->addWidget(m_opciones);
     // the name of a file may be long: it never widens the screen
     m_lblImpresora->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     todo->addWidget(m_lblImpresora);
@@ -109,32 +63,17 @@ void FrmImOf::disponer()
     todo->addStretch(1);
     todo->addWidget(pie);
 
-    QWidget *const orden[] = {m_opt->button(Oficial),
-                              m_opt->button(Borrador),
-                              m_chkInteresado,
-                              m_chkAdministracion,
-                              m_txtFecha,
-                              m_btnOpciones,
-                              m_btnVistaPrevia,
-                              m_btnGuardarPdf,
-                              m_chkUnPdf,
-                              m_btnAceptar,
-                              m_btnCancelar};
-    for (size_t i = 1; i < std::size(orden); ++i)
+    const QList<QWidget *> orden
+        = m_opciones->orden() + QList<QWidget *>{m_btnOpciones, m_btnVistaPrevia, m_btnGuardarPdf,
+                                                 m_chkUnPdf,    m_btnAceptar,     m_btnCancelar};
+    for (qsizetype i = 1; i < orden.size(); ++i)
         setTabOrder(orden[i - 1], orden[i]);
 }
 
 void FrmImOf::Anadir_captions()
 {
     setWindowTitle(msj(Msj::Imprimir));
-    m_frameTipo->setTitle(msj(Msj::TipoImpreso));
-    m_opt->button(Oficial)->setText(msj(Msj::ImpresoOficial));
-    m_opt->button(Borrador)->setText(msj(Msj::ImpresoBorrador));
-    m_fraDestinatario->setTitle(msj(Msj::Destinatario));
-    m_chkInteresado->setText(msj(Msj::CopiaInteresado));
-    m_chkAdministracion->setText(msj(Msj::CopiaAdministracion));
-    m_fraFecha->setTitle(msj(Msj::FechaPresentacion));
-    m_txtFecha->setAccessibleName(msj(Msj::FechaPresentacion));
+    m_opciones->Anadir_captions();
     m_chkUnPdf->setText(msj(Msj::PdfUnoSolo));
     m_btnOpciones->setText(msj(Msj::OpcionesImpresora));
     m_btnVistaPrevia->setText(msj(Msj::BotonVistaPrevia));
@@ -167,42 +106,20 @@ void FrmImOf::cargarPeticion()
         unico::la<cDatos430>().CSDE(peticion().CSDE());
     else
         unico::la<cDatos480>().CSDE(peticion().CSDE());
-    const QDate hoy = QDate::currentDate();
-    m_txtFecha->mostrarFecha(hoy.year() * 10000 + hoy.month() * 100 + hoy.day());
-    peticion().PedirOficial();
     m_chkUnPdf->setChecked(true);
 }
 
 void FrmImOf::PresentaDatos()
 {
-    const QSignalBlocker sinGrupo(m_opt);
-    const QSignalBlocker sinInteresado(m_chkInteresado);
-    const QSignalBlocker sinAdministracion(m_chkAdministracion);
-    const bool oficial = peticion().TIPOIMP() == u"O";
-    const bool interesado = peticion().COPIAINT() == u"X";
-    const bool administracion = peticion().COPIAADM() == u"X";
-    m_opt->button(oficial ? Oficial : Borrador)->setChecked(true);
-    m_chkInteresado->setEnabled(oficial);
-    m_chkAdministracion->setEnabled(oficial);
-    m_chkInteresado->setChecked(interesado);
-    m_chkAdministracion->setChecked(administracion);
+    const bool ambas = peticion().COPIAINT() == u"X" && peticion().COPIAADM() == u"X";
     for (QPushButton *boton : {m_btnAceptar, m_btnVistaPrevia, m_btnGuardarPdf})
         boton->setEnabled(peticion().HayCopias());
-    m_chkUnPdf->setEnabled(interesado && administracion);
+    m_chkUnPdf->setEnabled(ambas);
 }
 
 void FrmImOf::conectar()
 {
-    connect(m_opt, &QButtonGroup::idToggled, this, [this](int tipo, bool elegido) {
-        if (!elegido)
-            return;
-        tipo == Oficial ? peticion().PedirOficial() : peticion().PedirBorrador();
-        PresentaDatos();
-    });
-    connect(m_chkInteresado, &QCheckBox::toggled, this,
-            [this](bool marcada) { alMarcar(marcada, &cImOf::COPIAINT); });
-    connect(m_chkAdministracion, &QCheckBox::toggled, this,
-            [this](bool marcada) { alMarcar(marcada, &cImOf::COPIAADM); });
+    connect(m_opciones, &OpcionesImpresion::cambiada, this, &FrmImOf::PresentaDatos);
     alPulsar(m_btnOpciones, [this] {
         m_salida.opciones(this);
         mostrarQue();
@@ -213,24 +130,6 @@ void FrmImOf::conectar()
     alPulsarSinConfirmar(m_btnCancelar, [this] { cerrarA(alCerrarMarco()); });
 }
 
-void FrmImOf::alMarcar(bool marcada, void (cImOf::*propiedad)(const QString &))
-{
-    (peticion().*propiedad)(marcada ? u"X"_s : QString());
-    PresentaDatos();
-}
-
-bool FrmImOf::ValidarFecha()
-{
-    const auto leida = comprobarFechaPresentacion(m_txtFecha->text(), unico::la<cFecha>());
-    if (leida.valida())
-        peticion().FECHAPRE(leida.fecha);
-    else {
-        mensajes::aviso(this, leida.titulo, leida.mensaje);
-        m_txtFecha->setFocus(Qt::OtherFocusReason);
-    }
-    return leida.valida();
-}
-
 void FrmImOf::imprimir()
 {
     const bool aFichero = !m_salida.ficheros(copiasPedidas(peticion())).isEmpty();
@@ -238,7 +137,7 @@ void FrmImOf::imprimir()
         mensajes::informacion(this, windowTitle(), msj(Msj::SinImpresoras));
         return;
     }
-    if (!ValidarFecha())
+    if (!m_opciones->ValidarFecha())
         return;
     TrabajoImpresion trabajo(peticion());
     if (aFichero) {
@@ -259,7 +158,7 @@ void FrmImOf::imprimir()
 
 void FrmImOf::vistaPrevia()
 {
-    if (!ValidarFecha())
+    if (!m_opciones->ValidarFecha())
         return;
     TrabajoImpresion trabajo(peticion());
     m_salida.vistaPrevia(this, trabajo);
@@ -267,7 +166,7 @@ void FrmImOf::vistaPrevia()
 
 void FrmImOf::guardarPdf()
 {
-    if (!ValidarFecha())
+    if (!m_opciones->ValidarFecha())
         return;
     TrabajoImpresion trabajo(peticion());
     if (guardarCopias(this, trabajo, m_chkUnPdf->isChecked()))

@@ -13,8 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// The file dialogue can only ask about the name that the user chose.
-static bool aceptaSobrescribir(QWidget *pantalla, const QStringList &rutas)
+bool aceptaSobrescribir(QWidget *pantalla, const QStringList &rutas)
 {
     const bool existe
         = std::ranges::any_of(rutas, [](const QString &ruta) { return QFileInfo::exists(ruta); });
@@ -24,10 +23,20 @@ static bool aceptaSobrescribir(QWidget *pantalla, const QStringList &rutas)
 }
 
 /// Where the last PDF of the session went.
-static QString &ultimaCarpeta()
+static QString &ultima()
 {
     static QString carpeta = QDir::homePath();
     return carpeta;
+}
+
+QString ultimaCarpeta()
+{
+    return QDir(ultima()).exists() ? ultima() : QDir::homePath();
+}
+
+void ultimaCarpeta(const QString &carpeta)
+{
+    ultima() = carpeta;
 }
 
 static void abrir(QWidget *pantalla, const QString &ruta)
@@ -60,9 +69,7 @@ static void ofrecer(QWidget *pantalla, const QStringList &rutas)
 bool guardarCopias(QWidget *pantalla, TrabajoImpresion &trabajo, bool unoSolo)
 {
     const QStringList copias = trabajo.copias();
-    const QDir carpeta(ultimaCarpeta());
-    const QString propuesta
-        = (carpeta.exists() ? carpeta : QDir::home()).filePath(trabajo.nombreFichero(copias));
+    const QString propuesta = QDir(ultimaCarpeta()).filePath(trabajo.nombreFichero(copias));
     const QString elegida
         = ficheros::guardar(pantalla, msj(Msj::GuardarPdf), propuesta, msj(Msj::FiltroPdf), false);
     return !elegida.isEmpty()
@@ -82,7 +89,7 @@ bool guardarCopiasEn(QWidget *pantalla, TrabajoImpresion &trabajo, const QString
         mensajes::aviso(pantalla, msj(Msj::GuardarPdf), motivo);
         return false;
     }
-    ultimaCarpeta() = QFileInfo(rutas.first()).absolutePath();
+    ultimaCarpeta(QFileInfo(rutas.first()).absolutePath());
     ofrecer(pantalla, rutas);
     return true;
 }

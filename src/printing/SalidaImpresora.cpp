@@ -39,15 +39,19 @@ bool SalidaImpresora::elegir(const QString &nombre)
 
 QString SalidaImpresora::nombre() const
 {
-    if (!m_impresora->outputFileName().isEmpty())
-        return QDir::toNativeSeparators(m_impresora->outputFileName());
+    if (!fichero().isEmpty())
+        return QDir::toNativeSeparators(fichero());
     return hayImpresoras() ? m_impresora->printerName() : msj(Msj::NingunaImpresora);
+}
+
+QString SalidaImpresora::fichero() const
+{
+    return m_impresora->outputFileName();
 }
 
 QStringList SalidaImpresora::ficheros(const QStringList &copias) const
 {
-    const QString elegido = m_impresora->outputFileName();
-    return elegido.isEmpty() ? QStringList() : rutasPdf(elegido, copias, false);
+    return fichero().isEmpty() ? QStringList() : rutasPdf(fichero(), copias, false);
 }
 
 void SalidaImpresora::preparar(const QString &titulo)

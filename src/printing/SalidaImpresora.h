@@ -29,6 +29,8 @@ public:
     bool elegir(const QString &nombre);
     /// What is printed on, for the user: the printer, the file chosen in its place, or "none".
     QString nombre() const;
+    /// The file that the printer's options name in the place of a printer; empty for paper.
+    QString fichero() const;
     /// The files that are printed to where the printer's options say so, one a copy; none for a
     /// printer of paper.
     QStringList ficheros(const QStringList &copias) const;

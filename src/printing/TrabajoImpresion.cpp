@@ -78,15 +78,21 @@ bool TrabajoImpresion::imprimir(QPagedPaintDevice &dispositivo, const std::funct
 bool TrabajoImpresion::paginas(QPagedPaintDevice &dispositivo, const QStringList &copias)
 {
     QPainter pintor;
-    if (!pintor.begin(&dispositivo))
-        return false;
-    for (bool primera = true; const QString &copia : copias) {
-        if (!primera && !dispositivo.newPage())
+    bool vacio = true;
+    return pintor.begin(&dispositivo) && anadirPaginas(pintor, dispositivo, copias, vacio)
+        && pintor.end();
+}
+
+bool TrabajoImpresion::anadirPaginas(QPainter &pintor, QPagedPaintDevice &dispositivo,
+                                     const QStringList &copias, bool &vacio)
+{
+    for (const QString &copia : copias) {
+        if (!vacio && !dispositivo.newPage())
             return false;
-        primera = false;
+        vacio = false;
         dibujar(pintor, copia);
     }
-    return pintor.end();
+    return true;
 }
 
 QByteArray TrabajoImpresion::pdf(const QStringList &copias)

@@ -35,6 +35,9 @@ public:
     bool imprimir(QPagedPaintDevice &dispositivo, const std::function<void()> &antes = {});
     /// Draws the copies as the pages of one document.
     bool paginas(QPagedPaintDevice &dispositivo, const QStringList &copias);
+    /// The same at the end of a document that `pintor` has begun; `vacio` while its first page is.
+    bool anadirPaginas(QPainter &pintor, QPagedPaintDevice &dispositivo, const QStringList &copias,
+                       bool &vacio);
     /// One PDF with these copies, in memory.
     QByteArray pdf(const QStringList &copias);
 

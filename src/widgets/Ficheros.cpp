@@ -50,6 +50,14 @@ QString guardar(QWidget *padre, const QString &titulo, const QString &propuesto,
     return elegirFichero(dialogo);
 }
 
+QString carpeta(QWidget *padre, const QString &titulo, const QString &propuesta)
+{
+    QFileDialog dialogo(padre, titulo, propuesta);
+    dialogo.setFileMode(QFileDialog::Directory);
+    dialogo.setOption(QFileDialog::ShowDirsOnly);
+    return elegirFichero(dialogo);
+}
+
 void sinRastro()
 {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, u"/dev/null"_s);

@@ -18,6 +18,9 @@ QString abrir(QWidget *padre, const QString &titulo, const QString &carpeta, con
 QString guardar(QWidget *padre, const QString &titulo, const QString &propuesto,
                 const QString &filtro, bool confirmar = true);
 
+/// A folder, `propuesta` being offered; empty when the user gave up.
+QString carpeta(QWidget *padre, const QString &titulo, const QString &propuesta);
+
 /// Called with each dialogue just before it opens; tests drive the real window through it.
 using Observador = std::function<void(QFileDialog &)>;
 void observar(Observador observador);

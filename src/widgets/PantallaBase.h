@@ -23,6 +23,7 @@ enum class Pantalla {
     Importar,
     Pendientes,
     ImportarDeclaraciones,
+    ImprimirVarias,
     Preferencias,
     AcercaDe,
 };

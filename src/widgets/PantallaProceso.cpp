@@ -15,8 +15,6 @@
 
 using namespace Qt::StringLiterals;
 
-static constexpr qint64 PocasLineas = 500;
-
 PantallaProceso::PantallaProceso(const QString &nombre, QWidget *padre)
     : PantallaBase(nombre, padre)
     , m_contenido(new QWidget(this))
@@ -58,7 +56,7 @@ void PantallaProceso::ocupar(bool trabajando)
     Q_EMIT cambiaEdicion();
 }
 
-bool PantallaProceso::trabajar(qint64 total, const std::function<void()> &trabajo)
+bool PantallaProceso::trabajar(qint64 total, const std::function<void()> &trabajo, qint64 pocas)
 {
     if (m_trabajando)
         return false;
@@ -69,7 +67,7 @@ bool PantallaProceso::trabajar(qint64 total, const std::function<void()> &trabaj
     m_prgProgreso->setValue(0);
     m_lblProgreso->clear();
     ocupar(true);
-    m_fraProgreso->setVisible(total > PocasLineas);
+    m_fraProgreso->setVisible(total > pocas);
     m_cmdDetener->setFocus(Qt::OtherFocusReason);
     const bool bien = procedimiento(this, trabajo);
     m_fraProgreso->hide();
@@ -79,12 +77,11 @@ bool PantallaProceso::trabajar(qint64 total, const std::function<void()> &trabaj
     return bien;
 }
 
-bool PantallaProceso::paso(qint64 linea)
+bool PantallaProceso::paso(qint64 linea, Msj texto)
 {
     if (m_total > 0)
         m_prgProgreso->setValue(static_cast<int>(1000 * linea / m_total));
-    m_lblProgreso->setText(
-        msj(Msj::ProgresoLinea, QString::number(linea), QString::number(m_total)));
+    m_lblProgreso->setText(msj(texto, QString::number(linea), QString::number(m_total)));
     QApplication::processEvents();
     return !m_detener;
 }

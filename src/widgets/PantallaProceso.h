@@ -26,10 +26,10 @@ protected:
     /// A file that is dragged onto the screen is handed to `tomar`.
     void recibirFicheros(std::function<void(const QString &)> tomar);
     /// Runs `trabajo`, which calls paso() every few lines of `total`; the bar is shown only when
-    /// there are many. False when an exception ended it, which the user has been told.
-    bool trabajar(qint64 total, const std::function<void()> &trabajo);
-    /// Shows how far it has come; false when it is to stop.
-    bool paso(qint64 linea);
+    /// there are more than `pocas`. False when an exception ended it, which the user has been told.
+    bool trabajar(qint64 total, const std::function<void()> &trabajo, qint64 pocas = 500);
+    /// Shows how far it has come, in the words of `texto`; false when it is to stop.
+    bool paso(qint64 linea, Msj texto = Msj::ProgresoLinea);
     bool detenido() const { return m_detener; } ///< the last work, by the user
 
     void closeEvent(QCloseEvent *evento) override;

@@ -10,6 +10,8 @@
 #include <QShortcut>
 #include <QTableView>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 static constexpr int AnchoMinimo = 160;
@@ -119,6 +121,23 @@ bool cUtilidadesGrid::eventFilter(QObject *objeto, QEvent *evento)
     if (evento->type() == QEvent::KeyPress)
         return tecla(static_cast<QKeyEvent *>(evento));
     return QObject::eventFilter(objeto, evento);
+}
+
+QList<int> filasElegidas(const QTableView &grid)
+{
+    QList<int> filas;
+    for (const auto &tramo : grid.selectionModel()->selection())
+        for (int fila = tramo.top(); fila <= tramo.bottom(); ++fila)
+            filas.append(fila);
+    std::ranges::sort(filas);
+    filas.erase(std::unique(filas.begin(), filas.end()), filas.end());
+    return filas;
+}
+
+int filaUnica(const QTableView &grid)
+{
+    const auto filas = filasElegidas(grid);
+    return filas.size() == 1 ? filas.first() : -1;
 }
 
 /// The menu names what the buttons are called and allow at this moment.

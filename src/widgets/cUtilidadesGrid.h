@@ -59,6 +59,11 @@ private:
 class QPushButton;
 class QTableView;
 
+/// The rows selected, from the top down.
+QList<int> filasElegidas(const QTableView &grid);
+/// The row selected when it is the only one; else -1.
+int filaUnica(const QTableView &grid);
+
 /// What a button does to the row selected, from the row itself.
 struct AccionFila
 {
