@@ -13,7 +13,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-// Import and export of declarants by the program's command line against the loop in bucle.c:
+// Import and export of declarants, and returns of a sheet, by the program's command line against
+// the loop in bucle.c:
 //     bench_intercambio PROGRAM COUNTER [LINES]
 // PROGRAM is the built ostrel, COUNTER the library that counts synchronisations.
 
@@ -63,7 +64,8 @@ public:
     Banco(const Banco &) = delete;
     Banco &operator=(const Banco &) = delete;
 
-    Gasto ostrel(const std::string &orden, const std::string &argumento)
+    Gasto ostrel(const std::string &orden, const std::string &argumento,
+                 const std::string &valor = {})
     {
         const std::string cuenta = ruta("sincronizaciones");
         Gasto gasto = medir([&] {
@@ -71,7 +73,8 @@ public:
             setenv("OSTREL_SINCRONIZACIONES", cuenta.c_str(), 1);
             if (std::freopen("/dev/null", "w", stdout))
                 execl(m_programa.c_str(), m_programa.c_str(), "--carpeta", m_carpeta.c_str(),
-                      orden.c_str(), argumento.c_str(), nullptr);
+                      orden.c_str(), argumento.c_str(), valor.empty() ? nullptr : valor.c_str(),
+                      nullptr);
             return 1;
         });
         std::ifstream(cuenta) >> gasto.sincronizaciones;
@@ -132,6 +135,25 @@ void fila(const char *que, const Gasto &nuestro, const Gasto &suyo)
                 nuestro.sincronizaciones);
 }
 
+/// Returns of a sheet, one of each declarant that is there.
+void hoja(Banco &banco, long filas)
+{
+    const std::string contribuyentes = banco.ruta("Contri.txt");
+    if (bucle_generar(contribuyentes.c_str(), filas) != 0)
+        throw std::runtime_error("cannot write the file");
+    banco.baseVacia();
+    banco.ostrel("importar", contribuyentes);
+    const std::string fichero = banco.ruta("hoja.csv");
+    const std::string base = banco.ruta("Tablas/OstrMod.mdb");
+    const std::string otra = banco.ruta("otra.mdb");
+    if (bucle_hoja(contribuyentes.c_str(), fichero.c_str(), filas) != 0)
+        throw std::runtime_error("cannot write the sheet");
+    fs::copy_file(base, otra);
+    const Gasto suyo = medir([&] { return bucle_declarar(otra.c_str(), fichero.c_str()); });
+    std::printf("%ld returns\n", filas);
+    fila("sheet", banco.ostrel("declarar", "--desde", fichero), suyo);
+}
+
 void tabla(long lineas, const Vuelta &v)
 {
     std::printf("%ld lines\n%-8s  %10s  %10s  %5s  %10s  %6s\n", lineas, "", "ostrel", "C loop",
@@ -151,6 +173,7 @@ int main(int argc, char **argv)
         const long lineas = argc > 3 ? std::atol(argv[3]) : 100'000;
         const Vuelta una = vuelta(banco, lineas);
         tabla(lineas, una);
+        hoja(banco, lineas / 10);
         const Vuelta diez = vuelta(banco, 10 * lineas);
         tabla(10 * lineas, diez);
         std::printf("ten times the lines take %.1f times the time to import, %.1f to export\n",

@@ -23,8 +23,10 @@ using Fila = FilaDeclaraciones;
 /// A longer line is none of ours.
 static constexpr qsizetype AnchoMaximo = 16 * 1024;
 static constexpr qsizetype MaximoFilas = 200'000;
-/// Rows that are read, and returns that are stored, between two looks at the user.
+/// Rows that are read between two looks at the user.
 static constexpr qsizetype Tanda = 500;
+/// Returns of one transaction.
+static constexpr qsizetype TandaGuardar = 5000;
 
 QString cImportarDeclaraciones::motivoNoLegible(const QString &ruta)
 {
@@ -174,7 +176,7 @@ void cImportarDeclaraciones::leerClave(Fila &fila)
 void cImportarDeclaraciones::rechazarRepetidas(Fila &fila)
 {
     const auto &c = fila.cabecera;
-    const QString clave = u"%1/%2/%3"_s.arg(fila.dni).arg(c.ejercicio).arg(c.periodo);
+    const QString clave = fila.dni + QChar(c.ejercicio) + QChar(short(c.periodo));
     const auto vista = m_vistas.constFind(clave);
     if (vista == m_vistas.constEnd()) {
         m_vistas.insert(clave, m_filas.size() - 1);
@@ -194,13 +196,15 @@ void cImportarDeclaraciones::leerBuscadas(qsizetype desde)
             buscadas.append(QVariant(Registro{fila.dni, fila.cabecera.ejercicio,
                                               fila.cabecera.periodo, fila.cabecera.modelo}));
     Filas halladas;
-    servicioDeclaracion()->Buscar(buscadas, halladas);
+    const auto servicio = servicioDeclaracion();
+    servicio->Buscar(buscadas, halladas);
     for (qsizetype i = desde, hallada = 0; i < m_filas.size(); ++i)
         if (m_filas[i].estado != Fila::Rechazada)
-            calcular(m_filas[i], halladas[hallada++].toList());
+            calcular(m_filas[i], halladas[hallada++].toList(), *servicio);
 }
 
-void cImportarDeclaraciones::calcular(Fila &fila, const Registro &hallada)
+void cImportarDeclaraciones::calcular(Fila &fila, const Registro &hallada,
+                                      SvrOstr::cDeclaracion &servicio)
 {
     const qint32 csco = hallada[FilaBuscada::CSCO].toInt();
     if (csco == 0)
@@ -209,7 +213,7 @@ void cImportarDeclaraciones::calcular(Fila &fila, const Registro &hallada)
     cabecera.TomarDeclarante(csco, fila.dni, {});
     cabecera.TomarDeclaracion({fila.cabecera, hallada[FilaBuscada::CSDE].toInt(), 0});
     const Registro limites = cabecera.Cabecera().first(RegCabecera::TotalPeriodo);
-    if (!servicio::crear<SvrOstr::cDeclaracion>()->EjerPerValidos(limites))
+    if (!servicio.EjerPerValidos(limites))
         return rechazar(fila, ColumnaCsv::Ejercicio, textoCabecera(qint16(ReglaCabecera::Fuera)));
     if (cabecera.CSDE() != 0) {
         fila.estado = Fila::Sustituye;
@@ -321,7 +325,7 @@ bool cImportarDeclaraciones::guardar(bool todoONada, const Seguir &seguir)
     for (qsizetype i = 0; i < m_filas.size(); ++i)
         if (seGuarda(m_filas[i]))
             cuales.append(i);
-    const qsizetype tanda = todoONada ? cuales.size() : Tanda;
+    const qsizetype tanda = todoONada ? cuales.size() : TandaGuardar;
     for (qsizetype i = 0; i < cuales.size(); i += tanda) {
         if (!seguir(i)
             || !guardarTanda(cuales.sliced(i, std::min(tanda, cuales.size() - i)), todoONada))

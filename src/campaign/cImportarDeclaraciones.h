@@ -1,7 +1,7 @@
 #pragma once
 
 #include "campaign/ColumnasCsv.h"
-#include "dataservice/Registros.h"
+#include "dataservice/SvrOstr.h"
 #include "declarants/cDecResumen.h"
 
 #include <QHash>
@@ -69,7 +69,8 @@ private:
     void leerFila(QByteArrayView linea, qint64 numero);
     void leerClave(FilaDeclaraciones &fila);
     void leerBuscadas(qsizetype desde);
-    void calcular(FilaDeclaraciones &fila, const Registro &hallada);
+    void calcular(FilaDeclaraciones &fila, const Registro &hallada,
+                  SvrOstr::cDeclaracion &servicio);
     void calcular430(FilaDeclaraciones &fila);
     void calcular480(FilaDeclaraciones &fila);
     QString campo(const FilaDeclaraciones &fila, ColumnaCsv::Que que) const;

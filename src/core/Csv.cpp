@@ -13,6 +13,8 @@ namespace csv {
 
 static QString texto(QByteArrayView bytes)
 {
+    if (std::ranges::all_of(bytes, [](char c) { return static_cast<uchar>(c) < 0x80; }))
+        return QString::fromLatin1(bytes).trimmed();
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString leido = utf8(bytes);
     if (utf8.hasError()) {
@@ -45,18 +47,18 @@ std::optional<QStringList> partir(QByteArrayView linea, char separador, qsizetyp
     for (qsizetype lugar = 0; lugar <= linea.size(); ++lugar) {
         if (campos.size() == maximo)
             return {};
-        QByteArray campo;
         if (lugar < linea.size() && linea[lugar] == '"') {
+            QByteArray campo;
             lugar = tomarEntrecomillado(linea, lugar, campo);
             if (lugar < 0 || (lugar < linea.size() && linea[lugar] != separador))
                 return {};
+            campos += texto(campo);
         } else {
             const auto fin = linea.indexOf(separador, lugar);
             const auto hasta = fin < 0 ? linea.size() : fin;
-            campo = linea.sliced(lugar, hasta - lugar).toByteArray();
+            campos += texto(linea.sliced(lugar, hasta - lugar));
             lugar = hasta;
         }
-        campos += texto(campo);
     }
     return campos;
 }

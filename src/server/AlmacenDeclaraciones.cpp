@@ -224,17 +224,15 @@ qint32 guardarDelConjunto(const PConexion &conexion, const Registro &datos)
 {
     const Modelo *modelo = modeloDe(datos.value(MODELO).toString());
     const auto leida = modelo ? Declaracion::leer(*modelo, datos) : std::nullopt;
-    if (!leida
-        || !Sentencia(conexion, "SELECT 1 FROM DECLARANTES WHERE CSCO = ?")
-                .con(leida->cabecera.csco)
-                .fila())
+    if (!leida)
         return 0;
     try {
         return guardarEn(conexion, *leida);
     } catch (const ErrorDatos &error) {
-        if (error.fallo() != Fallo::SinDeclaracion)
+        // its return is not there, or its declarant, as the foreign key tells; nothing was written
+        if (error.fallo() != Fallo::SinDeclaracion && error.fallo() != Fallo::TieneDeclaraciones)
             throw;
-        return 0; // told before anything of it was written
+        return 0;
     }
 }
 
