@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 using Fila = FilaDeclaraciones;
 
 /// A longer line is none of ours.
-static constexpr qsizetype AnchoMaximo = 16 * 1024;
+static constexpr qsizetype AnchoMaximo = 16384;
 static constexpr qsizetype MaximoFilas = 200'000;
 /// Rows that are read between two looks at the user.
 static constexpr qsizetype Tanda = 500;
@@ -34,7 +34,7 @@ QString cImportarDeclaraciones::motivoNoLegible(const QString &ruta)
     const QString nombre = QDir::toNativeSeparators(ruta);
     if (!fichero.exists())
         return msj(Msj::NoExisteFicheroImportar);
-    if (const QString motivo = motivoRutaRechazada(ruta); !motivo.isEmpty())
+    if (QString motivo = motivoRutaRechazada(ruta); !motivo.isEmpty())
         return motivo;
     if (!QFile(ruta).open(QIODevice::ReadOnly))
         return msj(Msj::FicheroIlegible, nombre);

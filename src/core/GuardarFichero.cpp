@@ -66,7 +66,7 @@ QString guardarFichero(const QString &ruta, const QByteArray &contenido, bool *l
 
 QString guardarFichero(const QString &ruta, const Escritura &escribir, bool *lleno)
 {
-    if (const QString rechazo = motivoRutaRechazada(ruta); !rechazo.isEmpty())
+    if (QString rechazo = motivoRutaRechazada(ruta); !rechazo.isEmpty())
         return rechazo;
     const QString carpeta = QFileInfo(ruta).absolutePath();
     if (!QFileInfo::exists(carpeta))

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-static constexpr qsizetype Bloque = 64 * 1024;
+static constexpr qsizetype Bloque = 65536;
 
 LectorLineas::LectorLineas(QIODevice &fichero, qsizetype ancho)
     : m_fichero(fichero)
