@@ -74,6 +74,7 @@ private:
             QTimer::singleShot(0, &dialogo, &QDialog::reject);
         });
         ficheros::abrir(nullptr, u"abrir"_s, entorno.ruta(u"Tablas"_s), u"*"_s);
+        ficheros::carpeta(nullptr, u"carpeta"_s, entorno.ruta(u"Tablas"_s));
         // a file that is there, a folder, a file that is not there: each with its own box
         const auto contestar = [](QFileDialog &dialogo, const QString &nombre) {
             QTimer::singleShot(0, &dialogo, [&dialogo, nombre] {
