@@ -175,6 +175,10 @@ private Q_SLOTS:
                  u"2 lost 8,00 6.666,66 : No se ha guardado la declaración.\n"
                  "3 stored 80,00 0,00 : "_s);
         QCOMPARE(unidos(declaracionesDe(m_uno)[0].toList().mid(1)), u"2026|1|2|430|1|8000"_s);
+        auto otra = cImportarDeclaraciones();
+        leer("DNI;EJERCICIO;PERIODO;BASE\n12345678Z;2026;9;1", &otra);
+        QVERIFY(otra.guardar(true, [](qint64) { return true; }));
+        QCOMPARE(declaracionesDe(m_uno).size(), 2);
         QCOMPARE(unico::la<cDecResumen>().CSCO(), 7);
         QCOMPARE(unico::la<cDecResumen>().MODELO(), u"480"_s);
         QCOMPARE(leida.csvRechazadas(),

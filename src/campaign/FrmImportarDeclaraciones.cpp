@@ -129,10 +129,6 @@ void FrmImportarDeclaraciones::Anadir_captions()
     m_lblArrastre->setText(msj(Msj::ArrastreFichero));
     m_lblGuia->setText(msj(Msj::GuiaHoja));
     m_flxHoja->setAccessibleName(msj(Msj::AccesibleFilasHoja));
-    const auto rotular = [](QPushButton *boton, Msj texto, Msj pista) {
-        boton->setText(msj(texto));
-        boton->setToolTip(msj(pista));
-    };
     rotular(m_cmdGuardar, Msj::BotonGuardarMarcadas, Msj::PistaGuardarMarcadas);
     rotular(m_cmdRechazadas, Msj::BotonGuardarRechazadas, Msj::PistaGuardarRechazadas);
     rotular(m_cmdCancelar, Msj::BotonCerrar, Msj::PistaVolverMenu);

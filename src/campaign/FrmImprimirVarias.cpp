@@ -166,10 +166,6 @@ void FrmImprimirVarias::Anadir_captions()
         = {Msj::DestinoFicheros, Msj::DestinoUnFichero, Msj::DestinoImpresora};
     for (int i = 0; i < Destinos; ++i)
         m_optDestino->button(i)->setText(msj(destinos[i]));
-    const auto rotular = [](QPushButton *boton, Msj texto, Msj pista) {
-        boton->setText(msj(texto));
-        boton->setToolTip(msj(pista));
-    };
     rotular(m_cmdCarpeta, Msj::BotonElegirCarpeta, Msj::PistaElegirCarpeta);
     m_btnOpciones->setText(msj(Msj::OpcionesImpresora));
     rotular(m_cmdImprimir, Msj::BotonImprimirTodas, Msj::PistaImprimirTodas);

@@ -42,13 +42,6 @@ static cPendientes &estado()
     return unico::la<cPendientes>();
 }
 
-static QString textoEstado(const Fila &fila)
-{
-    static constexpr Msj textos[]
-        = {Msj::EstadoGuardada, Msj::EstadoPendiente, Msj::EstadoFaltaAnterior};
-    return msj(textos[static_cast<int>(fila.estado())]);
-}
-
 FrmPendientes::FrmPendientes(QWidget *padre)
     : PantallaBase(u"FrmPendientes"_s, padre)
     , m_txtejer(new CajaTexto(u"txtejer"_s, 4, CajaTexto::Cifras, this))
@@ -188,10 +181,6 @@ void FrmPendientes::Anadir_captions()
     m_cmbperiodo->setAccessibleName(msj(Msj::Periodo));
     m_cmbmostrar->setAccessibleName(msj(Msj::EtiquetaMostrar));
     m_flxPendientes->setAccessibleName(msj(Msj::AccesibleListaPendientes));
-    const auto rotular = [](QPushButton *boton, Msj texto, Msj pista) {
-        boton->setText(msj(texto));
-        boton->setToolTip(msj(pista));
-    };
     rotular(m_cmdAceptar, Msj::BotonDatos, Msj::PistaAbrirResumen);
     rotular(m_cmdPlantilla, Msj::BotonPlantilla, Msj::PistaPlantilla);
     rotular(m_cmdImportar, Msj::BotonImportarHoja, Msj::PistaImportarHoja);
@@ -200,7 +189,7 @@ void FrmPendientes::Anadir_captions()
     m_modelo->columnas({
         {msj(Msj::ColumnaDni), [](const Fila &f) { return f.dni; }},
         {msj(Msj::ColumnaRazonSocial), [](const Fila &f) { return f.nombre; }},
-        {msj(Msj::ColumnaEstado), textoEstado},
+        {msj(Msj::ColumnaEstado), [](const Fila &f) { return textoEstado(f.estado()); }},
         {msj(Msj::ColumnaImporte),
          [](const Fila &f) { return f.csde == 0 ? QString() : textoImporte(f.importe); },
          Qt::AlignRight},

@@ -14,6 +14,13 @@
 #include <bit>
 #include <tuple>
 
+QString textoEstado(EstadoPendiente estado)
+{
+    static constexpr Msj textos[]
+        = {Msj::EstadoGuardada, Msj::EstadoPendiente, Msj::EstadoFaltaAnterior};
+    return msj(textos[static_cast<int>(estado)]);
+}
+
 CabeceraListada cPendientes::UltimaTerminada(const QDate &hoy)
 {
     const auto &entrada = unico::la<CEntrada>();

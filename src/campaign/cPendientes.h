@@ -13,6 +13,9 @@
 /// How a declarant stands with the return that everybody has to file.
 enum class EstadoPendiente { Guardada, Pendiente, FaltaAnterior };
 
+/// The state for the user, in the session's language.
+QString textoEstado(EstadoPendiente estado);
+
 struct DeclarantePendiente
 {
     qint32 csco = 0;

@@ -25,13 +25,6 @@ static QJsonValue nombreEstado(const DeclarantePendiente &fila)
     return nombres[static_cast<int>(fila.estado())].toString();
 }
 
-static QString textoEstado(const DeclarantePendiente &fila)
-{
-    static constexpr Msj textos[]
-        = {Msj::EstadoGuardada, Msj::EstadoPendiente, Msj::EstadoFaltaAnterior};
-    return msj(textos[static_cast<int>(fila.estado())]);
-}
-
 static Resultado pendientes(const Argumentos &argumentos)
 {
     using Fila = DeclarantePendiente;
@@ -56,7 +49,8 @@ static Resultado pendientes(const Argumentos &argumentos)
         {u"NOMBRE", [](const Fila &f) { return QJsonValue(f.nombre); },
          msj(Msj::ColumnaRazonSocial)},
         {u"CSDE", [](const Fila &f) { return QJsonValue(f.csde); }},
-        {u"ESTADO", nombreEstado, msj(Msj::ColumnaEstado), false, textoEstado},
+        {u"ESTADO", nombreEstado, msj(Msj::ColumnaEstado), false,
+         [](const Fila &f) { return textoEstado(f.estado()); }},
         {u"IMPORTE", euros, msj(Msj::ColumnaImporte), true, importe},
         {u"FALTAN", faltan, msj(Msj::ColumnaFaltan)},
     };

@@ -5,6 +5,7 @@
 #include "core/Unico.h"
 #include "declarants/NuevaDeclaracion.h"
 #include "declarants/cDecResumen.h"
+#include "widgets/BarraBotones.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Iconos.h"
 #include "widgets/ModeloFilas.h"
@@ -165,10 +166,6 @@ void FrmDecResumen::Anadir_captions()
 {
     setWindowTitle(msj(Msj::TituloResumen));
     m_nueva->Anadir_captions();
-    const auto rotular = [](QPushButton *boton, Msj texto, Msj pista) {
-        boton->setText(msj(texto));
-        boton->setToolTip(msj(pista));
-    };
     rotular(m_imgNueva, Msj::BotonNuevaDeclaracion, Msj::PistaNuevaDeclaracion);
     rotular(m_cmdAbandonar, Msj::BotonCancelar, Msj::PistaAbandonarNueva);
     rotular(m_cmdDatos, Msj::BotonDatos, Msj::PistaDatos);

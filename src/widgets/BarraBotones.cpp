@@ -81,6 +81,12 @@ QPushButton *BarraBotones::anadir(const QString &nombre, const QString &imagen, 
     return boton;
 }
 
+void rotular(QPushButton *boton, Msj texto, Msj pista)
+{
+    boton->setText(msj(texto));
+    boton->setToolTip(msj(pista));
+}
+
 void captionsAceptarCancelar(QPushButton *aceptar, QPushButton *cancelar)
 {
     const QString centrado = u"   "_s;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Textos.h"
 #include "widgets/Iconos.h"
 
 #include <QToolButton>
@@ -40,6 +41,9 @@ public:
 private:
     QHBoxLayout *m_fila;
 };
+
+/// Caption and tip of a button.
+void rotular(QPushButton *boton, Msj texto, Msj pista);
 
 /// Captions and tips of the two buttons that every entry screen has.
 void captionsAceptarCancelar(QPushButton *aceptar, QPushButton *cancelar);
