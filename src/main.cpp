@@ -4,12 +4,16 @@
 #include "core/Rutas.h"
 #include "server/Servidor.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 
 #include <csignal>
 #include <cstdio>
 #include <memory>
 #include <optional>
+
+using namespace Qt::StringLiterals;
 
 /// What Qt has to say of a machine without a session is nothing to whoever gave a command: standard
 /// error is for the command's own reasons.
@@ -32,13 +36,28 @@ static std::unique_ptr<QCoreApplication> nuevaAplicacion(int &argc, char **argv)
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 
+/// An installed program has its entry in the menus beside it; one that was unpacked or built keeps
+/// the data in its own folder.
+static bool esInstalado()
+{
+    const QDir programas(QCoreApplication::applicationDirPath());
+    return QFileInfo::exists(programas.filePath(u"../share/applications/ostrel.desktop"_s));
+}
+
+static Rutas rutasDe(const QStringList &argumentos)
+{
+    if (const auto carpeta = carpetaPedida(argumentos))
+        return Rutas::desde(*carpeta);
+    return esInstalado() ? Rutas::delUsuario()
+                         : Rutas::desde(QCoreApplication::applicationDirPath());
+}
+
 /// Settles the session's paths; a command is carried out here, without a display.
 static std::optional<int> sinVentana(int &argc, char **argv)
 {
     const auto aplicacion = nuevaAplicacion(argc, argv);
     const QStringList argumentos = QCoreApplication::arguments().mid(1);
-    fijarRutas(
-        Rutas::desde(carpetaPedida(argumentos).value_or(QCoreApplication::applicationDirPath())));
+    fijarRutas(rutasDe(argumentos));
     if (!hayOrden(argumentos))
         return {};
     registrarServidor();

@@ -381,7 +381,7 @@ private Q_SLOTS:
         for (const QString &orden :
              u"-h|declarante alta -h|declarar -h|declarar 430 --help|declarar 480 -h|pendientes -h|"
              "listar -h|listar declarantes -h|listar declaraciones -h|imprimir -h|importar -h|"
-             "exportar -h|copia -h|restaurar -h|idioma -h"_s.split(u'|'))
+             "exportar -h|copia -h|restaurar -h|idioma -h|completado -h"_s.split(u'|'))
             paginas += ostrel(orden.split(u' ')).texto + '\n';
         const QString ruta = QStringLiteral(OSTREL_REFERENCIAS "/ordenes.txt");
         if (qEnvironmentVariableIsSet("OSTREL_NUEVAS_REFERENCIAS"))

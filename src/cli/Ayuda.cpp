@@ -87,8 +87,11 @@ static QString ayudaGeneral(const QStringList &palabras)
 QString textoAyuda(const QStringList &palabras)
 {
     const Orden *orden = buscarOrden(palabras);
-    const bool hayMas = orden && std::ranges::any_of(ordenes(), [orden](const Orden *otra) {
-                            return otra->palabras.startsWith(orden->palabras.toString() + u' ');
-                        });
-    return orden && !hayMas ? ayudaDe(*orden) : ayudaGeneral(palabras);
+    if (!orden)
+        return ayudaGeneral(palabras);
+    QString texto = ayudaDe(*orden);
+    for (const Orden *otra : ordenes())
+        if (otra->palabras.startsWith(orden->palabras.toString() + u' '))
+            texto += u"\n\n"_s + usoDe(*otra) + u"\n      "_s + msj(otra->ayuda);
+    return texto;
 }

@@ -48,10 +48,14 @@ static Resultado informar(const Linea &linea)
 
 static Resultado enSesion(const Orden &orden, const Argumentos &argumentos)
 {
-    if (!QFileInfo(rutas().programa).isDir())
+    if (orden.necesita == Orden::Nada) {
+        leerIdiomaGuardado();
+        return orden.ejecutar(argumentos);
+    }
+    if (!rutas().deUsuario && !QFileInfo(rutas().programa).isDir())
         return rechazado(msj(Msj::CliCarpetaNoExiste, rutas().programa));
     const InicioSesion inicio = iniciarSesion();
-    if (inicio.terminar || !(inicio.fallos.isEmpty() || orden.aunqueFalle))
+    if (inicio.terminar || !(inicio.fallos.isEmpty() || orden.necesita == Orden::DatosAunqueFallen))
         return rechazado(inicio.textos().join(u'\n'));
     try {
         return orden.ejecutar(argumentos);

@@ -51,8 +51,8 @@ struct Orden
     QStringView argumento; ///< positional argument as the help shows it; in brackets when optional
     std::span<const Opcion> opciones;
     Msj alFallar; ///< what could not be done when an exception ends it; %1 the reason
-    Resultado (*ejecutar)(const Argumentos &); ///< runs in a session that has begun
-    bool aunqueFalle = false; ///< also in one whose data cannot be used
+    Resultado (*ejecutar)(const Argumentos &); ///< runs in the session
+    enum { Datos, DatosAunqueFallen, Nada } necesita = Datos; ///< Nada: no session is begun
 };
 
 inline Resultado hecho(const QString &texto)

@@ -44,5 +44,6 @@ extern constinit const Orden OrdenCopia = {
 };
 
 extern constinit const Orden OrdenRestaurar = {
-    u"restaurar", Msj::CliAyudaRestaurar, u"[FICHERO]", {}, Msj::NoSePudoHacer, restaurar, true,
+    u"restaurar", Msj::CliAyudaRestaurar,   u"[FICHERO]", {}, Msj::NoSePudoHacer,
+    restaurar,    Orden::DatosAunqueFallen,
 };

@@ -20,6 +20,7 @@ extern const Orden OrdenImportar;
 extern const Orden OrdenExportar;
 extern const Orden OrdenCopia;
 extern const Orden OrdenRestaurar;
+extern const Orden OrdenCompletado;
 
 static Resultado idioma(const Argumentos &argumentos)
 {
@@ -46,6 +47,7 @@ static constexpr const Orden *Tabla[] = {
     &OrdenPendientes,     &OrdenListarDeclarantes, &OrdenListarDeclaraciones,
     &OrdenImprimir,       &OrdenImportar,          &OrdenExportar,
     &OrdenCopia,          &OrdenRestaurar,         &OrdenIdioma,
+    &OrdenCompletado,
 };
 
 static constexpr Opcion Comunes[] = {

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <filesystem>
@@ -16,17 +17,33 @@ static Rutas &sesion()
     return actuales;
 }
 
-Rutas Rutas::desde(const QString &carpetaPrograma)
+static Rutas conTablasEn(const QString &base, const QString &programa)
 {
     Rutas r;
-    r.programa = QDir::cleanPath(QDir(carpetaPrograma).absolutePath());
-    const auto cliente = r.programa.indexOf(u"cliente", 0, Qt::CaseInsensitive);
-    const QString base
-        = cliente < 0 ? r.programa : r.programa.left(qMax<qsizetype>(cliente - 1, 0));
+    r.programa = programa;
     r.tablas = base + (base.endsWith(u'/') ? u"Tablas/"_s : u"/Tablas/"_s);
     r.lectura = r.tablas + u"OstrLec.mdb"_s;
     r.datos = r.tablas + u"OstrMod.mdb"_s;
     r.copias = r.programa + (r.programa.endsWith(u'/') ? u"backups/"_s : u"/backups/"_s);
+    return r;
+}
+
+Rutas Rutas::desde(const QString &carpetaPrograma)
+{
+    const QString programa = QDir::cleanPath(QDir(carpetaPrograma).absolutePath());
+    const auto cliente = programa.indexOf(u"cliente", 0, Qt::CaseInsensitive);
+    return conTablasEn(cliente < 0 ? programa : programa.left(qMax<qsizetype>(cliente - 1, 0)),
+                       programa);
+}
+
+Rutas Rutas::delUsuario()
+{
+    QString carpeta = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    if (QDir::isRelativePath(carpeta)) // to be taken for one that is not set
+        carpeta = QDir::homePath() + u"/.local/share"_s;
+    carpeta = QDir::cleanPath(carpeta + u"/ostrel"_s);
+    Rutas r = conTablasEn(carpeta, carpeta);
+    r.deUsuario = true;
     return r;
 }
 

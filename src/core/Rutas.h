@@ -12,10 +12,16 @@ struct Rutas
     QString datos; ///< model database
     QString copias; ///< folder of the backups, with final separator
 
+    bool deUsuario = false; ///< the folder of one user of an installed program: made when missing
+
     /// The tables folder is "Tablas" under the program folder; but a program folder whose path
     /// contains "cliente" (any letter case, also inside a longer name) has it beside: the path
     /// before that word less the separator in front of it, then "Tablas".
     static Rutas desde(const QString &carpetaPrograma);
+
+    /// Of a program that is installed for every user of the machine: all in "ostrel" under the
+    /// user's data folder ($XDG_DATA_HOME, else ~/.local/share), whatever its path contains.
+    static Rutas delUsuario();
 };
 
 /// The session's paths.

@@ -5,6 +5,10 @@
 #include "core/Textos.h"
 #include "core/Unico.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
 static bool pendiente = false; // the settings could not be read yet
 
 bool InicioSesion::intentar(const std::function<void()> &paso)
@@ -44,9 +48,20 @@ bool InicioSesion::primeraVez() const
     return ajustesLeidos && unico::la<CEntrada>().IDI().isEmpty();
 }
 
+/// What it holds is nobody else's business on a machine of several users. Where it cannot be made,
+/// the next step says so.
+static void crearCarpetaDelUsuario()
+{
+    const QFileInfo carpeta(rutas().programa);
+    if (QDir().mkpath(carpeta.path()))
+        QDir().mkdir(carpeta.filePath(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
 InicioSesion iniciarSesion()
 {
     InicioSesion inicio;
+    if (rutas().deUsuario)
+        crearCarpetaDelUsuario();
     inicio.intentar([&] { inicio.terminar = servicioTraspaso()->Traspaso(); });
     if (!inicio.terminar)
         leerSesion(inicio);
