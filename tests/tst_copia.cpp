@@ -157,7 +157,10 @@ private Q_SLOTS:
         mensajes.responder(QMessageBox::Yes);
         mensajes.responder(QMessageBox::Ok);
         menu("mnuRestore");
-        mensajes.tomar();
+        caja = mensajes.tomar().value(1);
+        QCOMPARE(caja.titulo + u'|' + caja.texto.section(u'\n', 0, 0),
+                 u"Segurtasun kopia leheneratu|«%1» fitxategiko datuak leheneratu dira."_s.arg(
+                     QDir::toNativeSeparators(copias(u"OstrMod_bak.mdb"_s))));
         QCOMPARE(tabla->model()->rowCount(), 1);
         QTRY_VERIFY(!m_ventana->findChild<PantallaBase *>(u"FrmDecResumen"_s));
         QCOMPARE(unico::la<CEntrada>().NUMDECLA(), 1);
