@@ -148,6 +148,14 @@ private Q_SLOTS:
         auto *tabla = lista("flxPendientes", "FrmPendientes");
         tabla->setFocus();
         QTest::keyClick(tabla, Qt::Key_Down);
+        {
+            const ModeloPerdido perdido; // what cannot be opened leaves no request behind
+            m_mensajes->responder(QMessageBox::Ok);
+            QTest::keyClick(tabla, Qt::Key_Return);
+            QCoreApplication::processEvents();
+            QCOMPARE(m_mensajes->tomar().size(), 1);
+            QVERIFY(!unico::la<cDecResumen>().TomarPedida());
+        }
         QTest::keyClick(tabla, Qt::Key_Return);
         QTRY_VERIFY(pantalla("FrmDecResumen"));
         QVERIFY(!en("FrmDecResumen").control("fraNueva")->isVisible());

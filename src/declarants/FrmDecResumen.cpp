@@ -48,6 +48,7 @@ FrmDecResumen::FrmDecResumen(QWidget *padre)
     , m_lblNumDecla(nuevaEtiqueta(u"lblNumDecla"_s, this))
 {
     auto &cabecera = unico::la<cDecResumen>();
+    const auto pedida = cabecera.TomarPedida(); // not to be left for another declarant's summary
     // whoever opens this screen goes on with its own header when it cannot be shown
     LeerDeclarante();
     cabecera.CargarDeclaraciones();
@@ -61,7 +62,8 @@ FrmDecResumen::FrmDecResumen(QWidget *padre)
     conectar();
     mostrarNueva(false);
     PresentaDatos();
-    atenderPeticion();
+    if (pedida)
+        atender(*pedida);
 }
 
 QPushButton *FrmDecResumen::crearBoton(const QString &nombre)

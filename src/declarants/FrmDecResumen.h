@@ -2,6 +2,7 @@
 
 #include "widgets/PantallaBase.h"
 
+struct CabeceraListada;
 struct DeclaracionListada;
 template <class Fila> class ModeloFilas;
 class NuevaDeclaracion;
@@ -52,7 +53,7 @@ private:
 
     void nueva();
     void prepararNueva();
-    void atenderPeticion();
+    void atender(const CabeceraListada &pedida);
     void crear();
     void mostrarNueva(bool visible);
     void abandonarNueva();

@@ -118,17 +118,14 @@ void FrmDecResumen::prepararNueva()
 }
 
 /// The return that the screen was opened for: selected when it is stored, else proposed.
-void FrmDecResumen::atenderPeticion()
+void FrmDecResumen::atender(const CabeceraListada &pedida)
 {
-    const auto pedida = cabecera().TomarPedida();
-    if (!pedida)
-        return;
     for (const Fila &fila : m_modelo->todas())
-        if (fila == *pedida) {
+        if (fila == pedida) {
             seleccionar(fila.csde);
             return;
         }
-    cabecera().Proponer(*pedida);
+    cabecera().Proponer(pedida);
     prepararNueva();
 }
 
