@@ -380,6 +380,14 @@ private Q_SLOTS:
         manos().escribir("txt73ba1", u"1"_s); // still to be edited
         manos().tecla(Qt::Key_Tab);
         QCOMPARE(registro().casilla(Casilla480::C73_BA1), 100.0);
+        for (const int otro : {5, 6})
+            mes(otro, ImporteMaximo - 100, 7.15F);
+        manos().pulsar("cmdanterior");
+        avanzar(1);
+        QCOMPARE(avisoAlPulsar("cmdTomarMensuales"),
+                 u"No se admite el cambio: el total «Base imponible» tendría más de 13 cifras "
+                 "enteras."_s);
+        QCOMPARE(registro().casilla(Casilla480::C73_BA1), 100.0);
     }
 };
 

@@ -176,13 +176,15 @@ void FrmDatos480c::showEvent(QShowEvent *evento)
 void FrmDatos480c::tomarMensuales()
 {
     const BandasMensuales bandas = registro().Bandas(*m_mensuales->anno());
-    const bool cabe = cambiarSiCabe(registro(), [&](cDatos480 &r) {
-        r.casilla(C73_BA1, bandas.base1);
-        r.casilla(C76_BA2, bandas.base2);
-        r.MODIFICADO(true);
-    });
+    // a sum of months may be more than what can be typed
+    const bool cabe = cabeEnCasilla(bandas.base1) && cabeEnCasilla(bandas.base2)
+        && cambiarSiCabe(registro(), [&](cDatos480 &r) {
+                          r.casilla(C73_BA1, bandas.base1);
+                          r.casilla(C76_BA2, bandas.base2);
+                          r.MODIFICADO(true);
+                      });
     if (!cabe)
-        aviso(msj(Msj::ImporteTotalExcedido, msj(Msj::ResultadoAnual)));
+        aviso(msj(Msj::ImporteTotalExcedido, msj(Msj::BaseImponible)));
     PresentaDatos();
     caja(C73_BA1)->setFocus(Qt::OtherFocusReason);
 }
