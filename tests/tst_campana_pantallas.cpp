@@ -197,6 +197,15 @@ private Q_SLOTS:
         QTRY_VERIFY(pantalla("FrmImportarDeclaraciones"));
         const Manos i = en("FrmImportarDeclaraciones");
         i.pulsar("cmdFichero");
+        QStringList titulos;
+        for (int i = 1; i < 9; ++i)
+            titulos += lista("flxHoja", "FrmImportarDeclaraciones")
+                           ->model()
+                           ->headerData(i, Qt::Horizontal)
+                           .toString();
+        QCOMPARE(titulos.join(u'|'),
+                 u"Fila|DNI|Ejercicio|Período|Resultado|Importe|Importe "
+                 "anterior|Motivo"_s);
         QCOMPARE(hoja(),
                  u"2|A58818501|Nueva|8,00||\n"
                  "3|12345678Z|Nueva|8,00||\n"

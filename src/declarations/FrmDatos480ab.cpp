@@ -87,7 +87,6 @@ FrmDatos480a::FrmDatos480a(QWidget *padre)
                    padre)
     , m_lblPorRepartir(nuevaEtiqueta(u"lblPorRepartir"_s, this))
 {
-    m_lblPorRepartir->setWordWrap(true);
     m_cuerpo->addWidget(m_lblPorRepartir);
     auto &r = registro();
     if (r.ENTRADA() == Entrada::Abrir && r.MODO() == Modo::Consulta) {

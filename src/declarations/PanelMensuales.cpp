@@ -55,7 +55,6 @@ PanelMensuales::PanelMensuales(QWidget *padre)
     m_lblNo430->setObjectName(u"lblNo430"_s);
     m_cmdTomar->setObjectName(u"cmdTomarMensuales"_s);
     m_cmdTomar->setAutoDefault(false);
-    m_lblAparte->setWordWrap(true);
     static constexpr QStringView totales[] = {u"lblTotales430", u"lblTotalBase", u"lblTotalCuota"};
     for (int columna = 0; columna < 3; ++columna) {
         m_totales[columna] = nuevaEtiqueta(totales[columna].toString(), m_pie);
