@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
@@ -13,6 +14,20 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+/// The box that shows what is being searched for in a list. It never has the focus: the list keeps
+/// it.
+class CajaBusqueda : public QLineEdit
+{
+public:
+    explicit CajaBusqueda(QWidget *padre);
+
+    /// Lays the box over `lugar` of its parent.
+    void mostrarEn(const QRect &lugar);
+    void vaciar();
+    /// Colours the text by whether anything was found.
+    void hallado(bool algo);
+};
 
 static constexpr int AnchoMinimo = 160;
 

@@ -1,28 +1,14 @@
 #pragma once
 
 #include <QKeySequence>
-#include <QLineEdit>
 #include <QList>
+#include <QObject>
+#include <QString>
 
 #include <functional>
 
+class CajaBusqueda;
 class QTableView;
-
-/// The box that shows what is being searched for in a list. It never has the focus: the list keeps
-/// it.
-class CajaBusqueda : public QLineEdit
-{
-    Q_OBJECT
-
-public:
-    explicit CajaBusqueda(QWidget *padre);
-
-    /// Lays the box over `lugar` of its parent.
-    void mostrarEn(const QRect &lugar);
-    void vaciar();
-    /// Colours the text by whether anything was found.
-    void hallado(bool algo);
-};
 
 /// Type-to-search for a list grid: what is typed in the grid appears in a box laid over it and
 /// leaves only the rows that have it. Escape clears it.
