@@ -104,6 +104,8 @@ private Q_SLOTS:
             QCOMPARE(visto.join(u'|'), renglon);
         }
         QCOMPARE(f.manos->foco(), u"cmdAceptar"_s);
+        QCOMPARE(f.manos->textos("cmdAceptar cmdCancelar", "toolTip"),
+                 u"Guardar datos del declarante|Salir sin guardar los cambios"_s);
         QCOMPARE(
             f.manos->textos("lblnomprov lblnum430 lblnum480 txtviaaux txtnomprov").remove(u'&'),
             u"Nombre de provincia:|Nº declaraciones contables:|NºDeclaraciones informativas:|"

@@ -122,6 +122,14 @@ private Q_SLOTS:
              {"<rdf:li>Ostrel de seguros</rdf:li>", ">Modelo de prueba</rdf:li>",
               "<rdf:li>eu</rdf:li><rdf:li>es</rdf:li>"})
             QVERIFY2(bytes.contains(parte), parte);
+        // the author's dictionary is where the table at the end says, one of one
+        static const QRegularExpression tabla(
+            u"xref\n(\\d+) 1\n(\\d{10}) 00000 n \ntrailer\n<<\n/Size \\d+\n/Info \\1 0 R\n"
+            "/Root \\d+ 0 R\n/Prev \\d+\n>>\nstartxref\n(\\d+)\n%%EOF\n$"_s);
+        const auto m = tabla.match(QString::fromLatin1(bytes));
+        QVERIFY(m.hasMatch());
+        QVERIFY(bytes.mid(m.captured(2).toInt()).startsWith(m.captured(1).toLatin1() + " 0 obj"));
+        QVERIFY(bytes.mid(m.captured(3).toInt()).startsWith("xref\n"));
         if (QStandardPaths::findExecutable(u"pdffonts"_s).isEmpty())
             QSKIP("pdffonts (poppler-utils) is not installed");
         const QString fuentes = ejecutar(u"pdffonts"_s, {guardado(u"f.pdf"_s, bytes)});

@@ -81,12 +81,12 @@ public:
         QTest::keyClick(foco ? foco : &m_pantalla, tecla, con);
     }
 
-    /// The texts of the controls named, with "|" between them.
-    QString textos(const char *nombres) const
+    /// The texts, or another property, of the controls named, with "|" between them.
+    QString textos(const char *nombres, const char *propiedad = "text") const
     {
         QStringList partes;
         for (const QByteArray &nombre : QByteArray(nombres).split(' '))
-            partes += texto(nombre);
+            partes += control(nombre)->property(propiedad).toString();
         return partes.join(u'|');
     }
     QString texto(const char *nombre) const { return control(nombre)->property("text").toString(); }
