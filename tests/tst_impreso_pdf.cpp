@@ -33,7 +33,8 @@ extern "C" int fsync(int descriptor)
 /// Saves a PDF over another in a child process that `restringir` has tied down: it has to be
 /// refused with a reason, and the other to stay as it was.
 static void guardarRestringido(const QString &carpeta, const QByteArray &bytes,
-                               void (*restringir)(), QFile::Permissions permisos)
+                               void (*restringir)(), QFile::Permissions permisos,
+                               const QString &motivo)
 {
     QVERIFY(QDir().mkpath(carpeta));
     const QString ruta = carpeta + u"/a.pdf"_s;
@@ -43,7 +44,7 @@ static void guardarRestringido(const QString &carpeta, const QByteArray &bytes,
     const pid_t hijo = fork();
     if (hijo == 0) {
         restringir();
-        _exit(guardarFichero(ruta, bytes).isEmpty() ? 0 : 3);
+        _exit(guardarFichero(ruta, bytes) == motivo.arg(QDir::toNativeSeparators(ruta)) ? 3 : 4);
     }
     int estado = 0;
     QCOMPARE(waitpid(hijo, &estado, 0), hijo);
@@ -167,7 +168,8 @@ private Q_SLOTS:
                 if (geteuid() == 0 && setuid(65534) != 0)
                     _exit(9);
             },
-            QFile::Permissions(0x5555));
+            QFile::Permissions(0x5555),
+            u"No se puede escribir en el fichero «%1»: es de solo lectura."_s);
         guardarRestringido(
             m_carpeta.filePath(u"llena"_s), pdf(u"430"_s, u"AD"_s),
             [] {
@@ -177,7 +179,8 @@ private Q_SLOTS:
                 if (setrlimit(RLIMIT_FSIZE, &limite) != 0)
                     _exit(9);
             },
-            QFile::Permissions(0x7755));
+            QFile::Permissions(0x7755),
+            u"Error del disco al leer o escribir el fichero «%1»."_s);
     }
 };
 
