@@ -243,6 +243,14 @@ private Q_SLOTS:
         QCOMPARE(p.manos->texto("lblResumen"), u"Inprimatuak: 3. Inprimatu gabeak: 1."_s);
         p.manos->pulsar("chkCopiaAdministracion"); // no copy is left
         QVERIFY(!p.manos->control("cmdImprimir")->isEnabled());
+        // what belongs to a destination can be used with that one only
+        const char *suyos = "lblCarpeta cmdCarpeta lblImpresora btnOpcionesImpresora";
+        for (const auto &[destino, usables] : {std::pair{"optDestino2", u"false|false|true|true"_s},
+                                               {"optDestino1", u"false|false|false|false"_s},
+                                               {"optDestino0", u"true|true|false|false"_s}}) {
+            p.manos->pulsar(destino);
+            QCOMPARE(p.manos->textos(suyos, "enabled"), usables);
+        }
     }
 
     /// The stored ones of those selected, or of all that are shown.
