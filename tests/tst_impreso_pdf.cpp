@@ -179,8 +179,7 @@ private Q_SLOTS:
                 if (setrlimit(RLIMIT_FSIZE, &limite) != 0)
                     _exit(9);
             },
-            QFile::Permissions(0x7755),
-            u"Error del disco al leer o escribir el fichero «%1»."_s);
+            QFile::Permissions(0x7755), u"Error del disco al leer o escribir el fichero «%1»."_s);
     }
 };
 
