@@ -168,11 +168,12 @@ private Q_SLOTS:
         borrado->BorrarDeclaracion(enero);
         auto todas = leida;
         QVERIFY(!todas.guardar(true, [](qint64) { return true; }));
-        QCOMPARE(todas.cuantas(FilaDeclaraciones::NoGuardada), 3);
+        QCOMPARE(todas.cuantas(FilaDeclaraciones::NoGuardada), 1);
         QCOMPARE(declaracionesDe(m_uno).size(), 0);
         QVERIFY(leida.guardar(false, [](qint64) { return true; }));
         QCOMPARE(dicho(leida).section(u'\n', 0, 1),
-                 u"2 lost 8,00 6.666,66 : No se ha guardado la declaración.\n"
+                 u"2 lost 8,00 6.666,66 : Otra copia del programa la ha cambiado o eliminado "
+                 u"después de leer la hoja.\n"
                  "3 stored 80,00 0,00 : "_s);
         QCOMPARE(unidos(declaracionesDe(m_uno)[0].toList().mid(1)), u"2026|1|2|430|1|8000"_s);
         auto otra = cImportarDeclaraciones();
@@ -185,7 +186,8 @@ private Q_SLOTS:
                  QByteArray("\xef\xbb\xbf"
                             "DNI;EJERCICIO;PERIODO;BASE;BASE_RECTIFICACION;CUOTA_RECTIFICACION;"
                             "MOTIVO\r\n"
-                            "12345678Z;2026;1;200;-100;-8;No se ha guardado la declaración.\r\n"
+                            "12345678Z;2026;1;200;-100;-8;Otra copia del programa la ha cambiado o "
+                            "eliminado después de leer la hoja.\r\n"
                             "A58818501;2026;x;\"a;b\";;;PERIODO: «x» no es un mes.\r\n"));
     }
 

@@ -3,6 +3,7 @@
 #include "campaign/ModeloHoja.h"
 #include "core/CEntrada.h"
 #include "core/GuardarFichero.h"
+#include "core/LectorLineas.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "widgets/BarraBotones.h"
@@ -18,7 +19,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStandardPaths>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -164,18 +164,17 @@ void FrmImportarDeclaraciones::PresentaDatos()
 void FrmImportarDeclaraciones::elegirFichero()
 {
     const QString anterior = QDir::fromNativeSeparators(m_txtFichero->text());
-    const QString ruta = ficheros::abrir(
-        this, msj(Msj::BotonSeleccionarFichero),
-        anterior.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                           : QFileInfo(anterior).path(),
-        msj(Msj::FiltroCsv) + u";;*.*"_s);
+    const QString ruta
+        = ficheros::abrir(this, msj(Msj::BotonSeleccionarFichero),
+                          anterior.isEmpty() ? ficheros::propuesta() : QFileInfo(anterior).path(),
+                          msj(Msj::FiltroCsv) + u";;*.*"_s);
     if (!ruta.isEmpty())
         leer(ruta);
 }
 
 void FrmImportarDeclaraciones::leer(const QString &ruta)
 {
-    if (const QString motivo = cImportarDeclaraciones::motivoNoLegible(ruta); !motivo.isEmpty())
+    if (const QString motivo = motivoNoLegible(ruta); !motivo.isEmpty())
         return aviso(motivo);
     m_txtFichero->setText(QDir::toNativeSeparators(ruta));
     QString motivo;

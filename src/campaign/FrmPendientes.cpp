@@ -21,7 +21,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QStandardPaths>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -372,11 +371,9 @@ void FrmPendientes::guardarPlantilla()
     QString nombre = u"%1_%2"_s.arg(c.modelo).arg(c.ejercicio);
     if (c.tipologia == Tipologia430)
         nombre += u"-%1"_s.arg(c.periodo, 2, 10, QChar(u'0'));
-    const QDir carpeta(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    const QString ruta = ficheros::guardar(
-        this, msj(Msj::TituloPendientes),
-        (carpeta.exists() ? carpeta : QDir::home()).filePath(nombre + u".csv"_s),
-        msj(Msj::FiltroCsv));
+    const QString ruta = ficheros::guardar(this, msj(Msj::TituloPendientes),
+                                           QDir(ficheros::propuesta()).filePath(nombre + u".csv"_s),
+                                           msj(Msj::FiltroCsv));
     if (ruta.isEmpty())
         return;
     if (const QString motivo = guardarFichero(ruta, contenido); !motivo.isEmpty())

@@ -58,11 +58,6 @@ static QString textoEstado(Fila::Estado estado)
     return msj(textos[estado]);
 }
 
-static QString conColumna(const Fila &fila)
-{
-    return fila.columna.isEmpty() ? fila.motivo : fila.columna + u": "_s + fila.motivo;
-}
-
 QString ModeloHoja::texto(const Fila &fila, int columna) const
 {
     const auto &c = fila.cabecera;
@@ -83,7 +78,7 @@ QString ModeloHoja::texto(const Fila &fila, int columna) const
     case Anterior:
         return fila.sustituye() && calculada ? textoImporte(fila.anterior) : QString();
     case Motivo:
-        return conColumna(fila);
+        return fila.textoMotivo();
     default:
         return {};
     }

@@ -28,17 +28,9 @@ static constexpr qsizetype Tanda = 500;
 /// Returns of one transaction.
 static constexpr qsizetype TandaGuardar = 5000;
 
-QString cImportarDeclaraciones::motivoNoLegible(const QString &ruta)
+QString FilaDeclaraciones::textoMotivo() const
 {
-    const QFileInfo fichero(ruta);
-    const QString nombre = QDir::toNativeSeparators(ruta);
-    if (!fichero.exists())
-        return msj(Msj::NoExisteFicheroImportar);
-    if (QString motivo = motivoRutaRechazada(ruta); !motivo.isEmpty())
-        return motivo;
-    if (!QFile(ruta).open(QIODevice::ReadOnly))
-        return msj(Msj::FicheroIlegible, nombre);
-    return fichero.size() == 0 ? msj(Msj::FicheroVacio, nombre) : QString();
+    return columna.isEmpty() ? motivo : columna + u": "_s + motivo;
 }
 
 QString cImportarDeclaraciones::leer(const QString &ruta, const Seguir &seguir)
@@ -218,6 +210,7 @@ void cImportarDeclaraciones::calcular(Fila &fila, const Registro &hallada,
     if (cabecera.CSDE() != 0) {
         fila.estado = Fila::Sustituye;
         fila.anterior = hallada[FilaBuscada::IMPORTE].toDouble();
+        fila.huella = servicio.Huella(cabecera.CSDE());
     }
     fila.cabecera.modelo == Modelo430 ? calcular430(fila) : calcular480(fila);
 }
@@ -319,12 +312,31 @@ bool cImportarDeclaraciones::guardarTanda(const QList<qsizetype> &cuales, bool t
     return alguna || !todoONada;
 }
 
+/// Takes out of `cuales` the returns that are no longer those that the user saw.
+void cImportarDeclaraciones::apartarCambiadas(QList<qsizetype> &cuales)
+{
+    const auto servicio = servicioDeclaracion();
+    cuales.removeIf([&](qsizetype i) {
+        Fila &fila = m_filas[i];
+        if (!fila.sustituye()
+            || servicio->Huella(fila.registro[RegGuardar::CSDE].toInt()) == fila.huella)
+            return false;
+        fila.estado = Fila::NoGuardada;
+        fila.motivo = msj(Msj::CsvCambiada);
+        return true;
+    });
+}
+
 bool cImportarDeclaraciones::guardar(bool todoONada, const Seguir &seguir)
 {
     QList<qsizetype> cuales;
     for (qsizetype i = 0; i < m_filas.size(); ++i)
         if (seGuarda(m_filas[i]))
             cuales.append(i);
+    const qsizetype pedidas = cuales.size();
+    apartarCambiadas(cuales);
+    if (todoONada && cuales.size() < pedidas)
+        return false;
     const qsizetype tanda = todoONada ? cuales.size() : TandaGuardar;
     for (qsizetype i = 0; i < cuales.size(); i += tanda) {
         if (!seguir(i)
@@ -347,8 +359,7 @@ QByteArray cImportarDeclaraciones::csvRechazadas() const
             continue;
         QStringList campos = fila.campos;
         campos.resize(motivo < 0 ? titulos.size() + 1 : titulos.size());
-        campos[motivo < 0 ? titulos.size() : motivo]
-            = fila.columna.isEmpty() ? fila.motivo : fila.columna + u": "_s + fila.motivo;
+        campos[motivo < 0 ? titulos.size() : motivo] = fila.textoMotivo();
         texto += csv::linea(campos);
     }
     return texto;

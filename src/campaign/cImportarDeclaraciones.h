@@ -27,12 +27,15 @@ struct FilaDeclaraciones
     CabeceraListada cabecera;
     double importe = 0; ///< cents, as computed
     double anterior = 0; ///< cents, of the return that is replaced
+    QByteArray huella; ///< and its mark, so that another copy's change is noticed
     Estado estado = Nueva;
     QString columna; ///< the heading of the one at fault
     QString motivo; ///< why it was refused, in the language of the reading
     bool marcada = true; ///< the user wants it stored
     Registro registro; ///< what Guardar430 or Guardar480 takes
 
+    /// The reason with the column at fault in front of it.
+    QString textoMotivo() const;
     /// Whether there is a stored return in its place.
     bool sustituye() const { return registro.value(RegGuardar::CSDE).toInt() != 0; }
 };
@@ -44,9 +47,6 @@ class cImportarDeclaraciones
 public:
     /// Called every few rows with their number; false ends the work there.
     using Seguir = std::function<bool(qint64)>;
-
-    /// Why a file cannot be read, in the session's language; empty when it can be tried.
-    static QString motivoNoLegible(const QString &ruta);
 
     /// Reads a file: empty, or why it cannot be used, in the session's language. One that is ended
     /// by `seguir` leaves no rows. Throws ErrorDatos.
@@ -79,6 +79,7 @@ private:
     void rechazarRepetidas(FilaDeclaraciones &fila);
     float tipo(qint16 ejercicio, quint8 mes);
     const Registro &tipos(qint16 ejercicio);
+    void apartarCambiadas(QList<qsizetype> &cuales);
     bool guardarTanda(const QList<qsizetype> &cuales, bool todoONada);
 
     EncabezadoCsv m_encabezado;

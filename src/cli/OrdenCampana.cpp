@@ -3,6 +3,7 @@
 #include "cli/Linea.h"
 #include "cli/Tabla.h"
 #include "core/Importe.h"
+#include "core/LectorLineas.h"
 #include "core/Textos.h"
 #include "declarants/MensajesDeclarante.h"
 
@@ -73,10 +74,8 @@ static QStringList motivos(const cImportarDeclaraciones &hoja)
 {
     QStringList lineas;
     for (const auto &fila : hoja.filas()) {
-        QString motivo = fila.motivo;
-        if (!fila.columna.isEmpty())
-            motivo = fila.columna + u": "_s + motivo;
-        else if (motivo.isEmpty() && !fila.marcada)
+        QString motivo = fila.textoMotivo();
+        if (motivo.isEmpty() && !fila.marcada)
             motivo = msj(Msj::CliYaGuardada);
         if (!motivo.isEmpty())
             lineas += msj(Msj::CliFilaRechazada, QString::number(fila.linea), motivo);
@@ -101,7 +100,7 @@ static Resultado declararDesde(const Argumentos &argumentos)
     const bool todoONada = argumentos.tiene(u"todo-o-nada");
     if (ruta.isEmpty())
         return malUso(msj(Msj::CliFaltaValor, conGuiones(u"desde")));
-    if (const QString motivo = cImportarDeclaraciones::motivoNoLegible(ruta); !motivo.isEmpty())
+    if (const QString motivo = motivoNoLegible(ruta); !motivo.isEmpty())
         return rechazado(motivo);
     const auto seguir = [](qint64) { return true; };
     cImportarDeclaraciones hoja;

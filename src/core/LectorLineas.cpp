@@ -1,12 +1,28 @@
 #include "core/LectorLineas.h"
 
+#include "core/Rutas.h"
+#include "core/Textos.h"
 #include "dataservice/ErrorDatos.h"
 
-#include <QFileDevice>
+#include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 
 static constexpr qsizetype Bloque = 65536;
+
+QString motivoNoLegible(const QString &ruta)
+{
+    const QFileInfo fichero(ruta);
+    const QString nombre = QDir::toNativeSeparators(ruta);
+    if (!fichero.exists())
+        return msj(Msj::NoExisteFicheroImportar);
+    if (QString motivo = motivoRutaRechazada(ruta); !motivo.isEmpty())
+        return motivo;
+    if (!QFile(ruta).open(QIODevice::ReadOnly))
+        return msj(Msj::FicheroIlegible, nombre);
+    return fichero.size() == 0 ? msj(Msj::FicheroVacio, nombre) : QString();
+}
 
 LectorLineas::LectorLineas(QIODevice &fichero, qsizetype ancho)
     : m_fichero(fichero)

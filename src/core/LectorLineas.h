@@ -1,8 +1,13 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 class QIODevice;
+
+/// Why a file that the user named cannot be read line by line, in the session's language; empty
+/// when it can be tried. The program's own files, and what is no regular file, are refused.
+QString motivoNoLegible(const QString &ruta);
 
 /// The lines of a file, however long: only the first characters of each are kept. CR LF, LF and CR
 /// end a line; the last one needs no end.

@@ -3,13 +3,13 @@
 #include "core/Busqueda.h"
 #include "core/Textos.h"
 #include "core/Unico.h"
-#include "exchange/CarpetaPropuesta.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/Disposicion.h"
 #include "widgets/Ficheros.h"
 #include "widgets/Mensajes.h"
 #include "widgets/cUtilidadesGrid.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -56,7 +56,7 @@ FrmExportar::FrmExportar(QWidget *padre)
     m_lblFichero = nuevaEtiqueta(u"lblFichero"_s, contenido(), m_txtFichero);
     m_cmdFichero->setObjectName(u"cmdFichero"_s);
     m_txtFichero->setText(
-        QDir::toNativeSeparators(QDir(carpetaPropuesta()).filePath(u"Contri.txt"_s)));
+        QDir::toNativeSeparators(QDir(ficheros::propuesta()).filePath(u"Contri.txt"_s)));
     disponer();
     Anadir_captions();
     conectar();

@@ -222,18 +222,10 @@ static bool esElDeErrores(const QString &ruta)
 
 QString motivoNoImportable(const QString &ruta)
 {
-    const QFileInfo fichero(ruta);
-    const QString nombre = QDir::toNativeSeparators(ruta);
-    if (!fichero.exists())
-        return msj(Msj::NoExisteFicheroImportar);
-    if (const QString motivo = motivoRutaRechazada(ruta); !motivo.isEmpty())
-        return motivo;
     // it is emptied before the first line is read
-    if (esElDeErrores(ruta))
-        return msj(Msj::FicheroDelPrograma, nombre);
-    if (!QFile(ruta).open(QIODevice::ReadOnly))
-        return msj(Msj::FicheroIlegible, nombre);
-    return fichero.size() == 0 ? msj(Msj::FicheroVacio, nombre) : QString();
+    return QFileInfo::exists(ruta) && esElDeErrores(ruta)
+        ? msj(Msj::FicheroDelPrograma, QDir::toNativeSeparators(ruta))
+        : motivoNoLegible(ruta);
 }
 
 QString mensajeFinal(const Importacion::Cuenta &cuenta)

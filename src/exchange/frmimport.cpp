@@ -4,7 +4,6 @@
 #include "core/Textos.h"
 #include "core/Unico.h"
 #include "declarants/CamposDeclarante.h"
-#include "exchange/CarpetaPropuesta.h"
 #include "exchange/cImportar.h"
 #include "widgets/BarraBotones.h"
 #include "widgets/Disposicion.h"
@@ -193,7 +192,7 @@ void frmimport::Anadir_captions()
 void frmimport::elegirFichero()
 {
     const QString anterior = estado().FICHEROAIMPORTAR();
-    const QString carpeta = anterior.isEmpty() ? carpetaPropuesta() : QFileInfo(anterior).path();
+    const QString carpeta = anterior.isEmpty() ? ficheros::propuesta() : QFileInfo(anterior).path();
     const QString ruta
         = ficheros::abrir(this, msj(Msj::BotonSeleccionarFichero), carpeta, u"*.txt;;*.*"_s);
     if (!ruta.isEmpty())

@@ -2,9 +2,11 @@
 
 #include "core/Textos.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QSettings>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +31,12 @@ static QString elegirFichero(QFileDialog &dialogo)
         observador()(dialogo);
     }
     return dialogo.exec() == QDialog::Accepted ? dialogo.selectedFiles().value(0) : QString();
+}
+
+QString propuesta()
+{
+    const QString documentos = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documentos).exists() ? documentos : QDir::homePath();
 }
 
 QString abrir(QWidget *padre, const QString &titulo, const QString &carpeta, const QString &filtro)

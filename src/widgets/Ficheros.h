@@ -10,6 +10,9 @@ class QWidget;
 /// Every file dialogue of the program.
 namespace ficheros {
 
+/// Where files of the user are looked for and offered: the documents, else the home folder.
+QString propuesta();
+
 /// A file to read; empty when the user gave up. `filtro` as QFileDialog takes it.
 QString abrir(QWidget *padre, const QString &titulo, const QString &carpeta, const QString &filtro);
 

@@ -13,7 +13,6 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QShortcut>
-#include <QStandardPaths>
 #include <QTableView>
 
 #include <algorithm>
@@ -80,11 +79,10 @@ static void copiar(QTableView *lista)
 
 static void guardar(QTableView *lista)
 {
-    const QDir documentos(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     const QString nombre = tituloDe(lista).simplified().replace(u' ', u'_') + u".csv"_s;
-    const QString ruta = ficheros::guardar(
-        lista->window(), tituloDe(lista),
-        (documentos.exists() ? documentos : QDir::home()).filePath(nombre), msj(Msj::FiltroCsv));
+    const QString ruta
+        = ficheros::guardar(lista->window(), tituloDe(lista),
+                            QDir(ficheros::propuesta()).filePath(nombre), msj(Msj::FiltroCsv));
     if (ruta.isEmpty())
         return;
     QByteArray contenido = csv::Marca.toByteArray() + csv::linea(titulos(lista));
