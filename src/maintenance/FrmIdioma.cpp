@@ -13,6 +13,7 @@
 #include <QEventLoop>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -135,4 +136,12 @@ void FrmIdioma::buscar()
     buscarActualizacion(this);
     while (unico::la<cActOnline>().SitAct() == cActOnline::SinBuscar)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void FrmIdioma::keyPressEvent(QKeyEvent *evento)
+{
+    if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter)
+        focusNextChild();
+    else
+        PantallaBase::keyPressEvent(evento);
 }

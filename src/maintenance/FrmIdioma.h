@@ -16,6 +16,10 @@ public:
 
     void Anadir_captions() override;
 
+protected:
+    /// Enter goes on to the next control and presses nothing: the choice is made on purpose.
+    void keyPressEvent(QKeyEvent *evento) override;
+
 private:
     QPushButton *boton(const char *nombre, Msj texto, const QString &codigo);
     QLayout *cabecera();
