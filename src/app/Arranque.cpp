@@ -65,10 +65,8 @@ static void mostrarCentrada(QMainWindow &ventana)
     const QRect libre = ventana.screen()->availableGeometry();
     if (libre.width() < deseado.width() || libre.height() < deseado.height()) {
         // every line counts for the screens inside
-        for (auto *barra : ventana.findChildren<QToolBar *>()) {
-            barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        for (auto *barra : ventana.findChildren<QToolBar *>())
             barra->setIconSize({20, 20});
-        }
         ventana.setGeometry(libre);
         ventana.showMaximized();
         return;

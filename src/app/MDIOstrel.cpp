@@ -206,6 +206,7 @@ void MDIOstrel::restaurar()
         return;
     }
     contarFallos(sesion);
+    m_estado->clear(); // it may tell of a return that is not there now
     CambiarIdioma();
     m_pantallas->actualizar();
     m_algoGuardado = false; // what is there now has its copy

@@ -1,10 +1,11 @@
 #include "app/Menus.h"
 
+#include "app/BarraHerramientas.h"
+
 #include <QAction>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QToolBar>
 
 using namespace Qt::StringLiterals;
 
@@ -64,11 +65,11 @@ void Menus::crearMenus(QMainWindow *ventana)
 
 void Menus::crearBarra(QMainWindow *ventana)
 {
-    m_barra = ventana->addToolBar(QString());
+    m_barra = new BarraHerramientas(ventana);
+    ventana->addToolBar(m_barra);
     m_barra->setObjectName(u"barra"_s);
     m_barra->setMovable(false);
     m_barra->setContextMenuPolicy(Qt::PreventContextMenu);
-    m_barra->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     m_barra->setIconSize({32, 32});
     for (const auto &entrada : tablaBarra()) {
         if (entrada.trasSeparador)
@@ -92,6 +93,7 @@ void Menus::Anadir_captions()
     m_barra->setAccessibleName(msj(Msj::AccesibleBarraHerramientas));
     for (const auto &entrada : tablaBarra())
         m_barra->findChild<QAction *>(nombreDe(entrada.nombre))->setText(msj(entrada.texto));
+    m_barra->acomodar();
     aplicar(m_situacion);
 }
 

@@ -8,7 +8,7 @@
 class QAction;
 class QMainWindow;
 class QMenu;
-class QToolBar;
+class BarraHerramientas;
 
 /// What decides whether an entry can be used.
 struct Situacion
@@ -40,7 +40,7 @@ private:
 
     QList<QMenu *> m_desplegables;
     QHash<QLatin1StringView, QAction *> m_acciones; ///< by the names of the table
-    QToolBar *m_barra = nullptr;
+    BarraHerramientas *m_barra = nullptr;
     Situacion m_situacion;
 };
 
