@@ -162,7 +162,8 @@ private Q_SLOTS:
             f.responderYPulsar(QMessageBox::Ok, "cmdAceptar");
             QCOMPARE(f.mensajes.ficha().section(u'|', 0, 2),
                      u"Warning|Datos del declarante|"_s + msjDesde(Msj::ErrorDni, codigo - 1));
-            QCOMPARE(f.manos->foco() + f.manos->texto(campo), QString::fromLatin1(campo) + malo);
+            const QString elegido = f.manos->control(campo)->property("selectedText").toString();
+            QCOMPARE(f.manos->foco() + elegido, QString::fromLatin1(campo) + malo);
             f.manos->escribir(campo, bueno);
         }
         {

@@ -134,7 +134,7 @@ void NuevaDeclaracion::enfocar(qint16 codigo)
         campo = m_cmbperiodo;
     else if (codigo == 3)
         campo = m_cmbmodelo;
-    campo->setFocus(Qt::OtherFocusReason);
+    recuperarFoco(campo);
 }
 
 /// Another exercise asks for model and period anew.

@@ -210,7 +210,7 @@ bool frmDecDatos::ValidarCampos()
     if (texto.isEmpty())
         return true;
     aviso(texto);
-    m_ficha->caja(deValidacion(campoValidacionDeclarante(codigo)))->setFocus(Qt::OtherFocusReason);
+    recuperarFoco(m_ficha->caja(deValidacion(campoValidacionDeclarante(codigo))));
     return false;
 }
 

@@ -129,7 +129,7 @@ bool OpcionesImpresion::ValidarFecha()
         m_peticion.FECHAPRE(leida.fecha);
     } else {
         mensajes::aviso(this, leida.titulo, leida.mensaje);
-        m_txtFecha->setFocus(Qt::OtherFocusReason);
+        recuperarFoco(m_txtFecha);
     }
     return leida.valida();
 }

@@ -3,6 +3,7 @@
 #include "widgets/PantallaBase.h"
 
 #include <QApplication>
+#include <QLineEdit>
 
 bool focoDePaso(Qt::FocusReason motivo)
 {
@@ -26,7 +27,11 @@ bool abandonada(QWidget *campo)
 
 bool recuperarFoco(QWidget *campo, Qt::FocusReason motivo)
 {
-    if (campo->isVisible())
-        campo->setFocus(motivo);
-    return campo->isVisible();
+    if (!campo->isVisible())
+        return false;
+    campo->setFocus(motivo);
+    // the window that comes back from a message gives the focus without saying that it is entered
+    if (auto *caja = qobject_cast<QLineEdit *>(campo))
+        caja->selectAll();
+    return true;
 }

@@ -28,5 +28,6 @@ bool focoDePaso(Qt::FocusReason motivo);
 bool confirmaAlSalir(Qt::FocusReason motivo);
 /// Whether a field that is being hidden went with its part of the screen, not with all of it.
 bool abandonada(QWidget *campo);
-/// Gives the focus back to a field, unless nobody sees it any longer; whether it did.
+/// Gives the focus to a field that is to be put right, its text selected, unless nobody sees it any
+/// longer; whether it did.
 bool recuperarFoco(QWidget *campo, Qt::FocusReason motivo = Qt::OtherFocusReason);
