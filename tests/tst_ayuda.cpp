@@ -203,6 +203,11 @@ private Q_SLOTS:
     {
         abrirAyuda(ayuda::portada());
         const Manos manos(*ventanaAyuda());
+        QVERIFY(ventanaAyuda()->screen()->availableSize().width() > ventanaAyuda()->width());
+        for (int i = 2; i >= 0; --i) {
+            manos.control<QTabWidget>("tabAyuda")->setCurrentIndex(i);
+            QCOMPARE(manos.defectos(), QStringList());
+        }
         manos.control<QTabWidget>("tabAyuda")->setCurrentIndex(1);
         manos.escribir("txtIndice", u"rectificacion"_s);
         auto *indice = manos.control<QListWidget>("lstIndice");

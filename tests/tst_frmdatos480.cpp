@@ -375,6 +375,11 @@ private Q_SLOTS:
                  "Meses con otro tipo, que no se incluyen: ABRIL"_s);
         // all of it leaves the list's height to give, not the page's buttons
         QVERIFY(!m_pagina->layout()->hasHeightForWidth());
+        manos().control("txt80cu3")->setFocus();
+        for (const char *siguiente : {"cmdTomarMensuales", "lst430", "cmdanterior"}) {
+            manos().tecla(Qt::Key_Tab);
+            QCOMPARE(manos().foco(), QString::fromLatin1(siguiente));
+        }
         manos().pulsar("cmdTomarMensuales");
         QCOMPARE(manos().textos("txt73ba1 txt76ba2 txt75cu1 txt78cu2"),
                  u"500,00|200,00|35,75|12,00"_s);

@@ -6,6 +6,8 @@
 
 #include <QClipboard>
 #include <QFileDialog>
+#include <QHelpEvent>
+#include <QToolTip>
 
 /// The list over three declarants, whose order by DNI is not that by name.
 struct Lista : ListaAbierta<FrmDecLista>
@@ -78,6 +80,15 @@ private Q_SLOTS:
         Entorno::pasarAEuskera(*l.pantalla);
         QCOMPARE(l.titulos(), u"NA|Sozietatearen izena|Udalerriaren izena|Probintziaren izena"_s);
         QCOMPARE(l.fila(0), u"%1|A08000143|ÑANDÚ|BILBAO|BIZKAIA|3|1"_s.arg(csco));
+        // what its column cuts off is the cell's tip
+        for (const auto &[ancho, pista] : {std::pair{200, QString()}, {12, u"ÑANDÚ"_s}}) {
+            l.grid()->horizontalHeader()->setSectionResizeMode(2, QHeaderView::Interactive);
+            l.grid()->setColumnWidth(2, ancho);
+            const QPoint lugar = l.grid()->visualRect(l.grid()->model()->index(0, 2)).center();
+            QHelpEvent pregunta(QEvent::ToolTip, lugar, l.grid()->viewport()->mapToGlobal(lugar));
+            QApplication::sendEvent(l.grid()->viewport(), &pregunta);
+            QCOMPARE(QToolTip::text(), pista);
+        }
     }
 
     /// By name at first; the first row is selected after each load.

@@ -38,6 +38,12 @@ struct Exportar : PantallaAbierta<FrmExportar>
         }
         return texto.chopped(1);
     }
+    /// What an empty list says.
+    QString vacio(const char *nombre) const
+    {
+        const auto *texto = grid(nombre)->findChild<QLabel *>();
+        return texto->isVisible() ? texto->text() : QString();
+    }
     QPoint fila(const char *nombre, int numero) const
     {
         return grid(nombre)->visualRect(grid(nombre)->model()->index(numero, 2)).center();
@@ -73,6 +79,7 @@ private Q_SLOTS:
             e.manos->textos("lblTitulo lblayuda"),
             u"Exportar declarante|Seleccione en la lista inferior los DNI que desea exportar"_s);
         QCOMPARE(e.nombres(), u"CBA|"_s);
+        QCOMPARE(e.vacio("flxContriExp"), u"Todavía no se ha elegido ningún declarante."_s);
         const auto *modelo = e.grid("flxContri")->model();
         QCOMPARE(modelo->headerData(0, Qt::Horizontal).toString(), u"NºCon."_s);
         QCOMPARE(modelo->index(0, 1).data().toString(), lineas::dni(1));
@@ -90,6 +97,7 @@ private Q_SLOTS:
         e.manos->pulsar("cmdAnadirTodos");
         QCOMPARE(e.nombres(), u"|BCA"_s);
         QVERIFY(!e.manos->control("cmdAnadir")->isEnabled());
+        QCOMPARE(e.vacio("flxContri"), u"Todos los declarantes están en la otra lista."_s);
         e.manos->pulsar("cmdRetirar");
         QCOMPARE(e.nombres(), u"B|CA"_s);
         e.manos->pulsar("cmdRetirarTodos");
@@ -101,6 +109,9 @@ private Q_SLOTS:
         e.grid("flxContri")->setFocus();
         QTest::keyClicks(e.grid("flxContri"), u"c"_s);
         QCOMPARE(e.nombres(), u"C|"_s);
+        QTest::keyClicks(e.grid("flxContri"), u"x"_s);
+        QCOMPARE(e.vacio("flxContri"), u"Ningún declarante contiene «cx»."_s);
+        QTest::keyClick(e.grid("flxContri"), Qt::Key_Backspace);
         QTest::keyClick(e.grid("flxContri"), Qt::Key_Return);
         QTest::keyClick(e.grid("flxContri"), Qt::Key_Escape);
         QCOMPARE(e.nombres(), u"AB|C"_s);

@@ -121,6 +121,36 @@ private Q_SLOTS:
             u"Aseguruen Ostrel|Irten aplikaziotik|&Aitortzailea|Aitortzaile &berria|&Ireki aitortzailea|&Deuseztatu aitortzailea|I&rten|A&ukerak|Aurkezteko &dauden aitorpenak|Ai&torpenak inportatu|&Esportatu aitortzaileak|&Inportatu aitortzaileak|Segurtasun kopia sortu|Segurtasun kopia leheneratu|Lehentasunak|&Laguntza|&Edukia eta aurkibidea|On-line laguntza|Deskripzioa|&Honi buruz...|Tresna-barra|Aitortzaile berria|Ireki aitortzailea|Deuseztatu aitortzailea|Aurkezteko dauden aitorpenak|Laguntza|Irten aplikaziotik"_s);
     }
 
+    void cadaPantallaEnLosDosIdiomas()
+    {
+        static constexpr const char *entradas[][2] = {{"mnuDeclarante", "mnuAbrirDeclarante"},
+                                                      {"mnuDeclarante", "mnuEliminarDeclarante"},
+                                                      {"mnuDeclarante", "d1"},
+                                                      {"mnuUtilidades", "mnuPendientes"},
+                                                      {"mnuUtilidades", "mnuExport"},
+                                                      {"mnuUtilidades", "mnuImportarDeclaraciones"},
+                                                      {"mnuUtilidades", "mnuImport"},
+                                                      {"mnuDeclarante", "mnuNuevoDeclarante"}};
+        Entorno::altaDeclarante();
+        abrirPrograma();
+        m_ventana->resize(1024, 700);
+        for (const auto &idioma : {u"C"_s, u"E"_s}) {
+            unico::la<CEntrada>().IDI(idioma);
+            m_ventana->CambiarIdioma();
+            for (const auto &[nombreMenu, entrada] : entradas) {
+                elegir(nombreMenu, entrada);
+                QCOMPARE(pantallas().size(), 1);
+                auto *abierta = m_ventana->findChild<QMdiArea *>()->activeSubWindow()->widget();
+                const QString nombre = abierta->objectName();
+                QCOMPARE(nombre + Manos(*abierta).defectos().join(u' '), nombre);
+                QTest::keyClick(abierta, Qt::Key_Escape);
+                QTRY_COMPARE(pantallas(), QStringList());
+            }
+            for (const char *boton : {"nuedec", "pendec", "salir"})
+                QVERIFY(Manos(*m_ventana).control(boton)->isVisible());
+        }
+    }
+
     void elMenuDiceSuPistaYLeeLaBase()
     {
         auto *abierto = desplegar("mnuDeclarante");

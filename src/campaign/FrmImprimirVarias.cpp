@@ -105,6 +105,12 @@ void FrmImprimirVarias::disponer()
     todo->addWidget(m_flxVarias, 1);
     todo->addWidget(m_lblResumen);
     todo->addWidget(botones);
+
+    QList<QWidget *> orden = m_opciones->orden();
+    for (auto *opcion : m_optDestino->buttons())
+        orden += opcion;
+    orden += {m_cmdCarpeta, m_btnOpciones, m_flxVarias, m_cmdImprimir, m_cmdCancelar};
+    enlazarTab(orden);
 }
 
 void FrmImprimirVarias::prepararGrid()
@@ -178,7 +184,7 @@ void FrmImprimirVarias::Anadir_captions()
         {msj(Msj::EtiquetaDeclaracion), [](const Fila &f) { return f.cabecera.nombre(); }},
         {msj(Msj::ColumnaResultado), textoEstado},
         {msj(Msj::ColumnaFichero), [](const Fila &f) { return QFileInfo(f.fichero).fileName(); }},
-        {msj(Msj::ColumnaMotivo), [](const Fila &f) { return f.motivo; }, Qt::AlignLeft, {}, true},
+        {msj(Msj::ColumnaMotivo), [](const Fila &f) { return f.motivo; }},
     });
     PresentaDestino();
 }

@@ -56,7 +56,7 @@ FrmPendientes::FrmPendientes(QWidget *padre)
                                          filtrar();
                                          return m_modelo->rowCount() > 0;
                                      }))
-    , m_lblVacio(nuevaEtiqueta(u"lblVacio"_s, m_flxPendientes->viewport()))
+    , m_lblVacio(nuevoVacio(m_flxPendientes))
     , m_lblBusqueda(nuevaEtiqueta(u"lblBusqueda"_s, this))
     , m_lblNumDecla(nuevaEtiqueta(u"lblNumDecla"_s, this))
     , m_lblSuma(nuevaEtiqueta(u"lblSuma"_s, this))
@@ -67,8 +67,7 @@ FrmPendientes::FrmPendientes(QWidget *padre)
     , m_cmdImprimir(m_botones->anadir(u"cmdImprimir"_s, {}, Icono::Imprimir))
     , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar))
 {
-    for (auto *etiqueta : {m_lblVacio, m_lblBusqueda})
-        etiqueta->setWordWrap(true);
+    m_lblBusqueda->setWordWrap(true);
     if (estado().CABECERA().ejercicio == 0) {
         const auto ultima = cPendientes::UltimaTerminada(QDate::currentDate());
         estado().CABECERA(ultima.ejercicio, ultima.periodo);
@@ -127,9 +126,6 @@ void FrmPendientes::disponer()
     arriba->addStretch(1);
     for (auto *lista : {m_cmbperiodo, m_cmbmostrar})
         lista->setFixedWidth(fontMetrics().horizontalAdvance(u"AURKEZTEKOAK"_s) + 52);
-    m_lblVacio->setAlignment(Qt::AlignCenter);
-    auto *centro = new QVBoxLayout(m_flxPendientes->viewport());
-    centro->addWidget(m_lblVacio);
     agrandarLetra(m_lblBusqueda, 0.9);
 
     auto *cuentas = new QHBoxLayout;

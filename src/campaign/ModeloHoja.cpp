@@ -95,7 +95,7 @@ QVariant ModeloHoja::data(const QModelIndex &indice, int papel) const
 {
     const Fila &una = fila(indice.row());
     const int columna = indice.column();
-    if (papel == Qt::DisplayRole || (papel == Qt::ToolTipRole && columna == Motivo))
+    if (papel == Qt::DisplayRole)
         return texto(una, columna);
     if (papel == Qt::CheckStateRole && columna == Marca && elegible(indice.row()))
         return una.marcada ? Qt::Checked : Qt::Unchecked;

@@ -1,6 +1,7 @@
 #include "declarants/FichaDeclarante.h"
 
 #include "widgets/CajaTexto.h"
+#include "widgets/Disposicion.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -77,8 +78,7 @@ void FichaDeclarante::ordenarTeclado()
         else if (i == CODMUN)
             orden += m_cmdMunicipio;
     }
-    for (qsizetype i = 1; i < orden.size(); ++i)
-        setTabOrder(orden[i - 1], orden[i]);
+    enlazarTab(orden);
 }
 
 /// A label over its controls.

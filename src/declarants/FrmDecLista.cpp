@@ -54,7 +54,7 @@ FrmDecLista::FrmDecLista(QWidget *padre)
     , m_modelo(new ModeloFilas<Fila>(this))
     , m_busqueda(new cUtilidadesGrid(m_flxDeclarantes,
                                      [this](const QString &texto) { return filtrar(texto); }))
-    , m_lblVacio(nuevaEtiqueta(u"lblVacio"_s, m_flxDeclarantes->viewport()))
+    , m_lblVacio(nuevoVacio(m_flxDeclarantes))
     , m_lblBusqueda(nuevaEtiqueta(u"lblBusqueda"_s, this))
     , m_lblNumDecla(nuevaEtiqueta(u"lblNumDecla"_s, this))
     , m_botones(new BarraBotones(u"fraBotones"_s, this))
@@ -63,7 +63,7 @@ FrmDecLista::FrmDecLista(QWidget *padre)
                                      eliminando() ? Icono::Eliminar : Icono::Aceptar))
     , m_cmdCancelar(m_botones->anadir(u"cmdCancelar"_s, u"Piccan"_s, Icono::Cancelar))
 {
-    for (auto *etiqueta : {m_lblOrdenar, m_lblVacio, m_lblBusqueda})
+    for (auto *etiqueta : {m_lblOrdenar, m_lblBusqueda})
         etiqueta->setWordWrap(true);
     estado().ORDEN(cDecLista::PorNombre);
     Anadir_captions();
@@ -135,9 +135,6 @@ void FrmDecLista::ponerAspecto()
 
 void FrmDecLista::disponer()
 {
-    m_lblVacio->setAlignment(Qt::AlignCenter);
-    auto *centro = new QVBoxLayout(m_flxDeclarantes->viewport());
-    centro->addWidget(m_lblVacio);
     agrandarLetra(m_lblBusqueda, 0.9);
 
     auto *pie = new QHBoxLayout;

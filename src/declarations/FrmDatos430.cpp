@@ -5,6 +5,7 @@
 #include "core/Unico.h"
 #include "dataservice/Codigos.h"
 #include "declarations/cDatos430.h"
+#include "widgets/Disposicion.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -79,9 +80,8 @@ void FrmDatos430::disponer()
         rejilla->addWidget(linea.cuota, fila, 3);
     }
     rejilla->addWidget(m_chkrect, 2, 0, 1, 4);
-    setTabOrder(m_lineas[LIQUIDACION].base, m_chkrect);
-    setTabOrder(m_chkrect, m_lineas[RECTIFICACION].base);
-    setTabOrder(m_lineas[RECTIFICACION].base, m_lineas[RECTIFICACION].cuota);
+    enlazarTab({m_lineas[LIQUIDACION].base, m_chkrect, m_lineas[RECTIFICACION].base,
+                m_lineas[RECTIFICACION].cuota});
     QFont negrita = font();
     negrita.setBold(true);
     m_lineas[TOTAL].titulo->setFont(negrita);
@@ -148,7 +148,7 @@ bool FrmDatos430::ValidarCampos()
     const Regla430 regla{registro().ValidarDatos430(registro().RegistroValidar())};
     if (regla == Regla430::BaseRectificada || regla == Regla430::CuotaRectificada) {
         aviso(msj(Msj::ErrorRectificacion430));
-        m_lineas[RECTIFICACION].base->setFocus(Qt::OtherFocusReason);
+        recuperarFoco(m_lineas[RECTIFICACION].base);
     }
     return regla == Regla430::Ninguna;
 }

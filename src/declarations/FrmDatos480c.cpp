@@ -13,6 +13,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -79,6 +80,8 @@ FrmDatos480c::FrmDatos480c(QWidget *padre)
     m_cuerpo->addWidget(m_lblUnTipo);
     m_cuerpo->addWidget(m_lblDiferencia);
     m_cuerpo->addWidget(m_mensuales, 1);
+    // as the page is read: the boxes, the months, and back to the buttons
+    enlazarTab({caja(C80_CU3), m_mensuales->boton(), m_mensuales->lista()});
     alPulsar(m_cmdAceptar, [this] { aceptar(); });
     alPulsar(m_mensuales->boton(), [this] { tomarMensuales(); });
 
@@ -194,7 +197,7 @@ bool FrmDatos480c::ValidarCampos()
     const Regla480 regla{registro().ValidarDatos480(registro().RegistroValidar())};
     if (regla == Regla480::TotalNoExento) {
         aviso(msj(Msj::ErrorTotal480));
-        caja(C73_BA1)->setFocus(Qt::OtherFocusReason);
+        recuperarFoco(caja(C73_BA1));
     }
     return regla == Regla480::Ninguna;
 }

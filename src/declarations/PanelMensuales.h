@@ -23,6 +23,7 @@ public:
     const std::optional<Mensuales430> &anno() const { return m_anno; }
     /// Takes the months' bases into the return.
     QPushButton *boton() const { return m_cmdTomar; }
+    QTreeWidget *lista() const { return m_lst430; }
 
 protected:
     bool eventFilter(QObject *objeto, QEvent *evento) override;

@@ -72,17 +72,18 @@ FrmExportar::Lista FrmExportar::nuevaLista(const QString &nombre, const QString 
     grid->setModel(modelo);
     prepararTablaDeVarias(grid);
     ponerAcciones(grid, {});
-    auto filtrar = [grid, modelo](const QString &texto) {
+    auto filtrar = [this, grid, modelo](const QString &texto) {
         const QString plegado = busqueda::plegar(texto);
         modelo->filtrar([plegado](const Fila &fila) {
             return busqueda::contiene(fila.nombre, plegado)
                 || busqueda::contiene(fila.dni, plegado);
         });
         grid->selectRow(0);
+        presentarVacias();
         return modelo->rowCount() > 0;
     };
-    return {grid, modelo, new cUtilidadesGrid(grid, filtrar),
-            nuevaEtiqueta(resultado, contenido())};
+    return {grid, modelo, new cUtilidadesGrid(grid, filtrar), nuevaEtiqueta(resultado, contenido()),
+            nuevoVacio(grid)};
 }
 
 QLayout *FrmExportar::columnaLista(const Lista &lista) const
@@ -148,18 +149,9 @@ void FrmExportar::disponer()
     todo->addLayout(listas, 1);
     todo->addLayout(filaFichero());
     todo->addWidget(botones);
-    QWidget *const orden[] = {m_listas[Contri].grid,
-                              m_flechas[Contri][false],
-                              m_flechas[Contri][true],
-                              m_flechas[ContriExp][false],
-                              m_flechas[ContriExp][true],
-                              m_listas[ContriExp].grid,
-                              m_txtFichero,
-                              m_cmdFichero,
-                              m_cmdExportar,
-                              m_cmdCancelar};
-    for (size_t i = 1; i < std::size(orden); ++i)
-        setTabOrder(orden[i - 1], orden[i]);
+    enlazarTab({m_listas[Contri].grid, m_flechas[Contri][false], m_flechas[Contri][true],
+                m_flechas[ContriExp][false], m_flechas[ContriExp][true], m_listas[ContriExp].grid,
+                m_txtFichero, m_cmdFichero, m_cmdExportar, m_cmdCancelar});
 }
 
 void FrmExportar::conectar()
@@ -267,8 +259,24 @@ void FrmExportar::presentarListas()
         lista.grid->selectRow(qMin(qMax(0, fila), lista.modelo->rowCount() - 1));
         alSeleccionar(cual);
     }
+    presentarVacias();
     m_listas[Contri].resultado->setText(estado().lblResultado1());
     m_listas[ContriExp].resultado->setText(estado().lblresultado2());
+}
+
+/// Why there is nothing in a list.
+void FrmExportar::presentarVacias()
+{
+    static constexpr Msj motivos[] = {Msj::ExportarTodosElegidos, Msj::ExportarNingunoElegido};
+    for (const auto cual : Tablas) {
+        const Lista &lista = m_listas[cual];
+        const bool buscando
+            = lista.busqueda->hayAlgunaCondicion() && !lista.modelo->todas().isEmpty();
+        const bool nadie = estado().NUMCONTRISEL() + estado().NUMCONTRIEXP() == 0;
+        lista.vacio->setVisible(lista.modelo->rowCount() == 0);
+        lista.vacio->setText(buscando ? msj(Msj::NingunDeclaranteContiene, lista.busqueda->texto())
+                                      : msj(nadie ? Msj::SinDeclarantes : motivos[cual]));
+    }
 }
 
 void FrmExportar::ordenar(int columna)

@@ -35,6 +35,7 @@ private:
         Modelo *modelo;
         cUtilidadesGrid *busqueda;
         QLabel *resultado;
+        QLabel *vacio; ///< why there is nothing in it
     };
 
     Lista nuevaLista(const QString &nombre, const QString &resultado);
@@ -46,6 +47,7 @@ private:
     void ponerColumnas();
     void PresentaDatos();
     void presentarListas();
+    void presentarVacias();
     void ordenar(int columna);
     void alSeleccionar(cExportar::Tabla cual);
     void mover(cExportar::Tabla origen, bool todos);

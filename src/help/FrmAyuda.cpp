@@ -2,6 +2,7 @@
 
 #include "core/Textos.h"
 #include "help/TemasAyuda.h"
+#include "widgets/Disposicion.h"
 #include "widgets/Iconos.h"
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
+#include <QScreen>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTextBrowser>
@@ -143,8 +145,12 @@ void FrmAyuda::disponer()
     auto *todo = new QVBoxLayout(this);
     todo->addWidget(partes);
     const int letra = fontMetrics().averageCharWidth();
-    resize(150 * letra, 38 * fontMetrics().height());
+    const QSize deseado(150 * letra, 38 * fontMetrics().height());
+    const QSize marco(2 * letra, 3 * fontMetrics().height()); // around the window
+    resize(deseado.boundedTo(screen()->availableSize() - marco));
     partes->setSizes({45 * letra, 105 * letra});
+    enlazarTab({m_tabAyuda, m_lstContenido, m_txtIndice, m_lstIndice, m_txtBuscar, m_lstResultados,
+                m_cmdAtras, m_cmdAdelante, m_txtTema});
 }
 
 void FrmAyuda::Anadir_captions()
@@ -157,8 +163,22 @@ void FrmAyuda::Anadir_captions()
     m_txtBuscar->setPlaceholderText(msj(Msj::AyudaPistaBuscar));
     m_cmdAtras->setToolTip(msj(Msj::AyudaAtras));
     m_cmdAdelante->setToolTip(msj(Msj::AyudaAdelante));
-    m_txtTema->setAccessibleName(msj(Msj::AyudaPagina));
+    nombrar();
     llenar();
+}
+
+/// What a screen reader says of each control.
+void FrmAyuda::nombrar()
+{
+    const std::pair<QWidget *, Msj> nombres[] = {
+        {m_tabAyuda, Msj::TituloAyuda},         {m_lstContenido, Msj::AyudaPestanaContenido},
+        {m_lstIndice, Msj::AyudaPestanaIndice}, {m_lstResultados, Msj::AyudaPestanaBuscar},
+        {m_txtIndice, Msj::AyudaPistaIndice},   {m_txtBuscar, Msj::AyudaPistaBuscar},
+        {m_cmdAtras, Msj::AyudaAtras},          {m_cmdAdelante, Msj::AyudaAdelante},
+        {m_txtTema, Msj::AyudaPagina},
+    };
+    for (const auto &[control, nombre] : nombres)
+        control->setAccessibleName(msj(nombre).remove(u'&'));
 }
 
 static void poner(QListWidget *lista, std::span<const ayuda::Entrada> entradas)

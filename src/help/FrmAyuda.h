@@ -34,6 +34,7 @@ private:
     QToolButton *boton(const QString &nombre, Qt::ArrowType flecha);
     void disponer();
     void Anadir_captions();
+    void nombrar();
     void llenar();
     void filtrarIndice();
     void buscar();

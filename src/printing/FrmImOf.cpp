@@ -63,11 +63,9 @@ void FrmImOf::disponer()
     todo->addStretch(1);
     todo->addWidget(pie);
 
-    const QList<QWidget *> orden
-        = m_opciones->orden() + QList<QWidget *>{m_btnOpciones, m_btnVistaPrevia, m_btnGuardarPdf,
-                                                 m_chkUnPdf,    m_btnAceptar,     m_btnCancelar};
-    for (qsizetype i = 1; i < orden.size(); ++i)
-        setTabOrder(orden[i - 1], orden[i]);
+    enlazarTab(m_opciones->orden()
+               + QList<QWidget *>{m_btnOpciones, m_btnVistaPrevia, m_btnGuardarPdf, m_chkUnPdf,
+                                  m_btnAceptar, m_btnCancelar});
 }
 
 void FrmImOf::Anadir_captions()

@@ -40,6 +40,8 @@ void Caja::mostrar(const QString &texto)
 {
     if (text() != texto)
         setText(texto);
+    if (!hasFocus()) // a long text shows its beginning
+        setCursorPosition(0);
     m_mostrado = texto;
     m_anterior = texto;
     m_pendiente = false;

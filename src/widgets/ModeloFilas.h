@@ -14,7 +14,6 @@ template <class Fila> struct ColumnaLista
     std::function<QString(const Fila &)> texto;
     Qt::Alignment alineacion = Qt::AlignLeft;
     QString pista{}; ///< tip of the header
-    bool larga = false; ///< what it shows is the cell's tip too
 };
 
 /// Rows of a record as a Qt model: held once, ordered and filtered by their positions.
@@ -91,7 +90,7 @@ public:
     QVariant data(const QModelIndex &indice, int papel) const override
     {
         const auto &columna = m_columnas.at(indice.column());
-        if (papel == Qt::DisplayRole || (papel == Qt::ToolTipRole && columna.larga))
+        if (papel == Qt::DisplayRole)
             return columna.texto(fila(indice.row()));
         return papel == Qt::TextAlignmentRole ? alineacion(columna) : QVariant();
     }

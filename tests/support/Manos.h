@@ -1,9 +1,12 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -96,6 +99,28 @@ public:
     {
         const QWidget *widget = m_pantalla.focusWidget();
         return widget ? widget->objectName() : QString();
+    }
+
+    /// What can be seen of the screen and not be used: controls without a name for a screen reader,
+    /// columns narrower than their titles.
+    QStringList defectos() const
+    {
+        QStringList hallados;
+        for (auto *uno : m_pantalla.findChildren<QWidget *>()) {
+            const bool ajeno = uno->objectName().startsWith(u"qt_"_s)
+                || uno->inherits("QScrollArea") || qobject_cast<QComboBox *>(uno->parentWidget());
+            if (ajeno || !uno->isVisible() || uno->focusPolicy() == Qt::NoFocus)
+                continue;
+            if (QAccessible::queryAccessibleInterface(uno)->text(QAccessible::Name).isEmpty())
+                hallados += uno->objectName();
+            const auto *lista = qobject_cast<QTableView *>(uno);
+            const auto *titulos = lista ? lista->horizontalHeader() : nullptr;
+            for (int i = 0; titulos && i < titulos->count(); ++i)
+                if (!titulos->isSectionHidden(i)
+                    && titulos->sectionSize(i) < titulos->sectionSizeHint(i))
+                    hallados += uno->objectName() + QString::number(i);
+        }
+        return hallados;
     }
 
 private:
