@@ -129,7 +129,9 @@ private Q_SLOTS:
     void diarioDeOtroPrograma()
     {
         auto otro = otroPrograma(m_servidor->datos());
+        servidor::registrarPrueba(otro);
         otro.exec("BEGIN IMMEDIATE; UPDATE DECLARANTES SET NOMBRE = 'OTRA'");
+        otro.exec("UPDATE DECLARANTES SET PRUEBA = " + servidor::probadaDeclarantes().valor());
         QVERIFY(!m_servidor->traspaso());
         otro.exec("COMMIT");
         QCOMPARE(nombres(), u"OTRA"_s);
@@ -274,9 +276,9 @@ private Q_SLOTS:
     void migracion()
     {
         using namespace servidor;
-        const Formato nuevo{FormatoDatos.aplicacion, 3, false};
-        const Paso pasos[]{{1, "ALTER TABLE DECLARANTES ADD COLUMN FAX TEXT NOT NULL DEFAULT ''"},
-                           {2, "UPDATE DECLARANTES SET FAX = DNI"}};
+        const Formato nuevo{FormatoDatos.aplicacion, 4, false};
+        const Paso pasos[]{{2, "ALTER TABLE DECLARANTES ADD COLUMN FAX TEXT NOT NULL DEFAULT ''"},
+                           {3, "UPDATE DECLARANTES SET FAX = DNI"}};
         const QByteArray antes = bytes(m_servidor->datos());
         // Without the last step nothing of the first one holds.
         QCOMPARE(falloDe([&] { migrar(m_servidor->datos(), nuevo, std::span(pasos).first(1)); }),
@@ -285,10 +287,10 @@ private Q_SLOTS:
         migrar(m_servidor->datos(), nuevo, pasos);
         auto base = otroPrograma(m_servidor->datos());
         QCOMPARE(base.execAndGet("SELECT FAX FROM DECLARANTES").getString(), "12345678Z");
-        QCOMPARE(comprobarCabecera(m_servidor->datos(), nuevo, Version::Actual), 3);
+        QCOMPARE(comprobarCabecera(m_servidor->datos(), nuevo, Version::Actual), 4);
         QCOMPARE(falloDe(usar), Fallo::MasNueva);
-        const QString copia = copiaAnterior(m_servidor->datos(), 1);
-        QCOMPARE(comprobarCabecera(copia, FormatoDatos, Version::Actual), 1);
+        const QString copia = copiaAnterior(m_servidor->datos(), 2);
+        QCOMPARE(comprobarCabecera(copia, FormatoDatos, Version::Actual), 2);
         QCOMPARE(otroPrograma(copia).execAndGet("SELECT count(*) FROM DECLARANTES").getInt(), 1);
     }
 

@@ -186,7 +186,7 @@ void FrmPendientes::Anadir_captions()
         {msj(Msj::ColumnaRazonSocial), [](const Fila &f) { return f.nombre; }},
         {msj(Msj::ColumnaEstado), [](const Fila &f) { return textoEstado(f.estado()); }},
         {msj(Msj::ColumnaImporte),
-         [](const Fila &f) { return f.csde == 0 ? QString() : textoImporte(f.importe); },
+         [](const Fila &f) { return f.conImporte() ? textoImporte(f.importe) : QString(); },
          Qt::AlignRight},
         {msj(Msj::ColumnaFaltan), [](const Fila &f) { return textoMeses(f.faltan); }},
     });

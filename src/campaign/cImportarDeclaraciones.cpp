@@ -201,6 +201,8 @@ void cImportarDeclaraciones::calcular(Fila &fila, const Registro &hallada,
     const qint32 csco = hallada[FilaBuscada::CSCO].toInt();
     if (csco == 0)
         return rechazar(fila, ColumnaCsv::Dni, msj(Msj::CliDeclaranteNoExiste, fila.dni));
+    if (hallada[FilaBuscada::IMPORTE].isNull())
+        return rechazar(fila, ColumnaCsv::Dni, msj(Msj::FalloRegistroDanado, fila.dni));
     auto &cabecera = unico::la<cDecResumen>();
     cabecera.TomarDeclarante(csco, fila.dni, {});
     cabecera.TomarDeclaracion({fila.cabecera, hallada[FilaBuscada::CSDE].toInt(), 0});
@@ -210,7 +212,11 @@ void cImportarDeclaraciones::calcular(Fila &fila, const Registro &hallada,
     if (cabecera.CSDE() != 0) {
         fila.estado = Fila::Sustituye;
         fila.anterior = hallada[FilaBuscada::IMPORTE].toDouble();
-        fila.huella = servicio.Huella(cabecera.CSDE());
+        try {
+            fila.huella = servicio.Huella(cabecera.CSDE());
+        } catch (const ErrorDatos &error) {
+            return rechazar(fila, ColumnaCsv::Ninguna, textoFallo(error));
+        }
     }
     fila.cabecera.modelo == Modelo430 ? calcular430(fila) : calcular480(fila);
 }

@@ -16,8 +16,8 @@
 
 QString textoEstado(EstadoPendiente estado)
 {
-    static constexpr Msj textos[]
-        = {Msj::EstadoGuardada, Msj::EstadoPendiente, Msj::EstadoFaltaAnterior};
+    static constexpr Msj textos[] = {Msj::EstadoGuardada, Msj::EstadoPendiente,
+                                     Msj::EstadoFaltaAnterior, Msj::RegistroDanado};
     return msj(textos[static_cast<int>(estado)]);
 }
 
@@ -81,12 +81,17 @@ QList<DeclarantePendiente> cPendientes::Cargar() const
     const int hasta = finDeAnteriores(m_cabecera);
     servicioDeclaracion()->RecorrerPendientes(
         m_cabecera.ejercicio, m_cabecera.modelo, m_cabecera.periodo, [&](const Registro &fila) {
+            if (esDanado(fila)) {
+                incompletas.append(lista.size());
+                lista.append({fila[CSCO].toInt(), {}, {}, 0, 0, {}, true});
+                return true;
+            }
             const auto meses = mesesQueFaltan(fila, hasta);
             if (!meses)
                 incompletas.append(lista.size());
             lista.append({fila[CSCO].toInt(), fila[DNI].toString(), fila[NOMBRE].toString(),
                           fila[CSDE].toInt(), fila[IMPORTE].toDouble(),
-                          meses.value_or(QList<MesSinDeclarar>())});
+                          meses.value_or(QList<MesSinDeclarar>()), fila[IMPORTE].isNull()});
             return true;
         });
     for (const qsizetype una : std::as_const(incompletas))
@@ -102,13 +107,14 @@ std::optional<DeclarantePendiente> cPendientes::CargarDeclarante(qint32 csco) co
         return {};
     cDecResumen resumen;
     resumen.TomarDeclarante(csco, declarante->dni, declarante->nombre);
-    DeclarantePendiente fila{csco, declarante->dni, declarante->nombre, 0, 0, {}};
+    DeclarantePendiente fila{csco, declarante->dni, declarante->nombre, 0, 0, {}, false};
     DeclaracionListada pedida{m_cabecera};
     for (const auto &guardada : resumen.CargarDeclaraciones())
         if (guardada == m_cabecera)
             pedida = guardada;
     fila.csde = pedida.csde;
     fila.importe = pedida.importe;
+    fila.danada = declarante->danado || pedida.danada;
     resumen.TomarDeclaracion(pedida);
     fila.faltan = resumen.MesesSinDeclarar();
     return fila;
@@ -130,7 +136,7 @@ cPendientes::Plantilla(const QList<DeclarantePendiente> &lista) const
     QByteArray texto = csv::Marca.toByteArray() + csv::linea(titulos);
     qsizetype cuantos = 0;
     for (const auto &fila : lista) {
-        if (fila.estado() == EstadoPendiente::Guardada)
+        if (fila.csde != 0 || fila.danada)
             continue;
         QStringList campos{fila.dni, fila.nombre, QString::number(m_cabecera.ejercicio)};
         if (!anual)
@@ -146,7 +152,7 @@ QList<FilaImprimir> cPendientes::ParaImprimir(const QList<DeclarantePendiente> &
 {
     QList<FilaImprimir> filas;
     for (const auto &una : lista)
-        if (una.estado() == EstadoPendiente::Guardada)
+        if (una.csde != 0) // a damaged one too: why it is not printed is told
             filas.append({una.csco, una.csde, una.dni, una.nombre, m_cabecera});
     return filas;
 }

@@ -11,7 +11,12 @@
 #include <utility>
 
 /// How a declarant stands with the return that everybody has to file.
-enum class EstadoPendiente { Guardada, Pendiente, FaltaAnterior };
+enum class EstadoPendiente {
+    Guardada,
+    Pendiente,
+    FaltaAnterior,
+    Danada, ///< what is stored of the declarant, or of the return, is not what was saved
+};
 
 /// The state for the user, in the session's language.
 QString textoEstado(EstadoPendiente estado);
@@ -25,9 +30,13 @@ struct DeclarantePendiente
     double importe = 0; ///< cents, of the stored return
     QList<MesSinDeclarar>
         faltan; ///< months before it without a 430, the first declared one being the start
+    bool danada = false;
 
+    bool conImporte() const { return csde != 0 && !danada; }
     EstadoPendiente estado() const
     {
+        if (danada)
+            return EstadoPendiente::Danada;
         if (csde != 0)
             return EstadoPendiente::Guardada;
         return faltan.isEmpty() ? EstadoPendiente::Pendiente : EstadoPendiente::FaltaAnterior;

@@ -22,7 +22,8 @@ static int periodoDado(const Argumentos &argumentos)
 
 static QJsonValue nombreEstado(const DeclarantePendiente &fila)
 {
-    static constexpr QStringView nombres[] = {u"GUARDADA", u"PENDIENTE", u"FALTA_ANTERIOR"};
+    static constexpr QStringView nombres[]
+        = {u"GUARDADA", u"PENDIENTE", u"FALTA_ANTERIOR", u"DANADA"};
     return nombres[static_cast<int>(fila.estado())].toString();
 }
 
@@ -41,9 +42,9 @@ static Resultado pendientes(const Argumentos &argumentos)
         return rechazado(textoCabecera(qint16(ReglaCabecera::Fuera)));
     const auto faltan = [](const Fila &f) { return QJsonValue(textoMeses(f.faltan)); };
     const auto importe
-        = [](const Fila &f) { return f.csde == 0 ? QString() : textoImporte(f.importe); };
+        = [](const Fila &f) { return f.conImporte() ? textoImporte(f.importe) : QString(); };
     const auto euros
-        = [](const Fila &f) { return f.csde == 0 ? QJsonValue() : QJsonValue(f.importe / 100); };
+        = [](const Fila &f) { return f.conImporte() ? QJsonValue(f.importe / 100) : QJsonValue(); };
     const Columna<Fila> columnas[] = {
         {u"CSCO", [](const Fila &f) { return QJsonValue(f.csco); }},
         {u"DNI", [](const Fila &f) { return QJsonValue(f.dni); }, msj(Msj::ColumnaDni)},

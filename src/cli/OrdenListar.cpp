@@ -12,6 +12,12 @@ template <class Fila, auto Dato> static QJsonValue de(const Fila &fila)
     return fila.*Dato;
 }
 
+/// Nothing of a damaged declarant.
+template <auto Dato> static QJsonValue numeroDe(const DeclaranteListado &fila)
+{
+    return fila.danado ? QJsonValue() : QJsonValue(fila.*Dato);
+}
+
 static Resultado listarDeclarantes(const Argumentos &argumentos)
 {
     using Fila = DeclaranteListado;
@@ -21,8 +27,8 @@ static Resultado listarDeclarantes(const Argumentos &argumentos)
         {u"NOMBRE", de<Fila, &Fila::nombre>, msj(Msj::ColumnaRazonSocial)},
         {u"NOMMUN", de<Fila, &Fila::nommun>, msj(Msj::ColumnaMunicipio)},
         {u"NOMPROV", de<Fila, &Fila::nomprov>, msj(Msj::ColumnaProvincia)},
-        {u"NUM430", de<Fila, &Fila::num430>, Modelo430, true},
-        {u"NUM480", de<Fila, &Fila::num480>, Modelo480, true},
+        {u"NUM430", numeroDe<&Fila::num430>, Modelo430, true},
+        {u"NUM480", numeroDe<&Fila::num480>, Modelo480, true},
     };
     return listado<Fila>(argumentos, columnas, unico::la<cDecLista>().CargarDeclarantes(),
                          Msj::CliListaVaciaDeclarantes);
@@ -32,9 +38,12 @@ static Resultado listarDeclaraciones(const Argumentos &argumentos)
 {
     using Fila = DeclaracionListada;
     const auto periodo = [](const Fila &f) { return textoPeriodo(f.periodicidad, f.periodo); };
-    const auto importe = [](const Fila &f) { return textoImporte(f.importe); };
+    const auto importe = [](const Fila &f) {
+        return f.danada ? msj(Msj::RegistroDanado) : textoImporte(f.importe);
+    };
     // every amount of up to 13 integer digits and two decimals is exact as a number of euros
-    const auto euros = [](const Fila &f) { return QJsonValue(f.importe / 100); };
+    const auto euros
+        = [](const Fila &f) { return f.danada ? QJsonValue() : QJsonValue(f.importe / 100); };
     const Columna<Fila> columnas[] = {
         {u"CSDE", de<Fila, &Fila::csde>},
         {u"EJERCICIO", de<Fila, &Fila::ejercicio>, msj(Msj::Ejercicio)},

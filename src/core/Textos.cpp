@@ -87,6 +87,8 @@ static Msj mensajeDe(Fallo fallo)
         return Msj::FalloEsElPropio;
     case Fallo::TieneDeclaraciones:
         return Msj::AvisoTieneDeclaraciones;
+    case Fallo::RegistroDanado:
+        return Msj::FalloRegistroDanado;
     }
     return Msj::FalloInterno;
 }
@@ -95,7 +97,9 @@ QString textoFallo(const ErrorDatos &error)
 {
     const bool deUnaFila
         = error.fallo() == Fallo::SinDeclarante || error.fallo() == Fallo::SinDeclaracion;
-    const QString objeto = !deUnaFila ? QDir::toNativeSeparators(error.objeto())
+    const bool conservado = error.fallo() == Fallo::RegistroDanado;
+    const QString objeto = conservado ? error.objeto()
+        : !deUnaFila                  ? QDir::toNativeSeparators(error.objeto())
         : error.objeto().isEmpty()    ? QString()
                                       : u" «%1»"_s.arg(error.objeto());
     return msj(mensajeDe(error.fallo()), objeto);

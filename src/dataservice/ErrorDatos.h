@@ -27,6 +27,8 @@ enum class Fallo {
     NoEsFichero, ///< a folder, a device, a pipe
     EsElPropio, ///< the file to restore from is the one in use
     TieneDeclaraciones, ///< the declarant to delete still has returns
+    RegistroDanado, ///< what is stored does not match its check value; `objeto` says of whom, of
+                    ///< what
 };
 
 /// Thrown by the data service when it cannot do what it was asked; nothing has been changed then.

@@ -2,6 +2,7 @@
 
 #include "dataservice/Codigos.h"
 
+#include <QStringList>
 #include <QVariantList>
 
 #include <array>
@@ -36,6 +37,25 @@ enum Campo {
 };
 }
 
+/// What stands in the place of a RegDeclarante, or of a row of declarants, whose stored data do not
+/// match their check value: its key, and what is sure of the rest (else empty).
+namespace RegDanado {
+enum Campo { CSCO, DNI, NOMBRE, Total };
+}
+inline bool esDanado(const Registro &registro)
+{
+    return registro.size() == RegDanado::Total;
+}
+/// "DNI - NAME", or what is sure of it, or "#17", the key.
+inline QString nombreDanado(const Registro &registro)
+{
+    QStringList sabido{registro.value(RegDanado::DNI).toString(),
+                       registro.value(RegDanado::NOMBRE).toString()};
+    sabido.removeAll(QString());
+    return sabido.isEmpty() ? QStringLiteral("#%1").arg(registro.value(RegDanado::CSCO).toInt())
+                            : sabido.join(QStringLiteral(" - "));
+}
+
 /// Validation record of a declarant: 8 texts.
 namespace RegValidacion {
 enum Campo { DNI, NOMBRE, DOMICILIO, CODPROV, CODPOS, CODMUN, NOMMUN, TELEFONO, Total };
@@ -61,22 +81,24 @@ enum Columna { CSCO, DNI, NOMBRE, Total };
 }
 
 /// Row of a declarant's returns, in the order of the grid that shows them. IMPORTE in cents: the
-/// total quota of a 430, the annual result of a 480.
+/// total quota of a 430, the annual result of a 480; null when the return's data do not match their
+/// check value. Then what is not sure of the header is 0 and empty.
 namespace FilaDeclaracion {
 enum Columna { CSDE, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, TIPOLOGIA, IMPORTE, Total };
 }
 
-/// How a declarant stands with one return: CSDE is 0 and IMPORTE nothing while it is not stored.
-/// PRIMERO is the first month with a 430, counted exercise * 12 + month - 1 (0: none); CUANTOS the
-/// months with one before the return asked for, its own December included for an annual one;
-/// ANTERIORES (qint64) those of the last MesesVistos of them, bit 0 being the latest.
+/// How a declarant stands with one return: CSDE is 0 and IMPORTE nothing while it is not stored;
+/// null as in FilaDeclaracion. A RegDanado for a declarant whose own data do not match. PRIMERO is
+/// the first month with a 430, counted exercise * 12 + month - 1 (0: none); CUANTOS the months with
+/// one before the return asked for, its own December included for an annual one; ANTERIORES
+/// (qint64) those of the last MesesVistos of them, bit 0 being the latest.
 namespace FilaPendiente {
 enum Columna { CSCO, DNI, NOMBRE, CSDE, IMPORTE, PRIMERO, CUANTOS, ANTERIORES, Total };
 inline constexpr int MesesVistos = 60;
 } // namespace FilaPendiente
 
 /// A return looked for by its declarant's identifier, and what is stored of it: keys are 0 where
-/// there is no such declarant or return, IMPORTE as in FilaDeclaracion.
+/// there is no such declarant or return, IMPORTE null when what is stored of either is damaged.
 namespace RegBuscada {
 enum Campo { DNI, EJERCICIO, PERIODO, MODELO, Total };
 }

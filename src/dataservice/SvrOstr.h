@@ -16,6 +16,10 @@
 /// results. A record of the wrong length, or with a field of the wrong kind, is the caller's
 /// mistake and throws std::invalid_argument (Guardar430 and Guardar480 return 0). `idioma` is 0
 /// (Castilian) or 10000 (Basque).
+///
+/// Every stored row has a check value. What does not match it is never handed out, nor written
+/// over: the call throws ErrorDatos (Fallo::RegistroDanado) that names it, and a list of many has a
+/// row in its place that says so. It can be deleted.
 namespace SvrOstr {
 
 /// General lookups and settings.
@@ -60,6 +64,8 @@ public:
     virtual void mdbnameL(const QString &ruta) = 0; ///< lookup database
 
     virtual void CargarDeclarante(qint32 &CSCO, Registro &registro) = 0; ///< RegDeclarante
+    /// The same for a list, in which one whose data are damaged has its place: RegDanado.
+    virtual void CargarListado(qint32 CSCO, Registro &registro) = 0;
     /// Mark of what is stored of a declarant, its returns apart: another one once any of it has
     /// changed, empty when it is not there. To be asked for right after loading and before saving.
     virtual QByteArray Huella(qint32 CSCO) = 0;
@@ -84,16 +90,17 @@ public:
                                                      qsizetype desde, qsizetype hasta,
                                                      Existentes existentes, qint16 idioma)
         = 0;
-    /// FilaDeclarante rows and their number; `orden` 1 by DNI, 2 by name. Needs both databases.
+    /// FilaDeclarante rows (RegDanado for damaged ones, in front) and their number; `orden` 1 by
+    /// DNI, 2 by name. Needs both databases.
     virtual qint32 dameResultado(Filas &filas, quint8 orden, qint16 idioma) = 0;
-    /// RegDeclarante rows of every declarant, in the same orders.
+    /// RegDeclarante rows (or RegDanado) of every declarant, in the same orders.
     virtual qint32 dameResultadoExportar(Filas &filas, quint8 orden) = 0;
     /// The same rows one after the other, none of them kept, until `visitar` returns false; `orden`
     /// 0: as they are stored, which is the fastest.
     virtual void RecorrerExportar(quint8 orden,
                                   const std::function<bool(const Registro &)> &visitar)
         = 0;
-    /// FilaReciente rows: up to four, the last saved first.
+    /// FilaReciente rows: up to four, the last saved first; damaged ones are left out.
     virtual void ObtenerUltimosDeclarantes(Filas &filas) = 0;
     /// Fila430 rows of a declarant's 430 returns of a year, by month; false when there is none.
     virtual bool ObtListDecl430(Filas &filas, qint16 ejercicio, qint32 CSCO) = 0;
@@ -112,7 +119,8 @@ public:
     /// Whether a RegCabecera (first seven elements) lies within its bounds.
     virtual bool EjerPerValidos(const Registro &cabecera) = 0;
     /// Fills a RegUltima for the declarant in its element 0 and the return's key; false when the
-    /// declarant has none. The latest is the highest exercise and period, a 480 after its December.
+    /// declarant has none. The latest is the highest exercise and period, a 480 after its December;
+    /// one that is damaged counts as not there.
     virtual bool ObtenerUltimaDeclaracion(Registro &cabecera, qint32 &CSDE) = 0;
     /// A RegCabecera: 1, 2, 3 empty exercise, period, model; 4 out of bounds; 5 stored already; 0
     /// valid.

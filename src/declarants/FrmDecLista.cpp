@@ -319,8 +319,9 @@ void FrmDecLista::imprimirListado()
         {}};
     for (int i = 0; i < m_modelo->rowCount(); ++i) {
         const Fila &f = m_modelo->fila(i);
-        listado.filas.append({f.dni, f.nombre, f.nommun, f.nomprov, QString::number(f.num430),
-                              QString::number(f.num480)});
+        const auto numero = [&f](qint32 n) { return f.danado ? QString() : QString::number(n); };
+        listado.filas.append(
+            {f.dni, f.nombre, f.nommun, f.nomprov, numero(f.num430), numero(f.num480)});
     }
     SalidaImpresora().vistaPrevia(this, listado);
 }

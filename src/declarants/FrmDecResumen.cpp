@@ -31,6 +31,12 @@ static QString periodoDe(const Fila &fila)
     return textoPeriodo(fila.periodicidad, fila.periodo);
 }
 
+/// The key of one of which the exercise is not sure.
+static QString ejercicioDe(const Fila &fila)
+{
+    return fila.ejercicio == 0 ? u"#%1"_s.arg(fila.csde) : QString::number(fila.ejercicio);
+}
+
 FrmDecResumen::FrmDecResumen(QWidget *padre)
     : PantallaBase(u"FrmDecResumen"_s, padre)
     , m_lbldni(nuevaEtiqueta(u"lbldni"_s, this))
@@ -181,12 +187,15 @@ void FrmDecResumen::Anadir_captions()
         = [](auto dato) { return [dato](const Fila &f) { return QString::number(f.*dato); }; };
     m_modelo->columnas({
         {msj(Msj::ColumnaCodigo), numero(&Fila::csde)},
-        {msj(Msj::Ejercicio), numero(&Fila::ejercicio)},
+        {msj(Msj::Ejercicio), ejercicioDe},
         {msj(Msj::ColumnaPeriodicidad), numero(&Fila::periodicidad)},
         {msj(Msj::Periodo), periodoDe},
         {msj(Msj::Modelo), [](const Fila &f) { return f.modelo; }},
         {msj(Msj::ColumnaTipologia), numero(&Fila::tipologia)},
-        {msj(Msj::ColumnaImporte), [](const Fila &f) { return textoImporte(f.importe); },
+        {msj(Msj::ColumnaImporte),
+         [](const Fila &f) {
+             return f.danada ? msj(Msj::RegistroDanado) : textoImporte(f.importe);
+         },
          Qt::AlignRight},
         {msj(Msj::Periodo), numero(&Fila::periodo)},
     });

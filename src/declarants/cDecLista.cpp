@@ -27,6 +27,8 @@ public:
 
     DeclaranteListado leer(const Registro &registro)
     {
+        if (esDanado(registro))
+            return leerDanado(registro);
         using enum RegDeclarante::Campo;
         return {registro[CSCO].toInt(),
                 registro[DNI].toString(),
@@ -38,6 +40,20 @@ public:
     }
 
 private:
+    static DeclaranteListado leerDanado(const Registro &registro)
+    {
+        using enum RegDanado::Campo;
+        DeclaranteListado fila;
+        fila.csco = registro[CSCO].toInt();
+        fila.dni = registro[DNI].toString();
+        fila.nombre = registro[NOMBRE].toString();
+        fila.nommun = msj(Msj::RegistroDanado);
+        fila.danado = true;
+        if (fila.dni.isEmpty() && fila.nombre.isEmpty())
+            fila.nombre = nombreDanado(registro);
+        return fila;
+    }
+
     QHash<int, QString> m_provincias;
     QSet<QString> m_municipios;
 };
@@ -101,7 +117,7 @@ std::optional<DeclaranteListado> cDecLista::CargarDeclarante(qint32 csco)
 {
     Registro registro;
     try {
-        servicioDeclarante()->CargarDeclarante(csco, registro);
+        servicioDeclarante()->CargarListado(csco, registro);
     } catch (const ErrorDatos &error) {
         if (error.fallo() != Fallo::SinDeclarante)
             throw;

@@ -19,6 +19,8 @@ struct DeclaranteListado
     QString nomprov; ///< in the session's language
     qint32 num430 = 0;
     qint32 num480 = 0;
+    /// What is stored of it is not what was saved: only what is sure is here, a word in `nommun`.
+    bool danado = false;
 };
 
 /// One of the declarants last worked on.

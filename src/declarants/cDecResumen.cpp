@@ -144,7 +144,7 @@ QList<DeclaracionListada> cDecResumen::CargarDeclaraciones()
     for (const QVariant &fila : std::as_const(filas)) {
         const auto celdas = fila.toList();
         lista.append({cabeceraDe(celdas, EJERCICIO), celdas.value(CSDE).toInt(),
-                      celdas.value(IMPORTE).toDouble()});
+                      celdas.value(IMPORTE).toDouble(), celdas.value(IMPORTE).isNull()});
         if (lista.constLast().tipologia == Tipologia430)
             m_mensuales.append(cuentaDeMes(lista.constLast()));
     }
@@ -166,6 +166,8 @@ QList<MesSinDeclarar> cDecResumen::MesesSinDeclarar() const
 
 void cDecResumen::BorrarDeclaracion(const DeclaracionListada &declaracion) const
 {
+    if (declaracion.modelo.isEmpty()) // it may be anybody's
+        throw ErrorDatos(Fallo::RegistroDanado, u"430/480 #%1"_s.arg(declaracion.csde));
     auto servicio = servicioDeclaracion();
     servicio->BorrarDatosNoComunes(declaracion.csde, declaracion.modelo);
     servicio->BorrarDeclaracion(declaracion.csde);

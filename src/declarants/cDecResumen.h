@@ -47,6 +47,7 @@ struct DeclaracionListada : CabeceraListada
 {
     qint32 csde = 0;
     double importe = 0; ///< cents: the total quota of a 430, the annual result of a 480
+    bool danada = false; ///< not what was saved: no amount, and only what is sure of the header
 };
 
 /// Header of the return in hand and identity of its declarant, shared by the summary, the entry

@@ -8,6 +8,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 static constexpr qint64 CadaCuanto = 500; // lines between two looks at the user
 
 static bool esSalidaEstandar(const QString &destino)
@@ -31,8 +33,13 @@ Exportado exportar(const QString &destino, const std::function<void(const Visita
     try {
         abrir(salida, destino);
         QByteArray linea;
+        QStringList danados;
         qint64 numero = 0;
         recorrer([&](const Registro &declarante) {
+            if (esDanado(declarante)) {
+                danados += nombreDanado(declarante);
+                return true;
+            }
             linea.truncate(0);
             ++numero;
             if (const auto malo = intercambio::escribirLinea(linea, declarante)) {
@@ -44,6 +51,8 @@ Exportado exportar(const QString &destino, const std::function<void(const Visita
             return !hecho.detenida;
         });
         salida->terminar();
+        if (hecho.motivo.isEmpty() && !danados.isEmpty())
+            hecho.motivo = msj(Msj::FalloRegistroDanado, danados.join(u"; "_s));
     } catch (const std::exception &error) {
         hecho.motivo = textoFallo(error);
     }

@@ -1,7 +1,14 @@
 #include "exchange/TablaDeclarantes.h"
 
+#include "core/Textos.h"
+
+using namespace Qt::StringLiterals;
+
 DeclaranteExportable DeclaranteExportable::de(const Registro &registro)
 {
+    if (esDanado(registro))
+        return {registro[RegDanado::CSCO].toInt(), registro[RegDanado::DNI].toString(),
+                nombreDanado(registro) + u": "_s + msj(Msj::RegistroDanado), registro};
     return {registro.value(RegDeclarante::CSCO).toInt(),
             registro.value(RegDeclarante::DNI).toString(),
             registro.value(RegDeclarante::NOMBRE).toString(), registro};

@@ -1,5 +1,6 @@
 #include "server/AlmacenConjunto.h"
 
+#include "resources/TablaMensajes.h"
 #include "server/AlmacenDeclarantes.h"
 #include "server/ValidacionDeclarante.h"
 
@@ -16,14 +17,15 @@ class Destino
 {
 public:
     Destino(const PConexion &datos, Existentes existentes)
-        : m_existentes(existentes)
+        : m_datos(datos)
+        , m_existentes(existentes)
         , m_alta(datos, EscrituraDeclarante::Clase::Alta)
         , m_cambio(datos, EscrituraDeclarante::Clase::Cambio)
-        , m_clave(datos, "SELECT CSCO FROM DECLARANTES WHERE DNI = ?")
     {
     }
 
-    /// Nothing when the set has to end before this one.
+    /// Nothing when the set has to end before this one. Throws RegistroDanado, and nothing is
+    /// written, when what is stored of it is damaged.
     std::optional<Clase> guardar(DatosDeclarante &declarante)
     {
         if (m_existentes == Existentes::Examinar)
@@ -42,14 +44,22 @@ public:
 private:
     qint32 clave(const DatosDeclarante &declarante)
     {
-        return m_clave.con(declarante.textos[RegDeclarante::DNI]).fila() ? m_clave.clave(0) : 0;
+        return claveDeDni(m_datos, declarante.textos[RegDeclarante::DNI]);
     }
 
+    PConexion m_datos;
     Existentes m_existentes;
     EscrituraDeclarante m_alta;
     EscrituraDeclarante m_cambio;
-    Sentencia m_clave;
 };
+
+/// One that is refused because of what is stored of it, as a finding.
+QString hallazgo(const ErrorDatos &error, Idioma idioma)
+{
+    if (error.fallo() != Fallo::RegistroDanado)
+        throw;
+    return textoMensaje(static_cast<int>(Msj::FalloRegistroDanado), idioma).arg(error.objeto());
+}
 
 QList<ResultadoConjunto> guardarTramo(Destino &destino, const ReglasImportar &reglas,
                                       const Tramo &tramo)
@@ -63,10 +73,15 @@ QList<ResultadoConjunto> guardarTramo(Destino &destino, const ReglasImportar &re
             resultados.append(ResultadoConjunto{Clase::Incorrecto, std::move(hallazgos)});
             continue;
         }
-        const auto clase = destino.guardar(declarante);
-        if (!clase)
-            break;
-        resultados.append(ResultadoConjunto{*clase, {}});
+        try {
+            const auto clase = destino.guardar(declarante);
+            if (!clase)
+                break;
+            resultados.append(ResultadoConjunto{*clase, {}});
+        } catch (const ErrorDatos &error) {
+            resultados.append(
+                ResultadoConjunto{Clase::Incorrecto, {hallazgo(error, reglas.idioma())}});
+        }
     }
     return resultados;
 }

@@ -3,6 +3,7 @@
 #include "dataservice/ErrorDatos.h"
 #include "dataservice/Registros.h"
 #include "server/AlmacenDeclarantes.h"
+#include "server/Danados.h"
 #include "server/LectorRegistro.h"
 
 #include <optional>
@@ -50,21 +51,22 @@ Modelo::Modelo(const QString &codigoModelo, qint32 periodicidadModelo, qsizetype
     , periodicidad(periodicidadModelo)
     , listado(figuraListada)
     , columnas(std::move(columnasModelo))
-    , tabla("DATOS" + codigo.toStdString())
-    , borrar("DELETE FROM " + tabla + " WHERE CSDE = ?")
+    , probada{"DATOS" + codigo.toStdString(), "CSDE", {}}
+    , borrar("DELETE FROM " + probada.nombre + " WHERE CSDE = ?")
 {
-    std::string nombres, definiciones, huecos;
+    const std::string &tabla = probada.nombre;
+    std::string nombres, definiciones;
     for (const Columna &columna : columnas) {
-        nombres += (nombres.empty() ? "" : ", ") + columna.nombre;
+        nombres += columna.nombre + ", ";
+        probada.columnas += ", " + columna.nombre;
         definiciones += ", " + columna.nombre
             + (columna.clase == Clase::Marca ? " TEXT NOT NULL" : " INTEGER NOT NULL");
-        huecos += ", ?";
     }
     crear = "CREATE TABLE " + tabla + " (CSDE INTEGER PRIMARY KEY REFERENCES DECLARACIONES (CSDE)"
         + definiciones + ") STRICT;";
-    guardar
-        = "INSERT OR REPLACE INTO " + tabla + " (CSDE, " + nombres + ") VALUES (?" + huecos + ")";
-    leer = "SELECT " + nombres + " FROM " + tabla + " WHERE CSDE = ?";
+    guardar = "INSERT OR REPLACE INTO " + tabla + " (" + probada.columnas + ", PRUEBA) VALUES ("
+        + probada.parametros() + ", " + probada.valorParametros() + ")";
+    leer = "SELECT " + nombres + probada.bien() + " FROM " + tabla + " WHERE CSDE = ?";
 }
 
 const Modelo &modelo430()
@@ -118,14 +120,6 @@ bool esDelModelo(const Cabecera &cabecera, const Modelo &modelo)
         && (!anual || cabecera.periodo == PeriodoAnual);
 }
 
-QString nombreDe(const Cabecera &cabecera)
-{
-    const QString anno = u"%1 %2"_s.arg(cabecera.modelo).arg(cabecera.ejercicio);
-    return cabecera.periodicidad == PeriodicidadAnual
-        ? anno
-        : anno + u"-%1"_s.arg(cabecera.periodo, 2, 10, QChar(u'0'));
-}
-
 QVariantList leerFiguras(LectorRegistro &lector, const Modelo &modelo)
 {
     QVariantList figuras;
@@ -147,37 +141,54 @@ QVariantList leerFiguras(LectorRegistro &lector, const Modelo &modelo)
     return figuras;
 }
 
+/// False when there is no such return; throws RegistroDanado.
+bool cabeceraBien(const PConexion &conexion, qint32 CSDE)
+{
+    static const std::string sql
+        = "SELECT " + probadaDeclaraciones().bien() + " FROM DECLARACIONES WHERE CSDE = ?";
+    Sentencia fila(conexion, sql);
+    if (!fila.con(CSDE).fila())
+        return false;
+    if (!filaBien(fila))
+        declaracionDanada(conexion, CSDE);
+    return true;
+}
+
 /// The key of the new header, 0 when there is such a return already.
 qint32 insertarCabecera(const PConexion &conexion, const Cabecera &cabecera, qint64 importe)
 {
-    Sentencia sentencia(
-        conexion,
-        "INSERT INTO DECLARACIONES (CSCO, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, "
-        "TIPOLOGIA, IMPORTE) SELECT ?, ?, ?, ?, ?, ?, ? WHERE true "
-        "ON CONFLICT (CSCO, EJERCICIO, PERIODO, MODELO) DO NOTHING");
-    sentencia.con(cabecera.csco, cabecera.ejercicio, cabecera.periodicidad, cabecera.periodo,
+    const TablaProbada &t = probadaDeclaraciones();
+    static const std::string sql = "INSERT INTO DECLARACIONES (" + t.columnas + ", PRUEBA) SELECT "
+        + t.parametros() + ", " + t.valorParametros()
+        + " WHERE true ON CONFLICT (CSCO, EJERCICIO, PERIODO, MODELO) DO NOTHING";
+    const qint32 clave = siguienteClave(conexion, t);
+    Sentencia sentencia(conexion, sql);
+    sentencia.con(clave, cabecera.csco, cabecera.ejercicio, cabecera.periodicidad, cabecera.periodo,
                   cabecera.modelo, cabecera.tipologia, importe);
-    return sentencia.ejecutar() == 0 ? 0 : conexion->ultimaClave();
+    return sentencia.ejecutar() == 0 ? 0 : clave;
 }
 
 /// The key of the return, 0 when its stored header is another one than `cabecera`.
 qint32 actualizarCabecera(const PConexion &conexion, const Cabecera &cabecera, qint64 importe)
 {
-    if (!Sentencia(conexion, "SELECT 1 FROM DECLARACIONES WHERE CSDE = ?")
-             .con(cabecera.csde)
-             .fila())
-        sinDeclaracion(nombreDe(cabecera));
-    Sentencia sentencia(conexion,
-                        "UPDATE DECLARACIONES SET IMPORTE = ? WHERE CSDE = ? AND CSCO = ? "
-                        "AND EJERCICIO = ? AND PERIODO = ? AND MODELO = ?");
-    sentencia.con(importe, cabecera.csde, cabecera.csco, cabecera.ejercicio, cabecera.periodo,
-                  cabecera.modelo);
+    if (!cabeceraBien(conexion, cabecera.csde))
+        sinDeclaracion(nombreCabecera(cabecera.modelo, cabecera.ejercicio, cabecera.periodo));
+    // the parameters are all that the value is made of
+    static const std::string sql = "UPDATE DECLARACIONES SET IMPORTE = ?8, PRUEBA = "
+        + probadaDeclaraciones().valorParametros()
+        + " WHERE CSDE = ?1 AND CSCO = ?2 AND EJERCICIO = ?3 AND PERIODICIDAD = ?4 "
+          "AND PERIODO = ?5 AND MODELO = ?6 AND TIPOLOGIA = ?7";
+    Sentencia sentencia(conexion, sql);
+    sentencia.con(cabecera.csde, cabecera.csco, cabecera.ejercicio, cabecera.periodicidad,
+                  cabecera.periodo, cabecera.modelo, cabecera.tipologia, importe);
     return sentencia.ejecutar() == 0 ? 0 : cabecera.csde;
 }
 
 void guardarFiguras(const PConexion &conexion, const Modelo &modelo, qint32 CSDE,
                     const QVariantList &figuras)
 {
+    if (Sentencia antes(conexion, modelo.leer); antes.con(CSDE).fila() && !filaBien(antes))
+        declaracionDanada(conexion, CSDE);
     Sentencia sentencia(conexion, modelo.guardar);
     int indice = 1;
     sentencia.ligar(indice, CSDE);
@@ -229,8 +240,10 @@ qint32 guardarDelConjunto(const PConexion &conexion, const Registro &datos)
     try {
         return guardarEn(conexion, *leida);
     } catch (const ErrorDatos &error) {
-        // its return is not there, or its declarant, as the foreign key tells; nothing was written
-        if (error.fallo() != Fallo::SinDeclaracion && error.fallo() != Fallo::TieneDeclaraciones)
+        // its return is not there, or its declarant, as the foreign key tells, or what is stored of
+        // it is damaged; nothing was written
+        if (error.fallo() != Fallo::SinDeclaracion && error.fallo() != Fallo::TieneDeclaraciones
+            && error.fallo() != Fallo::RegistroDanado)
             throw;
         return 0;
     }
@@ -268,8 +281,10 @@ Registro guardarDeclaraciones(const QString &ruta, const Filas &registros, bool 
 Registro cargarFiguras(const PConexion &conexion, const Modelo &modelo, qint32 CSDE)
 {
     Sentencia sentencia(conexion, modelo.leer);
-    if (!sentencia.con(CSDE).fila())
+    if (!cabeceraBien(conexion, CSDE) || !sentencia.con(CSDE).fila())
         sinDeclaracion();
+    if (!filaBien(sentencia))
+        declaracionDanada(conexion, CSDE);
     Registro figuras;
     int columna = 0;
     for (const auto &definicion : modelo.columnas) {

@@ -2,6 +2,7 @@
 
 #include "dataservice/Registros.h"
 #include "server/Conexion.h"
+#include "server/Prueba.h"
 
 #include <QString>
 
@@ -28,8 +29,8 @@ struct Modelo
     qsizetype listado; ///< the figure shown in the list of returns
     std::vector<Columna> columnas;
 
-    std::string tabla;
-    std::string crear, guardar, leer, borrar; ///< SQL
+    TablaProbada probada;
+    std::string crear, guardar, leer, borrar; ///< SQL; `crear` is that of schema 1
 };
 
 const Modelo &modelo430();

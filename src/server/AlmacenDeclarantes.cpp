@@ -2,10 +2,13 @@
 
 #include "dataservice/ClaveOrden.h"
 #include "dataservice/ErrorDatos.h"
+#include "server/Danados.h"
+#include "server/Prueba.h"
 
 #include <QCryptographicHash>
 
 #include <algorithm>
+#include <limits>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -18,17 +21,22 @@ using namespace RegDeclarante;
 
 constexpr qint32 CodigoMunicipioMaximo = 999;
 
-// Parameters 1 to 15 are CSCO to TELEFONO of the record, 16 the sort key.
-constexpr const char *Alta = R"(
-INSERT INTO DECLARANTES (DNI, NOMBRE, VIA, DOMICILIO, NUMERO, LETRA, ESCALERA, PISO, MANO, CODPROV,
-    CODPOS, CODMUN, NOMMUN, TELEFONO, CLAVE)
-VALUES (?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12, ?13, ?14, ?15, ?16)
-ON CONFLICT (DNI) DO NOTHING)";
+// Parameters 1 to 15 are CSCO to TELEFONO of the record, 16 the sort key: the columns of
+// probadaDeclarantes in their order.
+std::string alta()
+{
+    const TablaProbada &t = probadaDeclarantes();
+    return "INSERT INTO DECLARANTES (" + t.columnas + ", PRUEBA) VALUES (" + t.parametros() + ", "
+        + t.valorParametros() + ") ON CONFLICT (DNI) DO NOTHING";
+}
 
-constexpr const char *Cambio = R"(
-UPDATE DECLARANTES SET DNI = ?2, NOMBRE = ?3, VIA = ?4, DOMICILIO = ?5, NUMERO = ?6, LETRA = ?7,
-    ESCALERA = ?8, PISO = ?9, MANO = ?10, CODPROV = ?11, CODPOS = ?12, CODMUN = ?13, NOMMUN = ?14,
-    TELEFONO = ?15, CLAVE = ?16 WHERE CSCO = ?1)";
+// Not over a row that is not as it was written.
+std::string cambio()
+{
+    const TablaProbada &t = probadaDeclarantes();
+    return "UPDATE DECLARANTES SET (" + t.columnas + ", PRUEBA) = (" + t.parametros() + ", "
+        + t.valorParametros() + t.cuentas + ") WHERE CSCO = ?1 AND " + t.bien();
+}
 
 std::string claveDelNombre(const std::string &nombre)
 {
@@ -68,14 +76,40 @@ QString codigo(qint64 valor, qsizetype cifras)
 
 } // namespace
 
-EscrituraDeclarante::EscrituraDeclarante(const PConexion &conexion, Clase clase)
-    : m_sentencia(conexion, clase == Clase::Alta ? Alta : Cambio)
+// Told before the row is written, whose check value it enters into. As SQLite does by itself: not
+// used again after a deletion.
+qint32 siguienteClave(const PConexion &conexion, const TablaProbada &tabla)
 {
+    const std::string clave = tabla.columnas.substr(0, tabla.columnas.find(','));
+    Sentencia sentencia(conexion,
+                        "SELECT 1 + max((SELECT coalesce(max(seq), 0) FROM sqlite_sequence WHERE "
+                        "name = '"
+                            + tabla.nombre + "'), (SELECT coalesce(max(" + clave + "), 0) FROM "
+                            + tabla.nombre + "))");
+    sentencia.filaDebida();
+    const qint64 siguiente = sentencia.entero(0);
+    if (siguiente > std::numeric_limits<qint32>::max())
+        throw ErrorDatos(Fallo::Danada, conexion->ruta(), u"no keys are left"_s);
+    return static_cast<qint32>(siguiente);
+}
+
+EscrituraDeclarante::EscrituraDeclarante(const PConexion &conexion, Clase clase)
+    : m_conexion(conexion)
+    , m_sentencia(conexion, sentencia(clase))
+    , m_siguiente(clase == Clase::Alta ? siguienteClave(conexion, probadaDeclarantes()) : 0)
+{
+}
+
+const std::string &EscrituraDeclarante::sentencia(Clase clase)
+{
+    static const std::string sentencias[] = {alta(), cambio()};
+    return sentencias[static_cast<int>(clase)];
 }
 
 bool EscrituraDeclarante::escribir(const DatosDeclarante &datos)
 {
-    m_sentencia.ligar(1, datos.csco);
+    const qint32 clave = m_siguiente != 0 ? m_siguiente : datos.csco;
+    m_sentencia.ligar(1, clave);
     for (int i = DNI; i <= TELEFONO; ++i) {
         const auto campo = static_cast<Campo>(i);
         if (!DatosDeclarante::esCodigo(campo))
@@ -87,7 +121,33 @@ bool EscrituraDeclarante::escribir(const DatosDeclarante &datos)
     }
     m_clave = claveDelNombre(datos.textos[NOMBRE]);
     m_sentencia.ligarFijo(TELEFONO + 2, m_clave);
-    return m_sentencia.ejecutar() > 0;
+    const bool escrito = m_sentencia.ejecutar() > 0;
+    if (m_siguiente != 0)
+        m_siguiente += escrito ? 1 : 0;
+    else if (!escrito)
+        exigirBien(m_conexion, clave);
+    return escrito;
+}
+
+void exigirBien(const PConexion &conexion, qint32 CSCO)
+{
+    static const std::string sql
+        = "SELECT " + probadaDeclarantes().bien() + " FROM DECLARANTES WHERE CSCO = ?";
+    Sentencia fila(conexion, sql);
+    if (fila.con(CSCO).fila() && !filaBien(fila))
+        declaranteDanado(conexion, CSCO);
+}
+
+qint32 claveDeDni(const PConexion &conexion, const std::string &dni)
+{
+    static const std::string sql
+        = "SELECT CSCO, " + probadaDeclarantes().bien() + " FROM DECLARANTES WHERE DNI = ?";
+    Sentencia fila(conexion, sql);
+    if (!fila.con(dni).fila())
+        return 0;
+    if (!filaBien(fila)) // the row, or the entry of the index that led to it
+        declaranteDanado(conexion, fila.clave(0));
+    return fila.clave(0);
 }
 
 Guardado guardarDeclarante(const PConexion &conexion, const Registro &registro)
@@ -110,19 +170,26 @@ Guardado guardarDeclarante(const PConexion &conexion, const Registro &registro)
 
 void marcarReciente(const PConexion &conexion, qint32 CSCO)
 {
-    Sentencia sentencia(conexion,
-                        "UPDATE DECLARANTES SET RECIENTE = 1 + (SELECT max(RECIENTE) FROM "
-                        "DECLARANTES) WHERE CSCO = ?");
+    static const std::string sql = "UPDATE DECLARANTES SET (RECIENTE, PRUEBA) = (N, PRUEBA + "
+        + std::to_string(FactorReciente)
+        + " * (N - RECIENTE)) FROM (SELECT 1 + max(RECIENTE) AS N FROM DECLARANTES) WHERE CSCO = ?";
+    Sentencia sentencia(conexion, sql);
     if (sentencia.con(CSCO).ejecutar() == 0)
         sinDeclarante();
 }
 
 std::string seleccionDeclarante(std::string_view resto)
 {
-    return std::string("SELECT CSCO, DNI, NOMBRE, VIA, DOMICILIO, NUMERO, LETRA, ESCALERA, PISO, "
-                       "MANO, CODPROV, CODPOS, CODMUN, NOMMUN, TELEFONO, NUM430, NUM480 "
-                       "FROM DECLARANTES ")
-        .append(resto);
+    static const std::string todo
+        = "SELECT CSCO, DNI, NOMBRE, VIA, DOMICILIO, NUMERO, LETRA, ESCALERA, PISO, "
+          "MANO, CODPROV, CODPOS, CODMUN, NOMMUN, TELEFONO, NUM430, NUM480, "
+        + probadaDeclarantes().bien() + " FROM DECLARANTES ";
+    return todo + std::string(resto);
+}
+
+bool filaBien(const Sentencia &fila)
+{
+    return fila.entero(fila.columnas() - 1) == 1;
 }
 
 Registro registroDeclarante(const Sentencia &fila)
@@ -150,6 +217,21 @@ Registro registroDeclarante(const Sentencia &fila)
         }
     }
     return registro;
+}
+
+Registro registroListado(const PConexion &conexion, const Sentencia &fila)
+{
+    if (filaBien(fila))
+        return registroDeclarante(fila);
+    return registroDanado(conexion, fila.clave(CSCO));
+}
+
+Registro registroDanado(const PConexion &conexion, qint32 CSCO)
+{
+    return conErroresDe(*conexion, [&]() -> Registro {
+        const auto [dni, nombre] = declaranteSeguro(conexion->base(), CSCO);
+        return {CSCO, dni, nombre};
+    });
 }
 
 QByteArray huella(const Registro &registro)

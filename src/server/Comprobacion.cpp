@@ -2,6 +2,7 @@
 
 #include "server/Diario.h"
 #include "server/FicherosBase.h"
+#include "server/Prueba.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -165,7 +166,9 @@ SQLite::Database abrir(const QString &ruta, const Formato &formato, Version vers
     return conErrores(ruta, [&] {
         const int modo = formato.soloLectura ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
         // one thread alone uses it: no lock at each of SQLite's calls
-        return SQLite::Database(ruta.toStdString(), modo | SQLite::OPEN_NOMUTEX, EsperaMs);
+        SQLite::Database base(ruta.toStdString(), modo | SQLite::OPEN_NOMUTEX, EsperaMs);
+        registrarPrueba(base);
+        return base;
     });
 }
 

@@ -21,7 +21,7 @@ struct Formato
 };
 
 /// Different numbers, so that one of our files is never taken for the other.
-inline constexpr Formato FormatoDatos{0x4F73744D, 1, false}; // "OstM"
+inline constexpr Formato FormatoDatos{0x4F73744D, 2, false}; // "OstM"
 
 /// To be raised whenever one of the lookup texts changes: an installed file is then renewed.
 inline constexpr qint32 EdicionLectura = 1;

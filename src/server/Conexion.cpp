@@ -1,6 +1,7 @@
 #include "server/Conexion.h"
 
 #include "server/Comprobacion.h"
+#include "server/Danados.h"
 #include "server/Diario.h"
 #include "server/Sentencia.h"
 
@@ -74,6 +75,12 @@ void Conexion::comprobarEntera()
     if (!m_entera)
         conErroresDe(*this, [this] { comprobarContenido(m_base, m_ruta); });
     m_entera = true;
+}
+
+void Conexion::comprobarFilas()
+{
+    const LecturaUnica vista(shared_from_this());
+    servidor::comprobarFilas(m_base, m_ruta);
 }
 
 // Through SQLite's own file: another one, closed again, would drop SQLite's locks.

@@ -21,7 +21,7 @@ using PConexion = std::shared_ptr<Conexion>;
 /// that a service object costs nothing to make; one whose file was replaced or removed, or gave an
 /// error, is dropped.
 /// For one thread, as the whole service is.
-class Conexion
+class Conexion : public std::enable_shared_from_this<Conexion>
 {
 public:
     static PConexion datos(const QString &ruta) { return de(ruta, FormatoDatos); }
@@ -39,6 +39,8 @@ public:
     bool soloLectura() const;
     /// Looks through the whole file unless that has been done; throws ErrorDatos.
     void comprobarEntera();
+    /// Looks at every row, as of one moment (Danados.h); throws ErrorDatos.
+    void comprobarFilas();
     /// Room for the pages of a work over the whole of a large database, or the usual one.
     enum class Paginas { Usuales, Muchas };
     void paginas(Paginas cuantas);

@@ -2,7 +2,9 @@
 
 #include "server/Comprobacion.h"
 #include "server/CopiasAnteriores.h"
+#include "server/Danados.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -36,6 +38,9 @@ template <class F> void deEsteFichero(const QString &ruta, const QString &propia
     try {
         f();
     } catch (const ErrorDatos &error) {
+        if (error.fallo() == Fallo::RegistroDanado)
+            throw ErrorDatos(error.fallo(),
+                             error.objeto() + u" ("_s + QDir::toNativeSeparators(ruta) + u')');
         const bool delDisco
             = error.fallo() == Fallo::SinEspacio || error.fallo() == Fallo::SoloLectura;
         throw ErrorDatos(error.fallo(), delDisco ? propia : ruta, QString::fromUtf8(error.what()));
@@ -59,7 +64,7 @@ ResumenBase resumir(SQLite::Database &base, const QString &ruta)
 CopiaElegida::CopiaElegida(const QString &ruta, const QString &propia)
     : m_fichero(propia + u".elegida"_s)
 {
-    comprobarCabecera(ruta, FormatoDatos, Version::ActualOMenor);
+    const qint32 esquema = comprobarCabecera(ruta, FormatoDatos, Version::ActualOMenor);
     if (esLaMisma(ruta, propia))
         throw ErrorDatos(Fallo::EsElPropio, ruta);
     deEsteFichero(ruta, propia, [&] {
@@ -67,6 +72,8 @@ CopiaElegida::CopiaElegida(const QString &ruta, const QString &propia)
         QFile::setPermissions(m_fichero.ruta(), QFile::ReadOwner | QFile::WriteOwner);
         m_base = abrirComprobada(m_fichero.ruta(), FormatoDatos, Version::ActualOMenor);
         comprobarEntera(*m_base, ruta);
+        if (esquema == FormatoDatos.esquema)
+            comprobarFilas(*m_base, ruta);
         m_resumen = resumir(*m_base, m_fichero.ruta());
     });
     m_resumen.ruta = ruta;

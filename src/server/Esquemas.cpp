@@ -4,6 +4,7 @@
 #include "server/AlmacenDeclaraciones.h"
 #include "server/Comprobacion.h"
 #include "server/FicherosBase.h"
+#include "server/Prueba.h"
 
 #include <QFile>
 #include <QStringList>
@@ -19,9 +20,10 @@ namespace servidor {
 
 namespace {
 
-// CLAVE is the sort key of the name, RECIENTE the order of the last saves (0: never counted).
-// Keys are not used again after a deletion: a screen may still hold one. The names have no index:
-// it would cost a large import half of its time, and putting 100,000 of them in order takes 0.1 s.
+// Schema 1. CLAVE is the sort key of the name, RECIENTE the order of the last saves (0: never
+// counted). Keys are not used again after a deletion: a screen may still hold one. The names have
+// no index: it would cost a large import half of its time, and putting 100,000 of them in order
+// takes 0.1 s.
 constexpr const char *TablasDatos = R"(
 CREATE TABLE DECLARANTES (
     CSCO INTEGER PRIMARY KEY AUTOINCREMENT,
@@ -73,14 +75,52 @@ CREATE TABLE AJUSTES (
 ) STRICT, WITHOUT ROWID;
 )";
 
+// Counted anew: the triggers of schema 1 had nothing to tell a wrong count by.
+constexpr const char *Contadas = R"(
+UPDATE DECLARANTES SET
+    NUM430 = (SELECT count(*) FROM DECLARACIONES D WHERE D.CSCO = DECLARANTES.CSCO AND MODELO = '430'),
+    NUM480 = (SELECT count(*) FROM DECLARACIONES D WHERE D.CSCO = DECLARANTES.CSCO AND MODELO = '480');
+DROP TRIGGER DECLARACION_ALTA;
+DROP TRIGGER DECLARACION_BAJA;
+)";
+
+/// Keeps the counters, and the value with them, after `cuando`; `fila` is NEW or OLD.
+std::string disparador(const char *nombre, const char *cuando, const std::string &signo,
+                       const std::string &fila)
+{
+    const auto cuenta
+        = [&](const std::string &modelo) { return "(" + fila + ".MODELO = '" + modelo + "')"; };
+    const auto prueba = [&](const std::string &modelo, int factor) {
+        return signo + std::to_string(factor) + " * " + cuenta(modelo);
+    };
+    return std::string("CREATE TRIGGER ") + nombre + " AFTER " + cuando
+        + " ON DECLARACIONES BEGIN UPDATE DECLARANTES SET NUM430 = NUM430" + signo + cuenta("430")
+        + ", NUM480 = NUM480" + signo + cuenta("480") + ", PRUEBA = PRUEBA"
+        + prueba("430", Factor430) + prueba("480", Factor480) + " WHERE CSCO = " + fila
+        + ".CSCO; END;";
+}
+
 } // namespace
 
+std::string sqlDesdeEsquema1()
+{
+    std::string sql = Contadas;
+    for (const TablaProbada *tabla : tablasProbadas())
+        sql += "ALTER TABLE " + tabla->nombre + " ADD COLUMN PRUEBA INTEGER NOT NULL DEFAULT 0;"
+            + "UPDATE " + tabla->nombre + " SET PRUEBA = " + tabla->valor() + ";";
+    return sql + disparador("DECLARACION_ALTA", "INSERT", " + ", "NEW")
+        + disparador("DECLARACION_BAJA", "DELETE", " - ", "OLD");
+}
+
+// A new one takes the steps of an old one, so that both are the same.
 bool crearDatos(const QString &ruta)
 {
     return crearFichero(ruta, FormatoDatos, Lugar::Vacio, [](SQLite::Database &base) {
+        registrarPrueba(base);
         base.exec(TablasDatos);
         base.exec(modelo430().crear);
         base.exec(modelo480().crear);
+        base.exec(sqlDesdeEsquema1());
     });
 }
 

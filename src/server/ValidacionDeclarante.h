@@ -24,6 +24,7 @@ class ReglasImportar
 {
 public:
     ReglasImportar(const PConexion &lectura, qint16 idioma);
+    Idioma idioma() const { return m_idioma; }
 
     /// Findings, in the order in which they are told; at most one a field and cause.
     QStringList hallazgos(const DatosDeclarante &declarante) const;

@@ -2,6 +2,7 @@
 
 #include "dataservice/ErrorDatos.h"
 #include "server/ListaLectura.h"
+#include "server/Prueba.h"
 #include "server/Sentencia.h"
 
 using namespace Qt::StringLiterals;
@@ -12,18 +13,22 @@ namespace {
 
 constexpr qsizetype Bandas = 2; // of an annual return
 
+// One that is damaged counts as never set: the program asks again, or does not do it.
 QString leerAjuste(const QString &ruta, const QString &clave)
 {
-    Sentencia sentencia(Conexion::datos(ruta), "SELECT VALOR FROM AJUSTES WHERE CLAVE = ?");
+    static const std::string sql
+        = "SELECT VALOR FROM AJUSTES WHERE CLAVE = ? AND " + probadaAjustes().bien();
+    Sentencia sentencia(Conexion::datos(ruta), sql);
     return sentencia.con(clave).fila() ? sentencia.texto(0) : QString();
 }
 
 void guardarAjuste(const QString &ruta, const QString &clave, const QString &valor)
 {
     Transaccion transaccion(Conexion::datos(ruta));
-    Sentencia(transaccion.conexion(), "INSERT OR REPLACE INTO AJUSTES (CLAVE, VALOR) VALUES (?, ?)")
-        .con(clave, valor)
-        .ejecutar();
+    const TablaProbada &t = probadaAjustes();
+    static const std::string sql = "INSERT OR REPLACE INTO AJUSTES (" + t.columnas
+        + ", PRUEBA) VALUES (" + t.parametros() + ", " + t.valorParametros() + ")";
+    Sentencia(transaccion.conexion(), sql).con(clave, valor).ejecutar();
     transaccion.confirmar();
 }
 

@@ -2,6 +2,7 @@
 
 #include "server/AlmacenDeclaraciones.h"
 #include "server/AlmacenDeclarantes.h"
+#include "server/Danados.h"
 #include "server/LectorRegistro.h"
 
 #include <stdexcept>
@@ -89,6 +90,12 @@ Registro camposComunes(const Sentencia &fila)
     return {fila.clave(1), fila.clave(2), fila.clave(3), fila.texto(4), fila.clave(5)};
 }
 
+/// Null when the row is not as it was written.
+QVariant importeDe(const Sentencia &fila, int columna)
+{
+    return filaBien(fila) ? QVariant(static_cast<double>(fila.entero(columna))) : QVariant();
+}
+
 bool estaGuardada(const PConexion &conexion, const Registro &cabecera)
 {
     using namespace RegCabecera;
@@ -100,6 +107,33 @@ bool estaGuardada(const PConexion &conexion, const Registro &cabecera)
         .fila();
 }
 
+/// What is sure of a damaged header, as camposComunes; 0 and empty when it is not even sure that it
+/// is one of that declarant.
+Registro camposSeguros(const PConexion &conexion, qint32 CSDE, qint32 CSCO)
+{
+    const auto segura
+        = conErroresDe(*conexion, [&] { return cabeceraSegura(conexion->base(), CSDE); });
+    const Modelo *modelo = segura.csco == CSCO ? modeloDe(segura.modelo) : nullptr;
+    if (!modelo)
+        return {0, 0, 0, QString(), 0};
+    return {segura.ejercicio, modelo->periodicidad, segura.periodo, segura.modelo,
+            modelo->periodicidad};
+}
+
+/// A damaged return can be deleted while it is sure which one it is: its declarant counts it.
+void exigirSeguras(const PConexion &conexion, qint32 CSDE, const QString &modelo)
+{
+    static const std::string sql = "SELECT MODELO = ?2, CSCO, " + probadaDeclaraciones().bien()
+        + " FROM DECLARACIONES WHERE CSDE = ?1";
+    Sentencia fila(conexion, sql);
+    if (!fila.con(CSDE, modelo).fila() || filaBien(fila))
+        return;
+    const auto segura
+        = conErroresDe(*conexion, [&] { return cabeceraSegura(conexion->base(), CSDE); });
+    if (fila.entero(0) == 0 || fila.clave(1) != segura.csco)
+        declaracionDanada(conexion, CSDE);
+}
+
 /// FilaBuscada of a RegBuscada.
 Registro buscarDeclaracion(const PConexion &conexion, const Registro &buscada)
 {
@@ -109,60 +143,83 @@ Registro buscarDeclaracion(const PConexion &conexion, const Registro &buscada)
     const qint32 periodo = lector.entero(RegBuscada::PERIODO, 0, Periodo);
     const QString modelo = lector.texto(RegBuscada::MODELO);
     lector.exigirValido();
-    Sentencia sentencia(conexion,
-                        "SELECT D.CSCO, R.CSDE, R.IMPORTE FROM DECLARANTES D "
-                        "LEFT JOIN DECLARACIONES R ON R.CSCO = D.CSCO AND R.EJERCICIO = ? "
-                        "AND R.PERIODO = ? AND R.MODELO = ? WHERE D.DNI = ?");
-    if (!sentencia.con(ejercicio, periodo, modelo, dni).fila())
+    static const std::string sqlDeclarante
+        = "SELECT CSCO, " + probadaDeclarantes().bien() + " FROM DECLARANTES WHERE DNI = ?";
+    Sentencia declarante(conexion, sqlDeclarante);
+    if (!declarante.con(dni).fila())
         return {0, 0, 0.0};
-    return {sentencia.clave(0), sentencia.clave(1), static_cast<double>(sentencia.entero(2))};
+    const qint32 csco = declarante.clave(0);
+    if (!filaBien(declarante))
+        return {csco, 0, QVariant()};
+    static const std::string sql = "SELECT CSDE, IMPORTE, " + probadaDeclaraciones().bien()
+        + " FROM DECLARACIONES WHERE CSCO = ? AND EJERCICIO = ? AND PERIODO = ? AND MODELO = ?";
+    Sentencia sentencia(conexion, sql);
+    if (!sentencia.con(csco, ejercicio, periodo, modelo).fila())
+        return {csco, 0, 0.0};
+    return {csco, sentencia.clave(0), importeDe(sentencia, 1)};
 }
 
 /// How a declarant stands with a return (FilaPendiente).
 struct Estado
 {
     qint32 csde = 0;
-    qint64 importe = 0;
+    QVariant importe = 0.0;
     qint32 primero = 0, cuantos = 0;
     qint64 anteriores = 0;
 };
 
 using Estados = std::unordered_map<qint32, Estado>;
 
-void leerGuardadas(const PConexion &conexion, qint32 ejercicio, const QString &modelo,
-                   qint32 periodo, Estados &estados)
+/// The return asked for, and the first month that does not come before it.
+struct Pedida
 {
-    Sentencia sentencia(conexion,
-                        "SELECT CSCO, CSDE, IMPORTE FROM DECLARACIONES "
-                        "WHERE EJERCICIO = ? AND PERIODO = ? AND MODELO = ?");
-    sentencia.con(ejercicio, periodo, modelo);
-    while (sentencia.fila()) {
-        Estado &estado = estados[sentencia.clave(0)];
-        estado.csde = sentencia.clave(1);
-        estado.importe = sentencia.entero(2);
-    }
+    qint32 ejercicio, periodo;
+    QString modelo;
+    qint32 hasta;
+};
+
+void contarMes(Estado &estado, qint32 mes, qint32 hasta)
+{
+    estado.primero = estado.primero == 0 ? mes : std::min(estado.primero, mes);
+    if (mes >= hasta)
+        return;
+    ++estado.cuantos;
+    if (hasta - mes <= FilaPendiente::MesesVistos)
+        estado.anteriores |= qint64(1) << (hasta - 1 - mes);
 }
 
-/// The months with a 430, read from the index that keeps returns unique and nothing else; `hasta`
-/// is the first one that does not come before the return.
-void leerMeses(const PConexion &conexion, qint32 hasta, Estados &estados)
+void contar(Estados &estados, const Pedida &pedida, qint32 CSDE, const CabeceraSegura &c,
+            const QVariant &importe)
 {
-    Sentencia sentencia(conexion,
-                        "SELECT CSCO, EJERCICIO * 12 + PERIODO - 1 FROM DECLARACIONES "
-                        "WHERE MODELO = '430' ORDER BY CSCO, EJERCICIO, PERIODO");
-    Estado *estado = nullptr;
-    for (qint32 csco = 0; sentencia.fila();) {
-        const qint32 mes = sentencia.clave(1);
-        if (!estado || sentencia.clave(0) != csco) {
-            csco = sentencia.clave(0);
-            estado = &estados[csco];
-            estado->primero = mes;
-        }
-        if (mes >= hasta)
+    if (c.modelo == Modelo430)
+        contarMes(estados[c.csco], c.ejercicio * UltimoMes + c.periodo - 1, pedida.hasta);
+    if (c.ejercicio != pedida.ejercicio || c.periodo != pedida.periodo || c.modelo != pedida.modelo)
+        return;
+    Estado &estado = estados[c.csco];
+    estado.csde = CSDE;
+    estado.importe = importe;
+}
+
+// One passage over the table as it lies: the index alone would not tell a damaged entry. Of whom a
+// damaged return is has to be sure: it might be anybody's that seems to be due.
+void leerEstados(const PConexion &conexion, const Pedida &pedida, Estados &estados)
+{
+    static const std::string sql = "SELECT CSDE, CSCO, EJERCICIO, PERIODO, MODELO, IMPORTE, "
+        + probadaDeclaraciones().bien() + " FROM DECLARACIONES NOT INDEXED";
+    Sentencia fila(conexion, sql);
+    while (fila.fila()) {
+        const qint32 csde = fila.clave(0);
+        if (filaBien(fila)) {
+            contar(estados, pedida, csde,
+                   {fila.clave(1), fila.clave(2), fila.clave(3), fila.texto(4)},
+                   static_cast<double>(fila.entero(5)));
             continue;
-        ++estado->cuantos;
-        if (hasta - mes <= FilaPendiente::MesesVistos)
-            estado->anteriores |= qint64(1) << (hasta - 1 - mes);
+        }
+        const auto segura
+            = conErroresDe(*conexion, [&] { return cabeceraSegura(conexion->base(), csde); });
+        if (segura.modelo.isEmpty())
+            declaracionDanada(conexion, csde);
+        contar(estados, pedida, csde, segura, QVariant());
     }
 }
 
@@ -170,15 +227,19 @@ void leerMeses(const PConexion &conexion, qint32 hasta, Estados &estados)
 
 qint32 cDeclaracion::dameResultado(Filas &filas, qint32 CSCO)
 {
-    Sentencia sentencia(Conexion::datos(m_ruta),
-                        "SELECT CSDE, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, TIPOLOGIA, IMPORTE "
-                        "FROM DECLARACIONES WHERE CSCO = ? ORDER BY EJERCICIO, PERIODO, MODELO");
+    const PConexion conexion = Conexion::datos(m_ruta);
+    static const std::string sql
+        = "SELECT CSDE, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, TIPOLOGIA, IMPORTE, "
+        + probadaDeclaraciones().bien()
+        + " FROM DECLARACIONES WHERE CSCO = ? ORDER BY EJERCICIO, PERIODO, MODELO";
+    Sentencia sentencia(conexion, sql);
     sentencia.con(CSCO);
     Filas leidas;
     while (sentencia.fila()) {
         Registro fila{sentencia.clave(0)};
-        fila += camposComunes(sentencia);
-        fila += static_cast<double>(sentencia.entero(6));
+        fila += filaBien(sentencia) ? camposComunes(sentencia)
+                                    : camposSeguros(conexion, sentencia.clave(0), CSCO);
+        fila += importeDe(sentencia, 6);
         leidas.append(QVariant(fila));
     }
     filas = std::move(leidas);
@@ -193,10 +254,12 @@ bool cDeclaracion::EjerPerValidos(const Registro &cabecera)
 bool cDeclaracion::ObtenerUltimaDeclaracion(Registro &cabecera, qint32 &CSDE)
 {
     const qint32 declarante = cabecera.value(RegUltima::CSCO).toInt();
-    Sentencia sentencia(Conexion::datos(m_ruta),
-                        "SELECT CSDE, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, TIPOLOGIA "
-                        "FROM DECLARACIONES WHERE CSCO = ? "
-                        "ORDER BY EJERCICIO DESC, PERIODO DESC, MODELO DESC LIMIT 1");
+    static const std::string sql
+        = "SELECT CSDE, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, TIPOLOGIA "
+          "FROM DECLARACIONES WHERE CSCO = ? AND "
+        + probadaDeclaraciones().bien()
+        + " ORDER BY EJERCICIO DESC, PERIODO DESC, MODELO DESC LIMIT 1";
+    Sentencia sentencia(Conexion::datos(m_ruta), sql);
     if (!sentencia.con(declarante).fila())
         return false;
     CSDE = sentencia.clave(0);
@@ -226,11 +289,14 @@ QByteArray cDeclaracion::Huella(qint32 CSDE)
 {
     const PConexion conexion = Conexion::datos(m_ruta);
     const LecturaUnica lectura(conexion);
-    Sentencia sentencia(conexion,
-                        "SELECT CSCO, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, "
-                        "TIPOLOGIA FROM DECLARACIONES WHERE CSDE = ?");
+    static const std::string sql = "SELECT CSCO, EJERCICIO, PERIODICIDAD, PERIODO, MODELO, "
+                                   "TIPOLOGIA, "
+        + probadaDeclaraciones().bien() + " FROM DECLARACIONES WHERE CSDE = ?";
+    Sentencia sentencia(conexion, sql);
     if (!sentencia.con(CSDE).fila())
         return {};
+    if (!filaBien(sentencia))
+        declaracionDanada(conexion, CSDE);
     const Registro cabecera = Registro{sentencia.clave(0)} + camposComunes(sentencia);
     const Modelo *modelo = modeloDe(sentencia.texto(4));
     return huella(modelo ? cabecera + cargarFiguras(conexion, *modelo, CSDE) : cabecera);
@@ -282,15 +348,23 @@ void cDeclaracion::RecorrerPendientes(qint16 ejercicio, const QString &modelo, q
     const LecturaUnica lectura(conexion);
     const bool anual = pedido->periodicidad == PeriodicidadAnual;
     Estados estados;
-    leerGuardadas(conexion, ejercicio, modelo, periodo, estados);
-    leerMeses(conexion, ejercicio * UltimoMes + periodo - 1 + (anual ? 1 : 0), estados);
+    leerEstados(conexion,
+                {ejercicio, periodo, modelo, ejercicio * UltimoMes + periodo - 1 + (anual ? 1 : 0)},
+                estados);
     static const Estado ninguno;
-    Sentencia sentencia(conexion, "SELECT CSCO, DNI, NOMBRE FROM DECLARANTES ORDER BY CLAVE, DNI");
+    static const std::string sql = "SELECT CSCO, DNI, NOMBRE, " + probadaDeclarantes().bien()
+        + " FROM DECLARANTES ORDER BY CLAVE, DNI";
+    Sentencia sentencia(conexion, sql);
     while (sentencia.fila()) {
+        if (!filaBien(sentencia)) {
+            if (!visitar(registroDanado(conexion, sentencia.clave(0))))
+                return;
+            continue;
+        }
         const auto hallado = estados.find(sentencia.clave(0));
         const Estado &e = hallado == estados.end() ? ninguno : hallado->second;
-        if (!visitar({sentencia.clave(0), sentencia.texto(1), sentencia.texto(2), e.csde,
-                      static_cast<double>(e.importe), e.primero, e.cuantos, e.anteriores}))
+        if (!visitar({sentencia.clave(0), sentencia.texto(1), sentencia.texto(2), e.csde, e.importe,
+                      e.primero, e.cuantos, e.anteriores}))
             return;
     }
 }
@@ -302,6 +376,7 @@ void cDeclaracion::BorrarDatosNoComunes(qint32 CSDE, const QString &modelo)
         throw std::invalid_argument("unknown model");
     m_borrado.reset();
     auto transaccion = std::make_unique<Transaccion>(Conexion::datos(m_ruta));
+    exigirSeguras(transaccion->conexion(), CSDE, modelo);
     if (Sentencia(transaccion->conexion(), tabla->borrar).con(CSDE).ejecutar() == 0)
         sinDeclaracion();
     m_borrado = std::move(transaccion);

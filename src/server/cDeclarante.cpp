@@ -2,6 +2,7 @@
 
 #include "server/AlmacenConjunto.h"
 #include "server/AlmacenDeclarantes.h"
+#include "server/Danados.h"
 #include "server/LectorRegistro.h"
 #include "server/ValidacionDeclarante.h"
 
@@ -41,17 +42,32 @@ QHash<qint64, QString> nombresProvincias(const PConexion &lectura, qint16 idioma
 
 void cDeclarante::CargarDeclarante(qint32 &CSCO, Registro &registro)
 {
-    Sentencia sentencia(Conexion::datos(m_datos), seleccionDeclarante("WHERE CSCO = ?"));
+    const PConexion conexion = Conexion::datos(m_datos);
+    Sentencia sentencia(conexion, seleccionDeclarante("WHERE CSCO = ?"));
     if (!sentencia.con(CSCO).fila())
         sinDeclarante();
+    if (!filaBien(sentencia))
+        declaranteDanado(conexion, CSCO);
     registro = registroDeclarante(sentencia);
+}
+
+void cDeclarante::CargarListado(qint32 CSCO, Registro &registro)
+{
+    const PConexion conexion = Conexion::datos(m_datos);
+    Sentencia sentencia(conexion, seleccionDeclarante("WHERE CSCO = ?"));
+    if (!sentencia.con(CSCO).fila())
+        sinDeclarante();
+    registro = registroListado(conexion, sentencia);
 }
 
 QByteArray cDeclarante::Huella(qint32 CSCO)
 {
-    Sentencia sentencia(Conexion::datos(m_datos), seleccionDeclarante("WHERE CSCO = ?"));
+    const PConexion conexion = Conexion::datos(m_datos);
+    Sentencia sentencia(conexion, seleccionDeclarante("WHERE CSCO = ?"));
     if (!sentencia.con(CSCO).fila())
         return {};
+    if (!filaBien(sentencia))
+        declaranteDanado(conexion, CSCO);
     return huella(registroDeclarante(sentencia).first(RegDeclarante::NUM430));
 }
 
@@ -80,8 +96,7 @@ qint16 cDeclarante::ValidarDatosDeclarante(const Registro &datos)
 
 qint32 cDeclarante::ObtenerCodigoDeclarante(const QString &DNI)
 {
-    Sentencia sentencia(Conexion::datos(m_datos), "SELECT CSCO FROM DECLARANTES WHERE DNI = ?");
-    return sentencia.con(normalizado(DNI)).fila() ? sentencia.clave(0) : 0;
+    return claveDeDni(Conexion::datos(m_datos), normalizado(DNI).toStdString());
 }
 
 Filas cDeclarante::ValidarDatosImportar(const Registro &registro, qint16 idioma)
@@ -106,11 +121,17 @@ QList<ResultadoConjunto> cDeclarante::GuardarConjunto(const ConjuntoDeclarantes 
 qint32 cDeclarante::dameResultado(Filas &filas, quint8 orden, qint16 idioma)
 {
     const auto provincias = nombresProvincias(Conexion::lectura(m_lectura), idioma);
-    Sentencia sentencia(Conexion::datos(m_datos),
-                        "SELECT CSCO, DNI, NOMBRE, NOMMUN, CODPROV, NUM430, NUM480, CLAVE "
-                        "FROM DECLARANTES");
+    const PConexion conexion = Conexion::datos(m_datos);
+    static const std::string sql
+        = "SELECT CSCO, DNI, NOMBRE, NOMMUN, CODPROV, NUM430, NUM480, CLAVE, "
+        + probadaDeclarantes().bien() + " FROM DECLARANTES";
+    Sentencia sentencia(conexion, sql);
     std::vector<std::pair<std::string, QVariant>> leidas;
     while (sentencia.fila()) {
+        if (!filaBien(sentencia)) {
+            leidas.emplace_back(std::string(), registroDanado(conexion, sentencia.clave(0)));
+            continue;
+        }
         std::string clave = sentencia.texto(1).toStdString();
         if (orden == PorNombre)
             clave.insert(0, sentencia.texto(7).toStdString() + '\0');
@@ -149,14 +170,15 @@ void cDeclarante::RecorrerExportar(quint8 orden,
     conexion->paginas(orden == 0 ? Conexion::Paginas::Usuales : Conexion::Paginas::Muchas);
     const auto vuelta = qScopeGuard([&] { conexion->paginas(Conexion::Paginas::Usuales); });
     Sentencia sentencia(conexion, seleccionDeclarante(orderBy(orden)));
-    while (sentencia.fila() && visitar(registroDeclarante(sentencia))) {}
+    while (sentencia.fila() && visitar(registroListado(conexion, sentencia))) {}
 }
 
 void cDeclarante::ObtenerUltimosDeclarantes(Filas &filas)
 {
-    Sentencia sentencia(Conexion::datos(m_datos),
-                        "SELECT CSCO, DNI, NOMBRE FROM DECLARANTES WHERE RECIENTE > 0 "
-                        "ORDER BY RECIENTE DESC LIMIT 4");
+    static const std::string sql = "SELECT CSCO, DNI, NOMBRE FROM DECLARANTES WHERE RECIENTE > 0 "
+                                   "AND "
+        + probadaDeclarantes().bien() + " ORDER BY RECIENTE DESC LIMIT 4";
+    Sentencia sentencia(Conexion::datos(m_datos), sql);
     Filas leidas;
     while (sentencia.fila())
         leidas.append(
@@ -166,13 +188,18 @@ void cDeclarante::ObtenerUltimosDeclarantes(Filas &filas)
 
 bool cDeclarante::ObtListDecl430(Filas &filas, qint16 ejercicio, qint32 CSCO)
 {
-    Sentencia sentencia(Conexion::datos(m_datos),
-                        "SELECT CSDE, PERIODO FROM DECLARACIONES WHERE CSCO = ? AND EJERCICIO = ? "
-                        "AND MODELO = '430' ORDER BY PERIODO");
+    const PConexion conexion = Conexion::datos(m_datos);
+    static const std::string sql = "SELECT CSDE, PERIODO, " + probadaDeclaraciones().bien()
+        + " FROM DECLARACIONES WHERE CSCO = ? AND EJERCICIO = ? AND MODELO = '430' "
+          "ORDER BY PERIODO";
+    Sentencia sentencia(conexion, sql);
     sentencia.con(CSCO, ejercicio);
     Filas leidas;
-    while (sentencia.fila())
+    while (sentencia.fila()) {
+        if (!filaBien(sentencia))
+            declaracionDanada(conexion, sentencia.clave(0));
         leidas.append(QVariant(QVariantList{sentencia.clave(0), sentencia.clave(1)}));
+    }
     filas = std::move(leidas);
     return !filas.isEmpty();
 }

@@ -11,6 +11,7 @@ public:
     void mdbnameL(const QString &ruta) override { m_lectura = ruta; }
 
     void CargarDeclarante(qint32 &CSCO, Registro &registro) override;
+    void CargarListado(qint32 CSCO, Registro &registro) override;
     QByteArray Huella(qint32 CSCO) override;
     qint16 GuardarDeclarante(const Registro &registro) override;
     void BorrarDeclarante(qint32 CSCO) override;

@@ -119,6 +119,7 @@ void cSaveAsRestore::CrearBackup()
     atender(Dialogos::Trabajo::Copia, [this] {
         const PConexion datos = Conexion::datos(origen());
         datos->comprobarEntera();
+        datos->comprobarFilas();
         crearCarpeta(QFileInfo(destino()).path());
         copiarFichero(datos->base(), destino(),
                       [this] { conservarAnterior(destino(), copiasAnteriores()); });
@@ -141,6 +142,7 @@ bool cSaveAsRestore::copiarDelDia()
         return false;
     const PConexion datos = Conexion::datos(origen());
     datos->comprobarEntera();
+    datos->comprobarFilas();
     crearCarpeta(QFileInfo(ruta).path());
     copiarFichero(datos->base(), ruta);
     podarDelDia(m_rutaDestino, m_archivoOrigen, std::max(1, copiasAnteriores()));

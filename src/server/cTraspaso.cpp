@@ -19,7 +19,7 @@ namespace servidor {
 
 namespace {
 
-const char *sqlDesde(qint32 esquema, std::span<const Paso> pasos, const QString &ruta)
+const std::string &sqlDesde(qint32 esquema, std::span<const Paso> pasos, const QString &ruta)
 {
     const auto paso = std::find_if(pasos.begin(), pasos.end(),
                                    [&](const Paso &p) { return p.desde == esquema; });
@@ -62,6 +62,12 @@ void migrar(const QString &ruta, const Formato &formato, std::span<const Paso> p
     });
 }
 
+std::span<const Paso> pasosDatos()
+{
+    static const Paso pasos[] = {{1, sqlDesdeEsquema1()}};
+    return pasos;
+}
+
 namespace {
 
 void prepararDatos(const QString &ruta)
@@ -69,7 +75,7 @@ void prepararDatos(const QString &ruta)
     Conexion::olvidar(ruta);
     rechazarEnlaceRoto(ruta);
     if (QFileInfo::exists(ruta) || !crearDatos(ruta))
-        migrar(ruta, FormatoDatos, PasosDatos);
+        migrar(ruta, FormatoDatos, pasosDatos());
     Conexion::datos(ruta);
 }
 
@@ -107,7 +113,9 @@ bool cTraspaso::Traspaso()
 
 void cTraspaso::Comprobar()
 {
-    Conexion::datos(m_datos)->comprobarEntera();
+    const PConexion conexion = Conexion::datos(m_datos);
+    conexion->comprobarEntera();
+    conexion->comprobarFilas();
 }
 
 } // namespace servidor

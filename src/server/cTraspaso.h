@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <span>
+#include <string>
 
 namespace servidor {
 
@@ -13,11 +14,11 @@ namespace servidor {
 struct Paso
 {
     qint32 desde;
-    const char *sql;
+    std::string sql;
 };
 
-/// The steps of this program, in order. Schema 1 is the first, so that there is none yet.
-inline constexpr std::span<const Paso> PasosDatos{};
+/// The steps of this program, in order. Schema 1 is the first.
+std::span<const Paso> pasosDatos();
 
 /// Path of the copy kept of a database of schema `esquema` before it is brought up.
 QString copiaAnterior(const QString &ruta, qint32 esquema);

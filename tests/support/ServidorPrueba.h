@@ -3,6 +3,7 @@
 #include "dataservice/ErrorDatos.h"
 #include "dataservice/SvrKtComunLib.h"
 #include "dataservice/SvrOstr.h"
+#include "server/Prueba.h"
 #include "server/Servidor.h"
 
 #include <QFile>
@@ -126,14 +127,18 @@ inline void escribir(const QString &ruta, const QByteArray &contenido)
 /// Puts `cuantos` declarants into a database past the data service, those that are not there yet.
 inline void llenar(const QString &ruta, int cuantos, const QString &prefijo = u"D"_s)
 {
-    SQLite::Database(ruta.toStdString(), SQLite::OPEN_READWRITE, 2000)
-        .exec(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1) "
+    SQLite::Database base(ruta.toStdString(), SQLite::OPEN_READWRITE, 2000);
+    servidor::registrarPrueba(base);
+    base.exec("BEGIN");
+    base.exec(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1) "
               "INSERT OR IGNORE INTO DECLARANTES (DNI, NOMBRE, CLAVE, VIA, DOMICILIO, NUMERO, "
               "LETRA, ESCALERA, PISO, MANO, CODPROV, CODPOS, CODMUN, NOMMUN, TELEFONO) SELECT "
               "'%2' || i, 'N' || i, 'N' || i, 'CL', 'MAYOR', 1, '', '', '', '', 20, '20001', 1, "
               "'M', '' FROM n"_s.arg(cuantos)
                   .arg(prefijo)
                   .toStdString());
+    base.exec("UPDATE DECLARANTES SET PRUEBA = " + servidor::probadaDeclarantes().valor()
+              + " WHERE PRUEBA = 0; COMMIT");
 }
 
 /// A sound database file spoilt in the way called `caso`; another one, `otro`, in its place.

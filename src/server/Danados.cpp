@@ -1,0 +1,211 @@
+#include "server/Danados.h"
+
+#include "dataservice/Registros.h"
+#include "server/AlmacenDeclaraciones.h"
+#include "server/Prueba.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace servidor {
+
+namespace {
+
+constexpr qsizetype MaximoNombrados = 5;
+
+QString texto(SQLite::Statement &fila, int columna)
+{
+    return QString::fromStdString(fila.getColumn(columna).getString());
+}
+
+bool esSencillo(const QString &texto)
+{
+    return std::ranges::all_of(texto, [](QChar c) { return c.unicode() < 0x80; });
+}
+
+} // namespace
+
+DeclaranteSeguro declaranteSeguro(SQLite::Database &base, qint32 CSCO)
+{
+    static const std::string sql = "SELECT " + probadaDeclarantes().bien()
+        + ", DNI, NOMBRE, CLAVE, EXISTS (SELECT 1 FROM DECLARANTES I INDEXED BY "
+          "sqlite_autoindex_DECLARANTES_1 WHERE I.DNI = D.DNI AND I.CSCO = D.CSCO) "
+          "FROM DECLARANTES D WHERE CSCO = ?";
+    SQLite::Statement fila(base, sql);
+    fila.bind(1, CSCO);
+    if (!fila.executeStep())
+        return {};
+    const bool bien = fila.getColumn(0).getInt() != 0;
+    DeclaranteSeguro seguro{texto(fila, 1), texto(fila, 2)};
+    if (!bien && fila.getColumn(4).getInt() == 0)
+        seguro.dni.clear();
+    // a name with accents has more than one spelling to the same sort key
+    if (!bien && (seguro.nombre != texto(fila, 3) || !esSencillo(seguro.nombre)))
+        seguro.nombre.clear();
+    return seguro;
+}
+
+// The index of the returns holds a second copy of what tells one from another. It is right when the
+// table says the same, or when the rest of the row matches its value with it.
+CabeceraSegura cabeceraSegura(SQLite::Database &base, qint32 CSDE)
+{
+    static const std::string sql
+        = "SELECT I.CSCO, I.EJERCICIO, I.PERIODO, I.MODELO, R.PRUEBA = prueba('DECLARACIONES', "
+          "R.CSDE, I.CSCO, I.EJERCICIO, R.PERIODICIDAD, I.PERIODO, I.MODELO, R.TIPOLOGIA, "
+          "R.IMPORTE) OR (I.CSCO, I.EJERCICIO, I.PERIODO, I.MODELO) "
+          "= (R.CSCO, R.EJERCICIO, R.PERIODO, R.MODELO) "
+          "FROM DECLARACIONES R NOT INDEXED, (SELECT CSCO, EJERCICIO, PERIODO, MODELO FROM "
+          "DECLARACIONES INDEXED BY sqlite_autoindex_DECLARACIONES_1 WHERE +CSDE = ?1) I "
+          "WHERE R.CSDE = ?1";
+    SQLite::Statement fila(base, sql);
+    fila.bind(1, CSDE);
+    if (!fila.executeStep() || fila.getColumn(4).getInt() == 0)
+        return {};
+    const CabeceraSegura segura{fila.getColumn(0).getInt(), fila.getColumn(1).getInt(),
+                                fila.getColumn(2).getInt(), texto(fila, 3)};
+    return modeloDe(segura.modelo) ? segura : CabeceraSegura{};
+}
+
+QString nombreDeclarante(SQLite::Database &base, qint32 CSCO)
+{
+    const auto [dni, nombre] = declaranteSeguro(base, CSCO);
+    return nombreDanado({CSCO, dni, nombre});
+}
+
+QString nombreCabecera(const QString &modelo, qint32 ejercicio, qint32 periodo)
+{
+    const QString anno = u"%1 %2"_s.arg(modelo).arg(ejercicio);
+    return modelo == Modelo480 ? anno : anno + u"-%1"_s.arg(periodo, 2, 10, QChar(u'0'));
+}
+
+QString nombreDeclaracion(SQLite::Database &base, qint32 CSDE)
+{
+    const auto [csco, ejercicio, periodo, modelo] = cabeceraSegura(base, CSDE);
+    if (modelo.isEmpty())
+        return u"430/480 #%1"_s.arg(CSDE);
+    return nombreDeclarante(base, csco) + u": "_s + nombreCabecera(modelo, ejercicio, periodo);
+}
+
+void declaranteDanado(const PConexion &conexion, qint32 CSCO)
+{
+    throw ErrorDatos(Fallo::RegistroDanado, conErroresDe(*conexion, [&] {
+                         return nombreDeclarante(conexion->base(), CSCO);
+                     }));
+}
+
+void declaracionDanada(const PConexion &conexion, qint32 CSDE)
+{
+    throw ErrorDatos(Fallo::RegistroDanado, conErroresDe(*conexion, [&] {
+                         return nombreDeclaracion(conexion->base(), CSDE);
+                     }));
+}
+
+namespace {
+
+/// What one passage over a table or an index comes to. What is to be found in two places is added
+/// up in both, as a hash an entry, in whatever order they lie.
+struct Pasada
+{
+    QList<qint32> malas;
+    std::array<quint64, 3> sumas{};
+};
+
+/// Columns: the key, whether the row is as it was written, what is added up.
+Pasada recorrer(SQLite::Database &base, const std::string &sql)
+{
+    Pasada pasada;
+    SQLite::Statement fila(base, sql);
+    const int columnas = fila.getColumnCount();
+    while (fila.executeStep()) {
+        if (fila.getColumn(1).getInt() == 0)
+            pasada.malas += fila.getColumn(0).getInt();
+        for (int i = 2; i < columnas; ++i)
+            pasada.sumas.at(static_cast<std::size_t>(i - 2))
+                += static_cast<quint64>(fila.getColumn(i).getInt64());
+    }
+    return pasada;
+}
+
+std::string seleccion(const TablaProbada &tabla, const std::string &clave, const std::string &sumas)
+{
+    return "SELECT " + clave + ", " + tabla.bien() + ", " + sumas + " FROM " + tabla.nombre
+        + " NOT INDEXED";
+}
+
+quint64 sumaIndice(SQLite::Database &base, const std::string &entrada, const std::string &tabla,
+                   const std::string &indice)
+{
+    return recorrer(base, "SELECT 0, 1, " + entrada + " FROM " + tabla + " INDEXED BY " + indice)
+        .sumas[0];
+}
+
+template <class Nombrar>
+void nombrar(QStringList &nombres, const QList<qint32> &malas, Nombrar nombre)
+{
+    for (const qint32 clave : malas)
+        if (nombres.size() <= MaximoNombrados)
+            nombres += nombre(clave);
+}
+
+void exigirNinguno(const QStringList &nombres)
+{
+    if (nombres.isEmpty())
+        return;
+    QStringList distintos = nombres;
+    distintos.removeDuplicates();
+    if (distintos.size() > MaximoNombrados)
+        distintos = distintos.first(MaximoNombrados) + QStringList{u"…"_s};
+    throw ErrorDatos(Fallo::RegistroDanado, distintos.join(u"; "_s));
+}
+
+} // namespace
+
+void comprobarFilas(SQLite::Database &base, const QString &ruta)
+{
+    static const std::string deDni = "prueba(DNI, CSCO)", deReciente = "prueba(RECIENTE, CSCO)",
+                             deUnica = "prueba(CSCO, EJERCICIO, PERIODO, MODELO, CSDE)";
+    conErrores(ruta, [&] {
+        const auto declarantes
+            = recorrer(base,
+                       seleccion(probadaDeclarantes(), "CSCO",
+                                 deDni + ", " + deReciente
+                                     + ", NUM430 * (prueba('430', CSCO) & 1073741823)"
+                                       " + NUM480 * (prueba('480', CSCO) & 1073741823)"));
+        const auto cabeceras = recorrer(base,
+                                        seleccion(probadaDeclaraciones(), "CSDE",
+                                                  deUnica
+                                                      + ", prueba(MODELO, CSDE)"
+                                                        ", prueba(MODELO, CSCO) & 1073741823"));
+        QStringList nombres;
+        nombrar(nombres, declarantes.malas,
+                [&](qint32 clave) { return nombreDeclarante(base, clave); });
+        QList<qint32> malas = cabeceras.malas;
+        quint64 figuras = 0;
+        for (const Modelo *modelo : {&modelo430(), &modelo480()}) {
+            const auto pasada
+                = recorrer(base,
+                           seleccion(modelo->probada, "CSDE",
+                                     "prueba('" + modelo->codigo.toStdString() + "', CSDE)"));
+            malas += pasada.malas;
+            figuras += pasada.sumas[0];
+        }
+        nombrar(nombres, malas, [&](qint32 clave) { return nombreDeclaracion(base, clave); });
+        exigirNinguno(nombres);
+        const bool juntas = figuras == cabeceras.sumas[1]
+            && declarantes.sumas[2] == cabeceras.sumas[2]
+            && declarantes.sumas[0]
+                == sumaIndice(base, deDni, "DECLARANTES", "sqlite_autoindex_DECLARANTES_1")
+            && declarantes.sumas[1]
+                == sumaIndice(base, deReciente, "DECLARANTES", "DECLARANTES_RECIENTE")
+            && cabeceras.sumas[0]
+                == sumaIndice(base, deUnica, "DECLARACIONES", "sqlite_autoindex_DECLARACIONES_1");
+        if (!juntas)
+            throw ErrorDatos(Fallo::Danada, ruta, u"its tables and indexes do not agree"_s);
+    });
+}
+
+} // namespace servidor

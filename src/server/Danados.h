@@ -1,0 +1,42 @@
+#pragma once
+
+#include "server/Conexion.h"
+
+#include <QString>
+
+namespace servidor {
+
+/// What is sure of a declarant whose row does not match its check value: what a second copy of it
+/// (an index, the sort key of the name) bears out. The rest is empty.
+struct DeclaranteSeguro
+{
+    QString dni, nombre;
+};
+DeclaranteSeguro declaranteSeguro(SQLite::Database &base, qint32 CSCO);
+
+/// The same of a return's header; all 0 and empty when nothing is sure.
+struct CabeceraSegura
+{
+    qint32 csco = 0, ejercicio = 0, periodo = 0;
+    QString modelo;
+};
+CabeceraSegura cabeceraSegura(SQLite::Database &base, qint32 CSDE);
+
+/// What tells the user which one it is: "DNI - NAME", "DNI - NAME: 430 2026-03", and its key
+/// ("#17") where nothing is sure.
+QString nombreDeclarante(SQLite::Database &base, qint32 CSCO);
+QString nombreDeclaracion(SQLite::Database &base, qint32 CSDE);
+
+/// "430 2026-03", "480 2026".
+QString nombreCabecera(const QString &modelo, qint32 ejercicio, qint32 periodo);
+
+/// Throw ErrorDatos (Fallo::RegistroDanado) that names it.
+[[noreturn]] void declaranteDanado(const PConexion &conexion, qint32 CSCO);
+[[noreturn]] void declaracionDanada(const PConexion &conexion, qint32 CSDE);
+
+/// Looks at every row of a model database of today's schema. Throws ErrorDatos: RegistroDanado
+/// naming the declarants and returns that are not as they were written, Danada when the tables and
+/// their indexes do not belong together.
+void comprobarFilas(SQLite::Database &base, const QString &ruta);
+
+} // namespace servidor
