@@ -4,6 +4,7 @@
 #include <QJsonDocument>
 #include <QStandardPaths>
 
+#include <SQLiteCpp/Database.h>
 #include <optional>
 #include <sys/resource.h>
 
@@ -411,6 +412,52 @@ private Q_SLOTS:
         for (const QStringList &orden : {partes("listar declarantes"), opcionesAlta()})
             rechazada(proceso(orden), "OstrMod.mdb");
         QCOMPARE(lineas::leer(tablas() + u"/OstrMod.mdb"_s), contenido);
+    }
+
+    /// What is damaged is named and marked, and is in nothing that is made; the rest goes on.
+    void registrosDanados()
+    {
+        const QString fichero = carpeta + u"/dos.txt"_s;
+        hacer(opcionesAlta());
+        hacer(opcionesAlta(u"dni"_s, u"A58818501"_s));
+        for (const char *periodo : {"1", "2"})
+            hacer(declarar("430 --ejercicio 2026 --base 100 --periodo") + partes(periodo));
+        hacer({u"exportar"_s, fichero});
+        SQLite::Database((tablas() + u"/OstrMod.mdb"_s).toStdString(), SQLite::OPEN_READWRITE)
+            .exec("UPDATE DECLARANTES SET TELEFONO = '1' WHERE CSCO = 2;"
+                  "UPDATE DATOS430 SET BASELIQ = 5 WHERE CSDE = 1;"
+                  "UPDATE DECLARACIONES SET IMPORTE = 5 WHERE CSDE = 2");
+        const QByteArray dicho = " están dañados y no se usan. ";
+        QCOMPARE(json("declarantes"),
+                 u"[{CSCO:1,DNI:12345678Z,NOMBRE:SEGUROS ÑANDÚ,NOMMUN:ABRENZUOLA,"
+                 "NOMPROV:VARLENDA,NUM430:2,NUM480:0},{CSCO:2,DNI:A58818501,NOMBRE:,"
+                 "NOMMUN:Datos dañados,NOMPROV:,NUM430:null,NUM480:null}]"_s);
+        QVERIFY(json("declaraciones --dni 12345678Z")
+                    .contains(u"CSDE:2,EJERCICIO:2026,IMPORTE:null"_s));
+        const QByteArray pendientes
+            = ostrel(partes("pendientes --ejercicio 2026 --periodo 2 --json")).texto;
+        QCOMPARE(pendientes.count("\"DANADA\""), 2);
+        QCOMPARE(pendientes.count("\"IMPORTE\": null"), 2);
+        const Salida exportado = ostrel(partes("exportar -"));
+        QCOMPARE(exportado.codigo, 1);
+        QVERIFY(exportado.texto.startsWith("12345678Z") && exportado.texto.count('\n') == 1);
+        QVERIFY(exportado.error.contains("«A58818501»" + dicho));
+        rechazar({u"importar"_s, u"--automatico"_s, fichero},
+                 "Sustituidos: 1. Ignorados: 0. Incorrectos: 1.");
+        for (const char *periodo : {"1", "2"})
+            rechazar(partes("imprimir --dni 12345678Z --ejercicio 2026 --modelo 430 --pdf x.pdf "
+                            "--periodo")
+                         + partes(periodo),
+                     "«12345678Z - SEGUROS ÑANDÚ: 430 2026-0" + QByteArray(periodo) + "»" + dicho);
+        rechazar(partes("imprimir --todas --ejercicio 2026 --modelo 430 --periodo 1 --pdf .")
+                     .replaceInStrings(u"."_s, carpeta),
+                 "430 2026-01»" + dicho);
+        rechazar(partes("copia"),
+                 "«A58818501; 12345678Z - SEGUROS ÑANDÚ: 430 2026-02; 12345678Z - "
+                 "SEGUROS ÑANDÚ: 430 2026-01»"
+                     + dicho);
+        QVERIFY(QDir(carpeta).entryList({u"*.pdf"_s}).isEmpty());
+        hacer(declarar("430 --ejercicio 2026 --periodo 3 --base 1"));
     }
 
 private:
