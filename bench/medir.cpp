@@ -1,101 +1,25 @@
-#include "bucle.h"
+// This program against the least that the same work takes, all in one run: see docs/performance.md.
+//     bench_medir [DECLARANTS [RUNS]]
+
+#include "Banco.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
-#include <functional>
 #include <iterator>
 #include <stdexcept>
-#include <string>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-// Import and export of declarants, and returns of a sheet, by the program's command line against
-// the loop in bucle.c:
-//     bench_intercambio PROGRAM COUNTER [LINES]
-// PROGRAM is the built ostrel, COUNTER the library that counts synchronisations.
-
-namespace fs = std::filesystem;
 
 namespace {
 
-struct Gasto
+struct Fila
 {
-    double segundos = 0; // of processor
-    double megas = 0; // most memory in use at once
-    long sincronizaciones = 0;
+    std::string nombre;
+    Gasto nuestro, limite;
+
+    double razon() const { return nuestro.segundos / limite.segundos; }
 };
-
-double segundosDe(const timeval &t)
-{
-    return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) / 1e6;
-}
-
-/// What `tarea`, run as a process of its own, costs.
-Gasto medir(const std::function<int()> &tarea)
-{
-    std::fflush(stdout); // what waits there would be written by both
-    const pid_t hijo = fork();
-    if (hijo == 0)
-        _exit(tarea());
-    int estado = 0;
-    rusage uso{};
-    wait4(hijo, &estado, 0, &uso);
-    if (!WIFEXITED(estado) || WEXITSTATUS(estado) != 0)
-        throw std::runtime_error("a task failed");
-    return {segundosDe(uso.ru_utime) + segundosDe(uso.ru_stime),
-            static_cast<double>(uso.ru_maxrss) / 1024, 0};
-}
-
-class Banco
-{
-public:
-    Banco(std::string programa, std::string contador)
-        : m_programa(std::move(programa))
-        , m_contador(std::move(contador))
-        , m_carpeta(fs::temp_directory_path() / ("ostrel-bench-" + std::to_string(getpid())))
-    {
-        fs::create_directories(m_carpeta);
-    }
-    ~Banco() { fs::remove_all(m_carpeta); }
-    Banco(const Banco &) = delete;
-    Banco &operator=(const Banco &) = delete;
-
-    Gasto ostrel(const std::string &orden, const std::string &argumento,
-                 const std::string &valor = {})
-    {
-        const std::string cuenta = ruta("sincronizaciones");
-        Gasto gasto = medir([&] {
-            setenv("LD_PRELOAD", m_contador.c_str(), 1);
-            setenv("OSTREL_SINCRONIZACIONES", cuenta.c_str(), 1);
-            if (std::freopen("/dev/null", "w", stdout))
-                execl(m_programa.c_str(), m_programa.c_str(), "--carpeta", m_carpeta.c_str(),
-                      orden.c_str(), argumento.c_str(), valor.empty() ? nullptr : valor.c_str(),
-                      nullptr);
-            return 1;
-        });
-        std::ifstream(cuenta) >> gasto.sincronizaciones;
-        return gasto;
-    }
-
-    /// An empty database with the program's schema.
-    std::string baseVacia()
-    {
-        fs::remove_all(m_carpeta / "Tablas");
-        ostrel("listar", "declarantes");
-        return ruta("Tablas/OstrMod.mdb");
-    }
-
-    std::string ruta(const std::string &nombre) const { return (m_carpeta / nombre).string(); }
-
-private:
-    std::string m_programa;
-    std::string m_contador;
-    fs::path m_carpeta;
-};
+using Tabla = std::vector<Fila>;
 
 bool iguales(const std::string &una, const std::string &otra)
 {
@@ -104,81 +28,114 @@ bool iguales(const std::string &una, const std::string &otra)
     return std::equal(std::istreambuf_iterator<char>(a), {}, std::istreambuf_iterator<char>(b), {});
 }
 
-struct Vuelta
+/// Leaves the declarants in the program's database.
+void intercambio(const Banco &banco, long lineas, Tabla &tabla)
 {
-    Gasto importar, exportar, importarC, exportarC;
-};
-
-Vuelta vuelta(Banco &banco, long lineas)
-{
-    const std::string fichero = banco.ruta("Contri.txt");
-    const std::string salida = banco.ruta("ostrel.txt");
-    const std::string salidaC = banco.ruta("c.txt");
-    if (bucle_generar(fichero.c_str(), lineas) != 0)
-        throw std::runtime_error("cannot write the file");
-    Vuelta v;
-    const std::string base = banco.baseVacia();
-    v.importarC = medir([&] { return bucle_importar(base.c_str(), fichero.c_str()); });
-    v.exportarC = medir([&] { return bucle_exportar(base.c_str(), salidaC.c_str()); });
+    const auto fichero = banco.ruta("Contri.txt");
+    const auto salida = banco.ruta("ostrel.txt"), salidaC = banco.ruta("c.txt");
+    banco.bucle({"generar", fichero, std::to_string(lineas)});
+    const auto base = banco.baseVacia();
+    const Gasto importarC = banco.bucle({"importar", base, fichero});
+    const Gasto exportarC = banco.bucle({"exportar", base, salidaC});
     banco.baseVacia();
-    v.importar = banco.ostrel("importar", fichero);
-    v.exportar = banco.ostrel("exportar", salida);
+    tabla.push_back({"import", banco.ostrel({"importar", fichero}), importarC});
+    tabla.push_back({"export", banco.ostrel({"exportar", salida}), exportarC});
     if (!iguales(salida, salidaC))
         throw std::runtime_error("the two ways did not write the same");
-    return v;
 }
 
-void fila(const char *que, const Gasto &nuestro, const Gasto &suyo)
+/// Leaves a return of January 2026 of each of them (no more than a sheet may have) in it too.
+void declaraciones(const Banco &banco, long lineas, Tabla &tabla)
 {
-    std::printf("%-8s  %8.2f s  %8.2f s  %5.2f  %7.0f MB  %6ld\n", que, nuestro.segundos,
-                suyo.segundos, nuestro.segundos / suyo.segundos, nuestro.megas,
-                nuestro.sincronizaciones);
+    constexpr long cabenEnHoja = 200'000;
+    const long filas = std::min(lineas, cabenEnHoja), guardados = std::min(lineas, 200L);
+    const auto hoja = banco.ruta("hoja.csv"), otra = banco.ruta("otra.mdb");
+    banco.bucle({"hoja", banco.ruta("Contri.txt"), hoja, std::to_string(filas)});
+    fs::copy_file(banco.base(), otra, fs::copy_options::overwrite_existing);
+    const Gasto suyo = banco.bucle({"declarar", otra, hoja});
+    tabla.push_back({"returns of a sheet", banco.ostrel({"declarar", "--desde", hoja}), suyo});
+    const auto veces = std::to_string(guardados);
+    tabla.push_back({"one save", banco.tarea("guardar", {veces}).parte("save", guardados),
+                     banco.bucle({"guardar", otra, veces}).parte("save", guardados)});
+    fs::remove(otra);
 }
 
-/// Returns of a sheet, one of each declarant that is there.
-void hoja(Banco &banco, long filas)
+void pantallas(const Banco &banco, Tabla &tabla)
 {
-    const std::string contribuyentes = banco.ruta("Contri.txt");
-    if (bucle_generar(contribuyentes.c_str(), filas) != 0)
-        throw std::runtime_error("cannot write the file");
+    const Gasto lista = banco.tarea("lista"), suya = banco.bucle({"lista", banco.base()});
+    tabla.push_back({"list", lista.parte("load"), suya.parte("load")});
+    tabla.push_back({"list, a key", lista.parte("key"), suya.parte("key")});
+    tabla.push_back({"list, in order", lista.parte("sort"), suya.parte("sort")});
+    tabla.push_back({"pending", banco.tarea("pendientes").parte("pending"),
+                     banco.bucle({"pendientes", banco.base()}).parte("pending")});
+    const Gasto vacia = banco.vacia().parte("window"), inicio = banco.tarea("inicio");
+    tabla.push_back({"start, window", inicio.parte("window"), vacia});
+    tabla.push_back({"start, checked", inicio.parte("checked"), vacia});
+}
+
+/// What does not depend on how many declarants there are.
+void sueltas(const Banco &banco, Tabla &tabla)
+{
     banco.baseVacia();
-    banco.ostrel("importar", contribuyentes);
-    const std::string fichero = banco.ruta("hoja.csv");
-    const std::string base = banco.ruta("Tablas/OstrMod.mdb");
-    const std::string otra = banco.ruta("otra.mdb");
-    if (bucle_hoja(contribuyentes.c_str(), fichero.c_str(), filas) != 0)
-        throw std::runtime_error("cannot write the sheet");
-    fs::copy_file(base, otra);
-    const Gasto suyo = medir([&] { return bucle_declarar(otra.c_str(), fichero.c_str()); });
-    std::printf("%ld returns\n", filas);
-    fila("sheet", banco.ostrel("declarar", "--desde", fichero), suyo);
+    tabla.push_back(
+        {"start", banco.tarea("inicio").parte("checked"), banco.vacia().parte("window")});
+    for (const std::string modelo : {"430", "480"})
+        for (const std::string cuantas : {"1", "1000"}) {
+            const auto impreso = [&](const char *como) {
+                banco.baseVacia();
+                return banco.tarea(como, {modelo, cuantas}).parte("print");
+            };
+            const Gasto nuestro = impreso("imprimir");
+            tabla.push_back({cuantas + " of " + modelo, nuestro, impreso("calcar")});
+        }
 }
 
-void tabla(long lineas, const Vuelta &v)
+/// Of each row the run whose ratio lies in the middle.
+template <class Ronda> Tabla medianas(int veces, const Ronda &ronda)
 {
-    std::printf("%ld lines\n%-8s  %10s  %10s  %5s  %10s  %6s\n", lineas, "", "ostrel", "C loop",
-                "ratio", "memory", "syncs");
-    fila("import", v.importar, v.importarC);
-    fila("export", v.exportar, v.exportarC);
+    std::vector<Tabla> tablas(static_cast<std::size_t>(veces));
+    for (Tabla &una : tablas)
+        ronda(una);
+    Tabla medias;
+    for (std::size_t i = 0; i < tablas[0].size(); ++i) {
+        std::vector<Fila> filas;
+        for (const Tabla &una : tablas)
+            filas.push_back(una[i]);
+        std::ranges::sort(filas, {}, &Fila::razon);
+        medias.push_back(filas[filas.size() / 2]);
+    }
+    return medias;
+}
+
+void mostrar(const std::string &titulo, const Tabla &tabla)
+{
+    std::printf("\n%-20s %12s %12s %6s %9s %9s %6s\n", titulo.c_str(), "program", "limit", "ratio",
+                "memory", "its", "syncs");
+    for (const Fila &f : tabla)
+        std::printf("%-20s %9.2f ms %9.2f ms %6.2f %6.0f MB %6.0f MB %6ld\n", f.nombre.c_str(),
+                    f.nuestro.segundos * 1e3, f.limite.segundos * 1e3, f.razon(), f.nuestro.megas,
+                    f.limite.megas, f.nuestro.sincronizaciones);
+    std::fflush(stdout);
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    if (argc < 3)
-        return 2;
+    const long declarantes = argc > 1 ? std::atol(argv[1]) : 100'000;
+    const int veces = argc > 2 ? std::atoi(argv[2]) : 3;
     try {
-        Banco banco(argv[1], argv[2]);
-        const long lineas = argc > 3 ? std::atol(argv[3]) : 100'000;
-        const Vuelta una = vuelta(banco, lineas);
-        tabla(lineas, una);
-        hoja(banco, lineas / 10);
-        const Vuelta diez = vuelta(banco, 10 * lineas);
-        tabla(10 * lineas, diez);
-        std::printf("ten times the lines take %.1f times the time to import, %.1f to export\n",
-                    diez.importar.segundos / una.importar.segundos,
-                    diez.exportar.segundos / una.exportar.segundos);
+        const Banco banco;
+        for (const long cuantos : {declarantes / 100, declarantes, declarantes * 10}) {
+            const auto ronda = [&](Tabla &tabla) {
+                intercambio(banco, cuantos, tabla);
+                declaraciones(banco, cuantos, tabla);
+                pantallas(banco, tabla);
+            };
+            mostrar(std::to_string(cuantos) + " declarants",
+                    medianas(cuantos > declarantes ? 1 : veces, ronda));
+        }
+        mostrar("no declarants", medianas(veces, [&](Tabla &tabla) { sueltas(banco, tabla); }));
     } catch (const std::exception &error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;

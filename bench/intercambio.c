@@ -7,10 +7,6 @@
 
 enum { ANCHO = 153 };
 
-static const char *const AJUSTES
-    = "PRAGMA foreign_keys = ON; PRAGMA journal_mode = DELETE; PRAGMA synchronous = EXTRA;"
-      "PRAGMA cache_size = " OSTREL_CACHE;
-
 /* Columns of a line, from 0, in the order of the statements below. */
 static const struct
 {
@@ -99,8 +95,7 @@ int bucle_importar(const char *base, const char *fichero)
     long numero = 0, primera = 0;
     int malo = 0;
     FILE *entrada = fopen(fichero, "rb");
-    if (!entrada || sqlite3_open(base, &bd) || sqlite3_exec(bd, AJUSTES, NULL, NULL, NULL)
-        || sqlite3_prepare_v2(bd, ALTA, -1, &alta, NULL))
+    if (!entrada || bucle_abrir(base, &bd) || sqlite3_prepare_v2(bd, ALTA, -1, &alta, NULL))
         return 1;
     for (; !malo && fgets(linea, sizeof linea, entrada); ++numero) {
         if (numero == 0 || numero - primera >= lineasTransaccion(numero)) {
@@ -135,8 +130,7 @@ int bucle_exportar(const char *base, const char *fichero)
     sqlite3_stmt *lectura = NULL;
     char texto[80];
     FILE *salida = fopen(fichero, "wb");
-    if (!salida || sqlite3_open(base, &bd) || sqlite3_exec(bd, AJUSTES, NULL, NULL, NULL)
-        || sqlite3_prepare_v2(bd, LECTURA, -1, &lectura, NULL))
+    if (!salida || bucle_abrir(base, &bd) || sqlite3_prepare_v2(bd, LECTURA, -1, &lectura, NULL))
         return 1;
     while (sqlite3_step(lectura) == SQLITE_ROW) {
         for (int i = 0; i < CUANTAS; ++i) {
@@ -153,75 +147,4 @@ int bucle_exportar(const char *base, const char *fichero)
     sqlite3_finalize(lectura);
     sqlite3_close(bd);
     return fclose(salida);
-}
-
-int bucle_hoja(const char *fichero, const char *hoja, long filas)
-{
-    char linea[ANCHO + 16];
-    FILE *entrada = fopen(fichero, "rb");
-    FILE *salida = fopen(hoja, "wb");
-    if (!entrada || !salida)
-        return 1;
-    fprintf(salida, "DNI;EJERCICIO;PERIODO;BASE\n");
-    for (long i = 0; i < filas && fgets(linea, sizeof linea, entrada); ++i)
-        fprintf(salida, "%.9s;2026;%ld;%ld,%02ld\n", linea, i % 12 + 1, 1000 + i, i % 100);
-    fclose(entrada);
-    return fclose(salida);
-}
-
-static const char *const CLAVE = "SELECT CSCO FROM DECLARANTES WHERE DNI = ?";
-static const char *const CABECERA = "INSERT INTO DECLARACIONES (CSCO, EJERCICIO, PERIODICIDAD, "
-                                    "PERIODO, MODELO, TIPOLOGIA, IMPORTE)"
-                                    " VALUES (?, ?, 1, ?, '430', 1, ?)";
-static const char *const FIGURAS
-    = "INSERT INTO DATOS430 (CSDE, RECTIFICA, BASELIQ, TIPOLIQ, CUOTALIQ, BASEREC, CUOTAREC, "
-      "BASETOT,"
-      " TIPOTOT, CUOTATOT) VALUES (?1, '', ?2, 800, ?3, 0, 0, ?2, 800, ?3)";
-
-static int declarar(sqlite3 *bd, sqlite3_stmt **s, char *linea)
-{
-    const char *dni = strtok(linea, ";");
-    const long ejercicio = atol(strtok(NULL, ";")), mes = atol(strtok(NULL, ";"));
-    const long long base = atoll(strtok(NULL, ",")) * 100 + atoll(strtok(NULL, "\n"));
-    const long long cuota = (base * 8 + 50) / 100;
-    sqlite3_bind_text(s[0], 1, dni, -1, SQLITE_STATIC);
-    int malo = sqlite3_step(s[0]) != SQLITE_ROW;
-    sqlite3_bind_int(s[1], 1, sqlite3_column_int(s[0], 0));
-    sqlite3_bind_int64(s[1], 2, ejercicio);
-    sqlite3_bind_int64(s[1], 3, mes);
-    sqlite3_bind_int64(s[1], 4, cuota);
-    malo |= sqlite3_step(s[1]) != SQLITE_DONE;
-    sqlite3_bind_int64(s[2], 1, sqlite3_last_insert_rowid(bd));
-    sqlite3_bind_int64(s[2], 2, base);
-    sqlite3_bind_int64(s[2], 3, cuota);
-    malo |= sqlite3_step(s[2]) != SQLITE_DONE;
-    for (int i = 0; i < 3; ++i)
-        sqlite3_reset(s[i]);
-    return malo;
-}
-
-int bucle_declarar(const char *base, const char *hoja)
-{
-    sqlite3 *bd = NULL;
-    sqlite3_stmt *s[3];
-    char linea[80];
-    int malo = 0;
-    FILE *entrada = fopen(hoja, "rb");
-    if (!entrada || sqlite3_open(base, &bd) || sqlite3_exec(bd, AJUSTES, NULL, NULL, NULL)
-        || sqlite3_prepare_v2(bd, CLAVE, -1, &s[0], NULL)
-        || sqlite3_prepare_v2(bd, CABECERA, -1, &s[1], NULL)
-        || sqlite3_prepare_v2(bd, FIGURAS, -1, &s[2], NULL) || !fgets(linea, sizeof linea, entrada))
-        return 1;
-    for (long numero = 0; !malo && fgets(linea, sizeof linea, entrada); ++numero) {
-        if (numero % 5000 == 0)
-            malo = sqlite3_exec(bd, numero ? "COMMIT; BEGIN IMMEDIATE" : "BEGIN IMMEDIATE", NULL,
-                                NULL, NULL);
-        malo |= declarar(bd, s, linea);
-    }
-    malo |= sqlite3_exec(bd, "COMMIT", NULL, NULL, NULL);
-    for (int i = 0; i < 3; ++i)
-        sqlite3_finalize(s[i]);
-    sqlite3_close(bd);
-    fclose(entrada);
-    return malo;
 }
