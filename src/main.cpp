@@ -1,6 +1,7 @@
 #include "app/Arranque.h"
 #include "app/DialogosVentana.h"
 #include "cli/Cli.h"
+#include "core/Plataforma.h"
 #include "core/Rutas.h"
 #include "server/Servidor.h"
 
@@ -75,7 +76,9 @@ static void noMorirPorElTamano()
 int main(int argc, char **argv)
 {
     noMorirPorElTamano();
-    QCoreApplication::setApplicationVersion(QStringLiteral(OSTREL_VERSION));
+    plataforma::anunciar();
+    plataforma::prepararConsola();
+    QCoreApplication::setApplicationVersion(plataforma::version());
     if (const auto codigo = sinVentana(argc, argv))
         return *codigo;
     DialogosVentana dialogos;

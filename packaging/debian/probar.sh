@@ -46,7 +46,8 @@ es "$(dpkg-query -W -f='${Version}' ostrel)" "$version-1"
 for fichero in bin/ostrel share/applications/ostrel.desktop share/metainfo/example.varlenda.ostrel.metainfo.xml \
     share/icons/hicolor/{16x16,22x22,24x24,32x32,48x48,64x64,128x128,256x256}/apps/ostrel.png \
     share/icons/hicolor/scalable/apps/ostrel.svg share/bash-completion/completions/ostrel share/man/man1/ostrel.1.gz \
-    share/man/eu/man1/ostrel.1.gz share/doc/ostrel/{copyright,changelog.gz,changelog.Debian.gz}; do
+    share/man/eu/man1/ostrel.1.gz share/doc/ostrel/{copyright,changelog.gz,changelog.Debian.gz} \
+    share/doc/ostrel/licencias/{libqt6core6,libsqlite3-0,libsqlitecpp-dev,fonts-liberation}.txt; do
     dpkg-query -L ostrel | grep -qx "/usr/$fichero" || fallo "/usr/$fichero is not in the package"
 done
 for lado in 16 22 24 32 48 64 128 256; do

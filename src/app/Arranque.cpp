@@ -20,18 +20,6 @@
 #include <cstdio>
 #include <cstdlib>
 
-#ifdef Q_OS_WIN
-#include <qt_windows.h>
-#endif
-
-/// Lets installers see that the program runs; a second copy starts all the same.
-static void crearMutex()
-{
-#ifdef Q_OS_WIN
-    CreateMutexW(nullptr, FALSE, L"Ostrel de seguros");
-#endif
-}
-
 InicioSesion prepararSesion()
 {
     const PunteroOcupado ocupado;
@@ -79,8 +67,6 @@ static void mostrarCentrada(QMainWindow &ventana)
 
 std::unique_ptr<MDIOstrel> Arranque::iniciar()
 {
-    crearMutex();
-    QCoreApplication::setApplicationVersion(QStringLiteral(OSTREL_VERSION));
     const auto sesion = prepararSesion();
     if (sesion.terminar)
         return nullptr;

@@ -10,11 +10,11 @@
 #include <QWidget>
 
 #ifdef Q_OS_WIN
-#include "core/Rutas.h"
 #include "core/Textos.h"
 
 #include <QDir>
 #include <QFile>
+#include <QLibrary>
 #include <qt_windows.h>
 #endif
 
@@ -23,14 +23,12 @@ using namespace Qt::StringLiterals;
 #ifdef Q_OS_WIN
 static bool abrirCompilada(const QString &tema)
 {
-    const QString fichero
-        = rutas().programa + elegir(u"/Ayuda/Ayuda.chm"_s, u"/Ayuda/Laguntza.chm"_s);
+    const QString fichero = QCoreApplication::applicationDirPath()
+        + elegir(u"/Ayuda/Ayuda.chm"_s, u"/Ayuda/Laguntza.chm"_s);
     if (!QFile::exists(fichero))
         return false;
     using Visor = HWND(WINAPI *)(HWND, LPCWSTR, UINT, DWORD_PTR);
-    const HMODULE biblioteca = LoadLibraryW(L"hhctrl.ocx");
-    const auto visor
-        = biblioteca ? reinterpret_cast<Visor>(GetProcAddress(biblioteca, "HtmlHelpW")) : nullptr;
+    const auto visor = reinterpret_cast<Visor>(QLibrary::resolve(u"hhctrl.ocx"_s, "HtmlHelpW"));
     const QString lugar = QDir::toNativeSeparators(fichero) + u"::/"_s + tema;
     constexpr UINT mostrarTema = 0;
     return visor

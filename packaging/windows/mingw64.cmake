@@ -1,0 +1,12 @@
+# The compiler that makes 64-bit Windows programs on Debian, with threads of the standard library.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(destino x86_64-w64-mingw32)
+set(CMAKE_C_COMPILER ${destino}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${destino}-g++-posix)
+set(CMAKE_RC_COMPILER ${destino}-windres)
+set(CMAKE_FIND_ROOT_PATH /usr/${destino})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
