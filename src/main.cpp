@@ -33,7 +33,9 @@ static std::unique_ptr<QCoreApplication> nuevaAplicacion(int &argc, char **argv)
         qInstallMessageHandler(soloGraves);
     if (!dibujaPaginas(argumentos))
         return std::make_unique<QCoreApplication>(argc, argv);
+#ifndef Q_OS_WIN // where there is always a screen, and typefaces are had from it alone
     qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

@@ -332,6 +332,11 @@ private Q_SLOTS:
                               ::setrlimit(RLIMIT_FSIZE, &limite);
                           }),
                   "a.pdf");
+        // nor is a form without a word taken for one on a machine without typefaces
+        lineas::escribir(carpeta + u"/sin.conf"_s, "<fontconfig/>");
+        qputenv("FONTCONFIG_FILE", QFile::encodeName(carpeta + u"/sin.conf"_s));
+        rechazada(proceso(orden + QStringList{pdf}), "no hay ningún tipo de letra");
+        qunsetenv("FONTCONFIG_FILE");
         QVERIFY(!QFileInfo::exists(pdf));
     }
 

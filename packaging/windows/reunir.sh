@@ -9,7 +9,7 @@ mkdir -p "$cliente"/{Ayuda,Licencias,platforms,styles,imageformats,tls}
 
 cp "$obra/src/ostrel.exe" "$obra/src/ostrel.com" "$cliente"
 cp "$qt"/bin/Qt6{Core,Gui,Widgets,PrintSupport,Network}.dll "$cliente"
-cp "$qt/plugins/platforms"/{qwindows,qoffscreen}.dll "$cliente/platforms"
+cp "$qt/plugins/platforms"/qwindows.dll "$cliente/platforms"
 cp "$qt/plugins/styles"/*.dll "$cliente/styles"
 cp "$qt/plugins/imageformats/qico.dll" "$cliente/imageformats"
 cp "$qt/plugins/tls/qschannelbackend.dll" "$cliente/tls"

@@ -1,5 +1,6 @@
 #include "printing/Lienzo.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>
 
@@ -58,6 +59,12 @@ QPointF esquina(const QPaintDevice &dispositivo)
 }
 
 } // namespace
+
+bool hayLetra()
+{
+    // Qt's stand-in for a missing face has no name
+    return !QFontInfo(tipo(EstiloInicial).fuente).family().isEmpty();
+}
 
 Lienzo::Lienzo(QPainter &pintor)
     : m_pintor(pintor)

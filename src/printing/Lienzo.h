@@ -70,6 +70,9 @@ inline constexpr Estilo EstiloInicial{Letra::Arial, 8, true, Tinta::Negro};
 inline constexpr Estilo EstiloEtiqueta{Letra::Times, 7, true, Tinta::Oscura};
 inline constexpr Estilo EstiloValor{Letra::Arial, 9, false, Tinta::Negro};
 
+/// False on a machine without any typeface, where every text would be left out without a word.
+bool hayLetra();
+
 /// A page on any paint device, in millimetres from its top-left corner, with the shapes that the
 /// forms are made of. The painter's state is saved on construction and restored at the end.
 ///

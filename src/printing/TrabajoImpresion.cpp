@@ -8,12 +8,15 @@
 #include "declarations/cDatos480.h"
 #include "printing/DocumentoPdf.h"
 #include "printing/Impreso.h"
+#include "printing/Lienzo.h"
 #include "printing/cImOf.h"
 
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPagedPaintDevice>
 #include <QPainter>
+
+#include <stdexcept>
 
 using namespace impreso;
 
@@ -102,6 +105,8 @@ QByteArray TrabajoImpresion::pdf(const QStringList &copias)
 
 void prepararPagina(QPagedPaintDevice &dispositivo)
 {
+    if (!hayLetra()) // the form would be without a word
+        throw std::runtime_error(msj(Msj::SinLetras).toStdString());
     QPageLayout disposicion(QPageSize(QPageSize::A4), QPageLayout::Portrait, {});
     disposicion.setMode(QPageLayout::FullPageMode);
     dispositivo.setPageLayout(disposicion);

@@ -52,7 +52,7 @@ private:
     impreso::ValoresImpreso m_valores;
 };
 
-/// A4, upright, drawn from the sheet's corner.
+/// A4, upright, drawn from the sheet's corner. Throws on a machine that has nothing to write with.
 void prepararPagina(QPagedPaintDevice &dispositivo);
 
 /// Name of the program in printed documents.
