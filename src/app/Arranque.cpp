@@ -3,6 +3,7 @@
 #include "app/Estilo.h"
 #include "app/MDIOstrel.h"
 #include "app/frmInicio.h"
+#include "core/Plataforma.h"
 #include "core/Sesion.h"
 #include "core/Unico.h"
 #include "help/TeclaAyuda.h"
@@ -67,6 +68,7 @@ static void mostrarCentrada(QMainWindow &ventana)
 
 std::unique_ptr<MDIOstrel> Arranque::iniciar()
 {
+    QCoreApplication::setApplicationVersion(plataforma::version());
     const auto sesion = prepararSesion();
     if (sesion.terminar)
         return nullptr;
