@@ -100,6 +100,10 @@ public:
     virtual void RecorrerExportar(quint8 orden,
                                   const std::function<bool(const Registro &)> &visitar)
         = 0;
+    /// What lists show of every declarant, as they are stored and none of them kept, until
+    /// `visitar` returns false: of a RegDeclarante the key, DNI, names, the province's number and
+    /// both counters, nothing else (or RegDanado).
+    virtual void RecorrerLista(const std::function<bool(const Registro &)> &visitar) = 0;
     /// FilaReciente rows: up to four, the last saved first; damaged ones are left out.
     virtual void ObtenerUltimosDeclarantes(Filas &filas) = 0;
     /// Fila430 rows of a declarant's 430 returns of a year, by month; false when there is none.

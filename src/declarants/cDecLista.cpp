@@ -10,7 +10,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <tuple>
 #include <vector>
 
 namespace {
@@ -65,7 +64,8 @@ struct ConClave
 
     friend bool operator<(const ConClave &una, const ConClave &otra)
     {
-        return std::tie(una.clave, una.fila->dni) < std::tie(otra.clave, otra.fila->dni);
+        const int orden = una.clave.compare(otra.clave);
+        return orden < 0 || (orden == 0 && una.fila->dni < otra.fila->dni);
     }
 };
 
@@ -75,7 +75,7 @@ QList<DeclaranteListado> cDecLista::CargarDeclarantes()
 {
     QList<DeclaranteListado> lista;
     Lector lector;
-    servicioDeclarante()->RecorrerExportar(0, [&](const Registro &registro) {
+    servicioDeclarante()->RecorrerLista([&](const Registro &registro) {
         lista.append(lector.leer(registro));
         return true;
     });
@@ -93,13 +93,14 @@ void cDecLista::Ordenar(QList<DeclaranteListado> &lista) const
 {
     std::vector<ConClave> claves;
     claves.reserve(static_cast<size_t>(lista.size()));
-    for (const auto &fila : std::as_const(lista))
-        claves.push_back({clave(fila), &fila});
+    auto *filas = lista.data();
+    for (qsizetype i = 0; i < lista.size(); ++i)
+        claves.push_back({clave(filas[i]), filas + i});
     std::ranges::sort(claves, std::less<ConClave>());
     QList<DeclaranteListado> ordenada;
     ordenada.reserve(lista.size());
     for (const auto &clave : claves)
-        ordenada.append(*clave.fila);
+        ordenada.append(std::move(filas[clave.fila - filas]));
     lista = std::move(ordenada);
 }
 

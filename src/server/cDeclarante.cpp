@@ -173,6 +173,24 @@ void cDeclarante::RecorrerExportar(quint8 orden,
     while (sentencia.fila() && visitar(registroListado(conexion, sentencia))) {}
 }
 
+void cDeclarante::RecorrerLista(const std::function<bool(const Registro &)> &visitar)
+{
+    using namespace RegDeclarante;
+    const PConexion conexion = Conexion::datos(m_datos);
+    static const std::string sql = "SELECT CSCO, DNI, NOMBRE, NOMMUN, CODPROV, NUM430, NUM480, "
+        + probadaDeclarantes().bien() + " FROM DECLARANTES";
+    Sentencia fila(conexion, sql);
+    Registro registro(Total);
+    for (bool seguir = true; seguir && fila.fila();) {
+        for (int columna = 0; const Campo texto : {DNI, NOMBRE, NOMMUN})
+            registro[texto] = fila.texto(++columna);
+        for (int columna = 3; const Campo numero : {CODPROV, NUM430, NUM480})
+            registro[numero] = fila.clave(++columna);
+        registro[CSCO] = fila.clave(0);
+        seguir = visitar(filaBien(fila) ? registro : registroDanado(conexion, fila.clave(0)));
+    }
+}
+
 void cDeclarante::ObtenerUltimosDeclarantes(Filas &filas)
 {
     static const std::string sql = "SELECT CSCO, DNI, NOMBRE FROM DECLARANTES WHERE RECIENTE > 0 "

@@ -25,6 +25,7 @@ public:
     qint32 dameResultadoExportar(Filas &filas, quint8 orden) override;
     void RecorrerExportar(quint8 orden,
                           const std::function<bool(const Registro &)> &visitar) override;
+    void RecorrerLista(const std::function<bool(const Registro &)> &visitar) override;
     void ObtenerUltimosDeclarantes(Filas &filas) override;
     bool ObtListDecl430(Filas &filas, qint16 ejercicio, qint32 CSCO) override;
 
