@@ -80,7 +80,8 @@ static void pendientes()
 {
     prepararSesion();
     unico::la<cPendientes>().CABECERA(2026, 1);
-    QApplication::fontMetrics().averageCharWidth(); // a running program has looked for its fonts
+    QFontMetrics(QApplication::font())
+        .averageCharWidth(); // a running program has looked for its fonts
     const double desde = reloj_ahora();
     FrmPendientes pantalla;
     pantalla.show();
