@@ -143,6 +143,7 @@ private Q_SLOTS:
                 auto *abierta = m_ventana->findChild<QMdiArea *>()->activeSubWindow()->widget();
                 const QString nombre = abierta->objectName();
                 QCOMPARE(nombre + Manos(*abierta).defectos().join(u' '), nombre);
+                QVERIFY2(abierta->focusWidget()->isVisible(), qPrintable(nombre));
                 QTest::keyClick(abierta, Qt::Key_Escape);
                 QTRY_COMPARE(pantallas(), QStringList());
             }

@@ -152,7 +152,7 @@ QSize FrmImprimirVarias::sizeHint() const
 void FrmImprimirVarias::showEvent(QShowEvent *evento)
 {
     PantallaProceso::showEvent(evento);
-    if (!evento->spontaneous() && !focusWidget())
+    if (entraSinFoco(*evento))
         m_cmdImprimir->setFocus(Qt::OtherFocusReason);
 }
 

@@ -222,7 +222,7 @@ void FrmDecLista::ActualizarDeclarante(qint32 csco)
 void FrmDecLista::showEvent(QShowEvent *evento)
 {
     PantallaBase::showEvent(evento);
-    if (!evento->spontaneous() && !focusWidget())
+    if (entraSinFoco(*evento))
         m_flxDeclarantes->setFocus(Qt::OtherFocusReason);
 }
 

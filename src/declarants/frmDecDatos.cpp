@@ -120,7 +120,7 @@ void frmDecDatos::PresentaDatos()
 void frmDecDatos::showEvent(QShowEvent *evento)
 {
     PantallaBase::showEvent(evento);
-    if (!evento->spontaneous() && !focusWidget())
+    if (entraSinFoco(*evento))
         m_ficha->caja(DNI)->setFocus(Qt::OtherFocusReason);
 }
 

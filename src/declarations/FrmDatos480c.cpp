@@ -189,7 +189,7 @@ void FrmDatos480c::tomarMensuales()
     if (!cabe)
         aviso(msj(Msj::ImporteTotalExcedido, msj(Msj::BaseImponible)));
     PresentaDatos();
-    caja(C73_BA1)->setFocus(Qt::OtherFocusReason);
+    recuperarFoco(caja(C73_BA1));
 }
 
 bool FrmDatos480c::ValidarCampos()

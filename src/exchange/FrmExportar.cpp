@@ -237,7 +237,7 @@ void FrmExportar::Actualizar()
 void FrmExportar::showEvent(QShowEvent *evento)
 {
     PantallaProceso::showEvent(evento);
-    if (!evento->spontaneous() && !focusWidget())
+    if (entraSinFoco(*evento))
         m_listas[Contri].grid->setFocus(Qt::OtherFocusReason);
 }
 

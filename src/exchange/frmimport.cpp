@@ -161,7 +161,7 @@ QSize frmimport::sizeHint() const
 void frmimport::showEvent(QShowEvent *evento)
 {
     PantallaProceso::showEvent(evento);
-    if (!evento->spontaneous() && !focusWidget())
+    if (entraSinFoco(*evento))
         m_txtFichero->setFocus(Qt::OtherFocusReason);
 }
 

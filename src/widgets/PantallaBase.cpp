@@ -267,6 +267,13 @@ void PantallaBase::showEvent(QShowEvent *evento)
     QWidget::showEvent(evento);
 }
 
+bool PantallaBase::entraSinFoco(const QShowEvent &evento) const
+{
+    // the frame around has given it to the first control, be that one hidden
+    const auto *foco = focusWidget();
+    return !evento.spontaneous() && !(foco && foco->isVisibleTo(this));
+}
+
 void PantallaBase::closeEvent(QCloseEvent *evento)
 {
     if (!m_terminada) {

@@ -109,6 +109,8 @@ protected:
     void alPulsarSinConfirmar(QAbstractButton *boton, const std::function<void()> &accion);
     void aviso(const QString &texto);
 
+    /// Whether the screen is being opened and nothing that can be seen has the focus yet.
+    bool entraSinFoco(const QShowEvent &evento) const;
     void changeEvent(QEvent *evento) override;
     void showEvent(QShowEvent *evento) override;
     void closeEvent(QCloseEvent *evento) override;
