@@ -172,6 +172,11 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(&principal));
         QTest::keyClick(&principal, Qt::Key_F1);
         QCOMPARE(tema(), u"mdiostrel.htm"_s);
+        const QString ventana = paginas(u"c"_s)[u"mdiostrel.htm"_s];
+        for (const auto *una : principal.findChildren<QAction *>()) // every entry is explained
+            if (una->objectName().startsWith(u"mnu"))
+                QVERIFY2(ventana.contains(u"<b>"_s + una->text().remove(u'&') + u"</b>"_s),
+                         qPrintable(una->text()));
         QTest::keyClick(&principal, Qt::Key_O, Qt::ControlModifier);
         QTest::keyClick(&principal, Qt::Key_F1); // the focus is in no screen
         QCOMPARE(tema(), u"frmdeclista.htm"_s);

@@ -143,7 +143,7 @@ private Q_SLOTS:
         menu("mnuRestore");
         auto caja = mensajes.tomar().value(0);
         QCOMPARE(m_propuesta, copias(u"OstrMod_bak.mdb"_s));
-        QCOMPARE(m_filtro, u"archivos mdb (*.mdb)"_s);
+        QCOMPARE(m_filtro, u"mdb fitxategiak (*.mdb)"_s);
         QCOMPARE(caja.titulo, u"Segurtasun kopia leheneratu"_s);
         QCOMPARE(caja.porDefecto, QMessageBox::No);
         static const QRegularExpression pregunta(

@@ -353,7 +353,7 @@ private Q_SLOTS:
     {
         decir(partes("idioma"), "Idioma del programa: C (Castellano)\n");
         hacer(partes("idioma e"));
-        dicha(proceso(partes("idioma")), "Programaren hizkuntza: E (Euskera)\n");
+        dicha(proceso(partes("idioma")), "Programaren hizkuntza: E (Euskara)\n");
         decir(partes("listar declarantes"), "Ez dago aitortzailerik.\n");
         QVERIFY(ostrel(partes("--help")).texto.startsWith("Erabilera:"));
         rechazar(opcionesAlta(u"dni"_s, u"1"_s), "--dni aukera: NA-IFK");

@@ -57,7 +57,9 @@ void DialogosVentana::copiaHecha(const QString &ruta, qint64 bytes, const QDateT
 QString DialogosVentana::elegirCopia(const QString &propuesta, const QString &filtro,
                                      quintptr padre)
 {
-    return ficheros::abrir(ventana(padre), msj(Msj::TituloElegirCopia), propuesta, filtro);
+    // what the service says of the patterns is Castilian, whatever the session's language
+    const QString propio = msj(Msj::FiltroCopias) + u' ' + filtro.mid(filtro.indexOf(u'('));
+    return ficheros::abrir(ventana(padre), msj(Msj::TituloElegirCopia), propuesta, propio);
 }
 
 bool DialogosVentana::confirmarRestauracion(const std::optional<ResumenBase> &actual,

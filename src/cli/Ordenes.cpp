@@ -32,8 +32,7 @@ static Resultado idioma(const Argumentos &argumentos)
         return malUso(msj(Msj::CliIdiomaNoValido, argumentos.argumento));
     const bool euskera = entrada.IDI() == CodigoIdioma::Euskera;
     const QString actual = euskera ? CodigoIdioma::Euskera : CodigoIdioma::Castellano;
-    const QString nombre
-        = msj(euskera ? Msj::EleccionIdiomaEuskera : Msj::EleccionIdiomaCastellano);
+    const QString nombre = msj(euskera ? Msj::IdiomaEuskera : Msj::IdiomaCastellano).remove(u'&');
     return hecho(msj(Msj::CliIdioma, u"%1 (%2)"_s.arg(actual, nombre)));
 }
 
