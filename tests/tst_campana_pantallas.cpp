@@ -193,6 +193,7 @@ private Q_SLOTS:
         QCOMPARE(en("FrmPendientes").texto("lblSuma"), u"Suma de las mostradas: 80,00"_s);
         QTRY_COMPARE(m_ventana->findChild<QMdiArea *>()->activeSubWindow()->widget(),
                      pantalla("FrmPendientes"));
+        QTRY_COMPARE(en("FrmPendientes").foco(), u"flxPendientes"_s);
     }
 
     /// The template filled in and read back, a row unticked, the refused ones saved.

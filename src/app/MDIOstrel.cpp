@@ -91,8 +91,10 @@ void MDIOstrel::CambiarIdioma()
 
 void MDIOstrel::changeEvent(QEvent *evento)
 {
-    if (evento->type() == QEvent::LanguageChange)
+    if (evento->type() == QEvent::LanguageChange) {
         Anadir_captions();
+        m_estado->clear(); // told in the other language
+    }
     // a menu used by keys keeps the focus when what it opened closes: back to the screen in front
     if (evento->type() == QEvent::ActivationChange && isActiveWindow()
         && focusWidget() == menuBar())

@@ -121,6 +121,7 @@ void Pantallas::cerrar(Pantalla cual)
 void Pantallas::olvidar(const PantallaBase *desaparecida)
 {
     m_abiertas.removeIf([=](const auto &entrada) { return entrada.value() == desaparecida; });
+    m_focos.remove(desaparecida);
     Q_EMIT cambiadas();
 }
 
@@ -178,16 +179,28 @@ void Pantallas::suspenderOtras()
     const bool editan = editando();
     for (const Pantalla cual : m_abiertas.keys()) {
         auto *abierta = pantalla(cual);
-        if (abierta && !abierta->isModal())
-            abierta->suspender(editan && !abierta->edita());
+        if (!abierta || abierta->isModal())
+            continue;
+        const bool espera = editan && !abierta->edita();
+        if (espera && abierta->isEnabled())
+            m_focos.insert(abierta, abierta->focusWidget());
+        abierta->suspender(espera);
     }
 }
 
-/// A press on a screen that waits must not hide the one that it waits for.
+/// A press on a screen that waits must not hide the one that it waits for. One that has waited gets
+/// back the focus that it lost while it was disabled.
 void Pantallas::devolverDelante(const QMdiSubWindow *pulsada)
 {
     const auto *contenido = pulsada ? pulsada->widget() : nullptr;
-    if (!contenido || contenido->isEnabled() || !QGuiApplication::mouseButtons())
+    const bool conRaton = QGuiApplication::mouseButtons() != Qt::NoButton;
+    if (contenido && contenido->isEnabled()) {
+        const auto foco = m_focos.take(contenido);
+        if (foco && !conRaton)
+            QTimer::singleShot(0, foco, [foco] { foco->setFocus(Qt::ActiveWindowFocusReason); });
+        return;
+    }
+    if (!contenido || !conRaton)
         return;
     for (const Pantalla cual : m_abiertas.keys()) {
         auto *abierta = pantalla(cual);

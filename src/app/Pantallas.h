@@ -3,6 +3,7 @@
 #include "widgets/PantallaBase.h"
 
 #include <QHash>
+#include <QPointer>
 
 class QMdiArea;
 class QMdiSubWindow;
@@ -69,5 +70,6 @@ private:
     QWidget *m_ventana;
     QHash<Pantalla, PantallaBase *> m_abiertas;
     const PantallaBase *m_saliente = nullptr; ///< about to close for another one
+    QHash<const QWidget *, QPointer<QWidget>> m_focos; ///< what had the focus in those that wait
     bool m_terminado = false;
 };
