@@ -34,7 +34,7 @@ private Q_SLOTS:
         poblar(2);
         const QByteArray bueno = bytes(ruta());
         const Leido antes = leer();
-        QCOMPARE(antes.size(), 20);
+        QCOMPARE(antes.size(), 22);
         const QString otra = m_servidor->carpeta() + u"/Otra.mdb"_s;
         escribir(otra, bueno);
         int columnas = 0;
@@ -92,6 +92,12 @@ private Q_SLOTS:
         Registro fila;
         declarantes->CargarListado(1, fila);
         QCOMPARE(fila, danado);
+        filas.clear();
+        declarantes->RecorrerLista([&](const Registro &una) {
+            filas += QVariant(una.first(3));
+            return true;
+        });
+        QCOMPARE(filas, (Filas{danado, Registro{2, u"D2"_s, u"ÑANDÚ"_s}}));
         declarantes->ObtenerUltimosDeclarantes(filas);
         QCOMPARE(columna(filas, FilaReciente::CSCO), QVariantList{2});
         declaraciones->dameResultado(filas, 1);
@@ -256,6 +262,16 @@ private:
         anotarFilas(leido, u"pendiente "_s, [&] {
             filas.clear();
             declaraciones->RecorrerPendientes(2026, u"430"_s, 3, [&](const Registro &fila) {
+                filas += QVariant(fila);
+                return true;
+            });
+            return filas;
+        });
+        anotarFilas(leido, u"en la lista "_s, [&] {
+            filas.clear();
+            declarantes->RecorrerLista([&](Registro fila) {
+                if (!esDanado(fila)) // what lists do not show is null
+                    fila.removeIf([](const QVariant &v) { return !v.isValid(); });
                 filas += QVariant(fila);
                 return true;
             });

@@ -111,36 +111,33 @@ namespace {
 struct Pasada
 {
     QList<qint32> malas;
-    std::array<quint64, 3> sumas{};
+    std::array<qint64, 3> sumas{};
 };
 
-/// Columns: the key, whether the row is as it was written, what is added up.
-Pasada recorrer(SQLite::Database &base, const std::string &sql)
+/// `sumas`: up to three expressions.
+Pasada recorrer(SQLite::Database &base, const TablaProbada &tabla, const std::string &clave,
+                const std::string &sumas)
 {
+    const std::string mala = "(" + tabla.bien() + ") IS NOT TRUE";
+    const std::string de = " FROM " + tabla.nombre + " NOT INDEXED";
     Pasada pasada;
-    SQLite::Statement fila(base, sql);
-    const int columnas = fila.getColumnCount();
-    while (fila.executeStep()) {
-        if (fila.getColumn(1).getInt() == 0)
-            pasada.malas += fila.getColumn(0).getInt();
-        for (int i = 2; i < columnas; ++i)
-            pasada.sumas.at(static_cast<std::size_t>(i - 2))
-                += static_cast<quint64>(fila.getColumn(i).getInt64());
-    }
+    SQLite::Statement todas(base, "SELECT suma(" + mala + "), " + sumas + de);
+    todas.executeStep();
+    for (int i = 1; i < todas.getColumnCount(); ++i)
+        pasada.sumas.at(static_cast<std::size_t>(i - 1)) = todas.getColumn(i).getInt64();
+    if (todas.getColumn(0).getInt64() == 0)
+        return pasada;
+    SQLite::Statement fila(base, "SELECT " + clave + de + " WHERE " + mala);
+    while (fila.executeStep())
+        pasada.malas += fila.getColumn(0).getInt();
     return pasada;
 }
 
-std::string seleccion(const TablaProbada &tabla, const std::string &clave, const std::string &sumas)
+qint64 sumaIndice(SQLite::Database &base, const std::string &suma, const std::string &tabla,
+                  const std::string &indice)
 {
-    return "SELECT " + clave + ", " + tabla.bien() + ", " + sumas + " FROM " + tabla.nombre
-        + " NOT INDEXED";
-}
-
-quint64 sumaIndice(SQLite::Database &base, const std::string &entrada, const std::string &tabla,
-                   const std::string &indice)
-{
-    return recorrer(base, "SELECT 0, 1, " + entrada + " FROM " + tabla + " INDEXED BY " + indice)
-        .sumas[0];
+    return base.execAndGet("SELECT " + suma + " FROM " + tabla + " INDEXED BY " + indice)
+        .getInt64();
 }
 
 template <class Nombrar>
@@ -166,20 +163,18 @@ void exigirNinguno(const QStringList &nombres)
 
 void comprobarFilas(SQLite::Database &base, const QString &ruta)
 {
-    static const std::string deDni = "prueba(DNI, CSCO)", deReciente = "prueba(RECIENTE, CSCO)",
-                             deUnica = "prueba(CSCO, EJERCICIO, PERIODO, MODELO, CSDE)";
+    static const std::string deDni = "suma(prueba(DNI, CSCO))",
+                             deReciente = "suma(prueba(RECIENTE, CSCO))",
+                             deUnica = "suma(prueba(CSCO, EJERCICIO, PERIODO, MODELO, CSDE))";
     conErrores(ruta, [&] {
-        const auto declarantes
-            = recorrer(base,
-                       seleccion(probadaDeclarantes(), "CSCO",
-                                 deDni + ", " + deReciente
-                                     + ", NUM430 * (prueba('430', CSCO) & 1073741823)"
-                                       " + NUM480 * (prueba('480', CSCO) & 1073741823)"));
-        const auto cabeceras = recorrer(base,
-                                        seleccion(probadaDeclaraciones(), "CSDE",
-                                                  deUnica
-                                                      + ", prueba(MODELO, CSDE)"
-                                                        ", prueba(MODELO, CSCO) & 1073741823"));
+        const auto declarantes = recorrer(base, probadaDeclarantes(), "CSCO",
+                                          deDni + ", " + deReciente
+                                              + ", suma(NUM430 * (prueba('430', CSCO) & 1073741823)"
+                                                " + NUM480 * (prueba('480', CSCO) & 1073741823))");
+        const auto cabeceras = recorrer(base, probadaDeclaraciones(), "CSDE",
+                                        deUnica
+                                            + ", suma(prueba(MODELO, CSDE))"
+                                              ", suma(prueba(MODELO, CSCO) & 1073741823)");
         QStringList nombres;
         nombrar(nombres, declarantes.malas,
                 [&](qint32 clave) { return nombreDeclarante(base, clave); });
@@ -187,15 +182,14 @@ void comprobarFilas(SQLite::Database &base, const QString &ruta)
         quint64 figuras = 0;
         for (const Modelo *modelo : {&modelo430(), &modelo480()}) {
             const auto pasada
-                = recorrer(base,
-                           seleccion(modelo->probada, "CSDE",
-                                     "prueba('" + modelo->codigo.toStdString() + "', CSDE)"));
+                = recorrer(base, modelo->probada, "CSDE",
+                           "suma(prueba('" + modelo->codigo.toStdString() + "', CSDE))");
             malas += pasada.malas;
-            figuras += pasada.sumas[0];
+            figuras += static_cast<quint64>(pasada.sumas[0]);
         }
         nombrar(nombres, malas, [&](qint32 clave) { return nombreDeclaracion(base, clave); });
         exigirNinguno(nombres);
-        const bool juntas = figuras == cabeceras.sumas[1]
+        const bool juntas = static_cast<qint64>(figuras) == cabeceras.sumas[1]
             && declarantes.sumas[2] == cabeceras.sumas[2]
             && declarantes.sumas[0]
                 == sumaIndice(base, deDni, "DECLARANTES", "sqlite_autoindex_DECLARANTES_1")

@@ -53,6 +53,23 @@ void calcularPrueba(sqlite3_context *contexto, int cuantos, sqlite3_value **dato
     sqlite3_result_int64(contexto, static_cast<qint64>(valor >> 2));
 }
 
+quint64 *sumaDe(sqlite3_context *contexto)
+{
+    return static_cast<quint64 *>(sqlite3_aggregate_context(contexto, sizeof(quint64)));
+}
+
+void sumar(sqlite3_context *contexto, int /*cuantos*/, sqlite3_value **datos)
+{
+    if (quint64 *suma = sumaDe(contexto)) // zero at first
+        *suma += static_cast<quint64>(sqlite3_value_int64(datos[0]));
+}
+
+void terminarSuma(sqlite3_context *contexto)
+{
+    const quint64 *suma = sumaDe(contexto);
+    sqlite3_result_int64(contexto, suma ? static_cast<qint64>(*suma) : 0);
+}
+
 std::string producto(int factor, const char *columna)
 {
     return " + " + std::to_string(factor) + " * " + columna;
@@ -111,6 +128,7 @@ const std::array<const TablaProbada *, 5> &tablasProbadas()
 void registrarPrueba(SQLite::Database &base)
 {
     base.createFunction("prueba", -1, true, nullptr, calcularPrueba, nullptr, nullptr, nullptr);
+    base.createFunction("suma", 1, true, nullptr, nullptr, sumar, terminarSuma, nullptr);
 }
 
 } // namespace servidor

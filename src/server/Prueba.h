@@ -42,7 +42,8 @@ const TablaProbada &probadaAjustes();
 /// All of them; the figures of both models last.
 const std::array<const TablaProbada *, 5> &tablasProbadas();
 
-/// Makes the function `prueba` known on a connection.
+/// Makes known on a connection the function `prueba`, and `suma`, which adds whole numbers up and
+/// drops what no longer fits.
 void registrarPrueba(SQLite::Database &base);
 
 } // namespace servidor
