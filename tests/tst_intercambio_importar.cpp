@@ -4,6 +4,7 @@
 #include "support/Entorno.h"
 #include "support/LineasPrueba.h"
 
+#include <QDir>
 #include <QTest>
 
 using Cuenta = Importacion::Cuenta;
@@ -151,7 +152,7 @@ private Q_SLOTS:
         QCOMPARE(lineas::leer(ruta()), lineas::fichero(1, 1));
         e.FICHEROAEXPORTAR(m_entorno->ruta(u"no/hay"_s));
         QCOMPARE(e.EscribirFichero([](qint64) { return true; }).motivo,
-                 msj(Msj::FalloNoExiste, m_entorno->ruta(u"no"_s)));
+                 msj(Msj::FalloNoExiste, QDir::toNativeSeparators(m_entorno->ruta(u"no"_s))));
     }
 
 private:

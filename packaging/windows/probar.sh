@@ -113,19 +113,20 @@ ventana "Hizkuntza"
 sleep 2
 foto 1-idioma
 teclas alt+e # Basque
-ventana "Ostrel de seguros"
+ventana "Aseguruen Ostrel"
 sleep 5
 foto 2-ventana
 es "$(codigo wine "$setup" /S)" 3 # the program is running
 wine "$setup" >/dev/null 2>&1 &
-ventana "Setup Language|Installer Language|Instal"
+ventana "Ostrel de Seguros"
 sleep 2
 foto 3-setup-idioma
 teclas Return
-sleep 3
+ventana "Instalaci"
 foto 4-setup-abierto
 teclas Escape
-xdotool search --onlyvisible --name "Ostrel de seguros" windowactivate --sync
+sin_ventana "Instalaci"
+xdotool search --onlyvisible --name "Aseguruen Ostrel" windowactivate --sync
 teclas ctrl+o
 sleep 2
 foto 5-lista
@@ -133,11 +134,11 @@ teclas F1
 sleep 3
 foto 6-ayuda
 teclas Escape
-xdotool search --onlyvisible --name "Ostrel de seguros" windowactivate --sync
+xdotool search --onlyvisible --name "Aseguruen Ostrel" windowactivate --sync
 teclas alt+F4
-sin_ventana "Ostrel de seguros"
+sin_ventana "Aseguruen Ostrel"
 (cd "$cliente" && wine ostrel.exe >/dev/null 2>&1) &
-ventana "Ostrel de seguros"
+ventana "Aseguruen Ostrel"
 sleep 5
 teclas ctrl+o
 sleep 2
@@ -145,7 +146,7 @@ teclas Return
 sleep 3
 foto 7-declaraciones
 teclas alt+F4
-sin_ventana "Ostrel de seguros"
+sin_ventana "Aseguruen Ostrel"
 es "$(ostrel listar declaraciones --dni A58818501 | tail -1 | tr -s ' ')" "2026 URTARRILA 430 10.000,04"
 
 paso "update over the data"
@@ -168,13 +169,16 @@ es "$(find "$lugar" -name "Ostrel de Seguros.lnk" | wc -l)" 0
 es "$(codigo wine "$setup" /S)" 0
 es "$(datos)" "$antes"
 wine "$cliente/desinstalar.exe" >/dev/null 2>&1 &
-ventana "Desinstal|Uninst|Ostrel de Seguros"
+ventana "Ostrel de Seguros"
 sleep 2
+teclas Return # language
+ventana "Desinstala"
+sleep 1
 foto 8-desinstalar
 teclas Return
 sleep 4
 foto 9-borrar
-teclas Left Return
+teclas Left Return # "No" is the default
 sleep 4
 foto 10-desinstalado
 teclas Return
@@ -185,7 +189,8 @@ paso "tests of records and exchange"
 export WINEPATH="$(winepath -w "$terceros/qt/bin");$(winepath -w "$obra/reunido/cliente")" QT_QPA_PLATFORM=offscreen
 for prueba in tst_registros tst_textos tst_servidor_datos tst_servidor_declaraciones tst_servidor_declarantes \
     tst_servidor_validacion tst_intercambio_linea tst_intercambio_importar tst_campana; do
-    (cd "$obra/tests" && timeout 600 wine "$prueba.exe" > "$fotos/$prueba.txt" 2>&1) ||
+    # to a file: on Windows they do not write to a pipe
+    (cd "$obra/tests" && timeout 600 wine "$prueba.exe" -o "$(winepath -w "$fotos")\\$prueba.txt,txt") ||
         fallo "$prueba: $(grep -a -m3 'FAIL!' "$fotos/$prueba.txt")"
     grep -a "^Totals" "$fotos/$prueba.txt" | sed "s/^Totals/$prueba/"
 done
