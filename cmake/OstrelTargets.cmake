@@ -24,7 +24,9 @@ option(OSTREL_PRECOMPILE "Compile Qt's headers once" ON)
 function(ostrel_precompiled kind)
     cmake_parse_arguments(ARG "" "" "HEADERS;LINK" ${ARGN})
     if(OSTREL_PRECOMPILE)
-        file(WRITE ${PROJECT_BINARY_DIR}/vacio.cpp "")
+        if(NOT EXISTS ${PROJECT_BINARY_DIR}/vacio.cpp) # written anew it would have everything compiled again
+            file(WRITE ${PROJECT_BINARY_DIR}/vacio.cpp "")
+        endif()
         add_library(precompiled_${kind} OBJECT ${PROJECT_BINARY_DIR}/vacio.cpp)
         target_precompile_headers(precompiled_${kind} PRIVATE
             <QCoreApplication> <QHash> <QVariant> <functional> <memory> ${ARG_HEADERS})
@@ -57,10 +59,10 @@ function(ostrel_library name)
     endif()
 endfunction()
 
-# ostrel_test(name LINK target...): one program from tests/<name>.cpp, run without a display.
+# ostrel_test(name [FOLDER folder/] LINK target...): one program from tests/<folder/name>.cpp, run without a display.
 function(ostrel_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
-    add_executable(${name} ${name}.cpp ${ARG_SOURCES})
+    cmake_parse_arguments(ARG "" "FOLDER" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${ARG_FOLDER}${name}.cpp ${ARG_SOURCES})
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_link_libraries(${name} PRIVATE ostrel_options Qt6::Test ${ARG_LINK})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
