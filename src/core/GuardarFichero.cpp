@@ -2,6 +2,7 @@
 
 #include "core/Rutas.h"
 #include "core/Textos.h"
+#include "dataservice/ErrorDatos.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -22,8 +23,7 @@ static QString motivo(Msj cual, const QString &ruta)
     return msj(cual, QDir::toNativeSeparators(ruta));
 }
 
-/// Puts what was written on the disk for good; where that cannot be asked for, it is not missed.
-static bool sincronizado(int descriptor)
+bool sincronizado(int descriptor)
 {
 #ifdef Q_OS_UNIX
     return ::fsync(descriptor) == 0 || errno == EINVAL || errno == ENOTSUP;
@@ -72,8 +72,12 @@ QString guardarFichero(const QString &ruta, const Escritura &escribir, bool *lle
     if (!QFileInfo::exists(carpeta))
         return motivo(Msj::FalloNoExiste, carpeta);
     QSaveFile fichero(ruta);
-    if (!fichero.open(QIODevice::WriteOnly))
-        return motivo(Msj::FalloSoloLectura, ruta);
+    if (!fichero.open(QIODevice::WriteOnly)) {
+        const bool intentado = fichero.error() == QFileDevice::OpenError;
+        const Fallo fallo = intentado ? falloDeSistema(errno) : Fallo::SoloLectura;
+        return textoFallo(ErrorDatos(fallo, ruta));
+    }
+    errno = 0;
     const bool acabado = escribir(fichero);
     if (!acabado && fichero.error() == QFileDevice::NoError)
         return {};
@@ -83,7 +87,8 @@ QString guardarFichero(const QString &ruta, const Escritura &escribir, bool *lle
     // where its folder could not be made safe, the file is looked for under its name
     if (guardado && (carpetaSincronizada(carpeta) || QFileInfo(ruta).size() == escritos))
         return {};
-    const bool sinEspacio = fichero.error() == QFileDevice::ResourceError
+    const bool sinEspacio = falloDeSistema(errno) == Fallo::SinEspacio
+        || fichero.error() == QFileDevice::ResourceError
         || QStorageInfo(carpeta).bytesAvailable() < escritos;
     if (lleno)
         *lleno = sinEspacio;

@@ -11,6 +11,9 @@ class QIODevice;
 /// Writes all of it, in as many pieces as the device takes; false after an error.
 bool escribirEntero(QIODevice &destino, QByteArrayView bytes);
 
+/// Puts what was written on the disk for good; where that cannot be asked for, it is not missed.
+bool sincronizado(int descriptor);
+
 /// Writes into a file that is open, and which keeps the first error; false when it gave up.
 using Escritura = std::function<bool(QFileDevice &)>;
 

@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 static bool pendiente = false; // the settings could not be read yet
 
 bool InicioSesion::intentar(const std::function<void()> &paso)
@@ -24,14 +26,17 @@ bool InicioSesion::intentar(const std::function<void()> &paso)
 
 QStringList InicioSesion::textos() const
 {
-    QStringList frases;
+    QStringList frases, ficheros;
     for (const auto &fallo : fallos)
         try {
             std::rethrow_exception(fallo);
+        } catch (const ErrorDatos &error) { // one file spoils several steps
+            if (!ficheros.contains(error.objeto()))
+                frases += textoFallo(error);
+            ficheros += error.objeto();
         } catch (...) {
             frases += textoFalloActual();
         }
-    frases.removeDuplicates(); // one file spoils several steps
     return frases;
 }
 
@@ -68,12 +73,27 @@ InicioSesion iniciarSesion()
     return inicio;
 }
 
+static bool enUso(const InicioSesion &inicio)
+{
+    return std::ranges::any_of(inicio.fallos, [](const std::exception_ptr &fallo) {
+        try {
+            std::rethrow_exception(fallo);
+        } catch (const ErrorDatos &error) {
+            return error.fallo() == Fallo::EnUso;
+        } catch (...) {
+            return false;
+        }
+    });
+}
+
 void leerSesion(InicioSesion &inicio)
 {
     auto &entrada = unico::la<CEntrada>();
-    inicio.intentar([&] { entrada.InicializarContadores(); });
     inicio.intentar([&] { entrada.LeerEjercicioPeriodoMinMax(); });
-    inicio.ajustesLeidos = inicio.intentar([&] { entrada.LeerIdioma(); });
+    // another wait for whoever is using the database would end as the first one did
+    if (!enUso(inicio))
+        inicio.intentar([&] { entrada.InicializarContadores(); });
+    inicio.ajustesLeidos = !enUso(inicio) && inicio.intentar([&] { entrada.LeerIdioma(); });
     entrada.AplicarIdioma();
     pendiente = !inicio.ajustesLeidos;
 }

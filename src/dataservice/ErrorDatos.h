@@ -31,6 +31,9 @@ enum class Fallo {
                     ///< what
 };
 
+/// What an error number of the system means for the user.
+Fallo falloDeSistema(int codigo);
+
 /// Thrown by the data service when it cannot do what it was asked; nothing has been changed then.
 class ErrorDatos : public std::runtime_error
 {

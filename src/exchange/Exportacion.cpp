@@ -51,6 +51,7 @@ Exportado exportar(const QString &destino, const std::function<void(const Visita
             return !hecho.detenida;
         });
         salida->terminar();
+        salida->asegurar();
         if (hecho.motivo.isEmpty() && !danados.isEmpty())
             hecho.motivo = msj(Msj::FalloRegistroDanado, danados.join(u"; "_s));
     } catch (const std::exception &error) {

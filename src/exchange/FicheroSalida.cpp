@@ -1,9 +1,11 @@
 #include "exchange/FicheroSalida.h"
 
+#include "core/GuardarFichero.h"
 #include "dataservice/ErrorDatos.h"
 
 #include <QFileInfo>
 
+#include <cerrno>
 #include <cstdio>
 
 #ifdef Q_OS_WIN
@@ -15,16 +17,12 @@ static constexpr qsizetype Bloque = 64 * 1024;
 
 static ErrorDatos errorDe(const QFile &fichero)
 {
+    const int codigo = errno;
     const QString carpeta = QFileInfo(fichero.fileName()).absolutePath();
     if (!fichero.fileName().isEmpty() && !QFileInfo::exists(carpeta))
         return ErrorDatos(Fallo::NoExiste, carpeta);
-    Fallo fallo = Fallo::LecturaEscritura;
-    if (fichero.error() == QFileDevice::ResourceError)
-        fallo = Fallo::SinEspacio;
-    else if (fichero.error() == QFileDevice::OpenError
-             || fichero.error() == QFileDevice::PermissionsError)
-        fallo = Fallo::SoloLectura;
-    return ErrorDatos(fallo, fichero.fileName().isEmpty() ? u"-"_s : fichero.fileName(),
+    return ErrorDatos(falloDeSistema(codigo),
+                      fichero.fileName().isEmpty() ? u"-"_s : fichero.fileName(),
                       fichero.errorString());
 }
 
@@ -71,6 +69,12 @@ void FicheroSalida::fallar(qsizetype escritos)
     m_lineas += m_pendiente.first(enteras).count('\n');
     m_pendiente.clear();
     throw error;
+}
+
+void FicheroSalida::asegurar()
+{
+    if (!m_fichero.isSequential() && !sincronizado(m_fichero.handle()))
+        throw errorDe(m_fichero);
 }
 
 void FicheroSalida::terminar()

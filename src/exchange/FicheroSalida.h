@@ -21,6 +21,8 @@ public:
     void escribir(QByteArrayView lineas);
     /// Hands over to the system what is still held back.
     void terminar();
+    /// Waits until all of it is on the disk, where it is on one.
+    void asegurar();
     qint64 lineas() const { return m_lineas; } ///< handed over, whole
 
 private:

@@ -23,18 +23,13 @@ namespace {
 // code tells that it is the room that is missing.
 bool faltaEspacio(int codigoSistema)
 {
-#ifdef EDQUOT
-    if (codigoSistema == EDQUOT)
-        return true;
-#endif
-    return codigoSistema == ENOSPC || codigoSistema == EFBIG;
+    return falloDeSistema(codigoSistema) == Fallo::SinEspacio;
 }
 
 // An error that hides the system's reason: what making another file there comes to tells it.
-Fallo sinPoderEscribir(int codigoSistema, const QString &ruta)
+Fallo sinPoderEscribir(int codigoSistema, const QString &ruta, Fallo siSePuede)
 {
-    return faltaEspacio(codigoSistema) ? Fallo::SinEspacio
-                                       : falloAlCrear(ruta).value_or(Fallo::SoloLectura);
+    return faltaEspacio(codigoSistema) ? Fallo::SinEspacio : falloAlCrear(ruta).value_or(siSePuede);
 }
 
 Fallo clasificar(const SQLite::Exception &error, int codigoSistema, const QString &ruta)
@@ -63,8 +58,9 @@ Fallo clasificar(const SQLite::Exception &error, int codigoSistema, const QStrin
         return Fallo::SinEspacio;
     case SQLITE_READONLY:
     case SQLITE_PERM:
+        return sinPoderEscribir(codigoSistema, ruta, Fallo::SoloLectura);
     case SQLITE_CANTOPEN: // the file itself is known to be there: its journal cannot be made
-        return sinPoderEscribir(codigoSistema, ruta);
+        return sinPoderEscribir(codigoSistema, ruta, Fallo::LecturaEscritura);
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
         return Fallo::Danada;
@@ -163,6 +159,7 @@ SQLite::Database abrir(const QString &ruta, const Formato &formato, Version vers
     comprobarCabecera(ruta, formato, version);
     if (tieneDiario(ruta))
         resolverDiario(ruta);
+    apartarRegistroAjeno(ruta);
     return conErrores(ruta, [&] {
         const int modo = formato.soloLectura ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE;
         // one thread alone uses it: no lock at each of SQLite's calls

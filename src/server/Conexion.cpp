@@ -6,7 +6,6 @@
 #include "server/Sentencia.h"
 
 #include <QHash>
-#include <QtEndian>
 
 #include <sqlite3.h>
 
@@ -83,17 +82,6 @@ void Conexion::comprobarFilas()
     servidor::comprobarFilas(m_base, m_ruta);
 }
 
-// Through SQLite's own file: another one, closed again, would drop SQLite's locks.
-quint32 Conexion::cambios()
-{
-    sqlite3_file *fichero = nullptr;
-    sqlite3_file_control(m_base.getHandle(), "main", SQLITE_FCNTL_FILE_POINTER, &fichero);
-    quint32 leidos = 0;
-    if (fichero && fichero->pMethods)
-        fichero->pMethods->xRead(fichero, &leidos, sizeof leidos, 24);
-    return qFromBigEndian(leidos);
-}
-
 std::unique_ptr<SQLite::Statement> Conexion::tomar(std::string_view sql)
 {
     const auto hallada = m_sentencias.find(sql);
@@ -132,16 +120,8 @@ Transaccion::~Transaccion()
 
 void Transaccion::confirmar()
 {
-    const quint32 antes = m_conexion->cambios();
-    try {
-        Sentencia(m_conexion, "COMMIT").ejecutar();
-    } catch (const ErrorDatos &) {
-        // Only the folder was left to be synced: the save is in the file and holds.
-        const bool guardado = !m_conexion->enTransaccion() && m_conexion->cambios() == antes + 1
-            && !tieneDiario(m_conexion->ruta());
-        if (!guardado)
-            throw;
-    }
+    terminarCambio(m_conexion->base(), m_conexion->ruta(),
+                   [this] { Sentencia(m_conexion, "COMMIT").ejecutar(); });
 }
 
 LecturaUnica::LecturaUnica(PConexion conexion)

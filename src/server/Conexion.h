@@ -44,8 +44,6 @@ public:
     /// Room for the pages of a work over the whole of a large database, or the usual one.
     enum class Paginas { Usuales, Muchas };
     void paginas(Paginas cuantas);
-    /// How often the file has been changed, by its header.
-    quint32 cambios();
     qint32 ultimaClave() const { return static_cast<qint32>(m_base.getLastInsertRowid()); }
 
     /// A prepared statement, taken out of the store until it is given back.

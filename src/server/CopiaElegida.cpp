@@ -41,8 +41,8 @@ template <class F> void deEsteFichero(const QString &ruta, const QString &propia
         if (error.fallo() == Fallo::RegistroDanado)
             throw ErrorDatos(error.fallo(),
                              error.objeto() + u" ("_s + QDir::toNativeSeparators(ruta) + u')');
-        const bool delDisco
-            = error.fallo() == Fallo::SinEspacio || error.fallo() == Fallo::SoloLectura;
+        const bool delDisco = error.fallo() == Fallo::SinEspacio
+            || error.fallo() == Fallo::SoloLectura || error.fallo() == Fallo::LecturaEscritura;
         throw ErrorDatos(error.fallo(), delDisco ? propia : ruta, QString::fromUtf8(error.what()));
     }
 }

@@ -33,15 +33,17 @@ void copiarUno(const QString &origen, const QString &destino)
     constexpr qint64 trozo = 1 << 20;
     QFile de(origen);
     QFile a(destino);
-    if (!de.open(QIODevice::ReadOnly))
-        throw ErrorDatos(Fallo::LecturaEscritura, origen, de.errorString());
-    bool bien = a.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
-    while (bien && !de.atEnd()) {
-        const QByteArray leido = de.read(trozo);
-        bien = !leido.isEmpty() && a.write(leido) == leido.size();
+    bool leido = de.open(QIODevice::ReadOnly);
+    bool escrito = !leido || a.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    while (leido && escrito && !de.atEnd()) {
+        const QByteArray bytes = de.read(trozo);
+        leido = !bytes.isEmpty();
+        escrito = a.write(bytes) == bytes.size();
     }
     const int sistema = errno;
-    if (!bien)
+    if (!leido)
+        throw ErrorDatos(Fallo::Lectura, origen, de.errorString());
+    if (!escrito)
         throw ErrorDatos(falloDeSistema(sistema), destino, a.errorString());
 }
 

@@ -19,9 +19,16 @@ namespace servidor {
 
 namespace {
 
+// Beside the file itself, where the path is a link to it.
+QString juntoA(const QString &ruta, const QString &sufijo)
+{
+    const QString real = QFileInfo(ruta).canonicalFilePath();
+    return (real.isEmpty() ? ruta : real) + sufijo;
+}
+
 QString diarioDe(const QString &ruta)
 {
-    return ruta + u"-journal"_s;
+    return juntoA(ruta, u"-journal"_s);
 }
 
 // Asked of SQLite, whose own locks a file opened and closed here would drop.
@@ -104,6 +111,17 @@ bool copiaEntera(const QString &ruta, bool conDiario)
     }
 }
 
+// Through SQLite's own file: another one, closed again, would drop SQLite's locks.
+quint32 cambios(SQLite::Database &base)
+{
+    sqlite3_file *fichero = nullptr;
+    sqlite3_file_control(base.getHandle(), "main", SQLITE_FCNTL_FILE_POINTER, &fichero);
+    QByteArray pagina(28, 0);
+    if (fichero && fichero->pMethods)
+        fichero->pMethods->xRead(fichero, pagina.data(), 28, 0);
+    return cambios(pagina);
+}
+
 } // namespace
 
 bool tieneDiario(const QString &ruta)
@@ -117,7 +135,31 @@ void resolverDiario(const QString &ruta)
         return;
     if (!copiaEntera(ruta, false))
         throw ErrorDatos(Fallo::Danada, ruta, u"its journal does not make it whole"_s);
-    renombrar(diarioDe(ruta), nombreApartado(diarioDe(ruta)));
+    apartar(diarioDe(ruta));
+}
+
+void apartarRegistroAjeno(const QString &ruta)
+{
+    constexpr qsizetype Version = 18; // 1 with a journal, 2 with a log
+    const QString registro = juntoA(ruta, u"-wal"_s);
+    if (QFileInfo(registro).size() == 0)
+        return;
+    QFile fichero(ruta);
+    if (fichero.open(QIODevice::ReadOnly) && fichero.read(Version + 1).endsWith('\1'))
+        apartar(registro);
+}
+
+void terminarCambio(SQLite::Database &base, const QString &ruta, const std::function<void()> &f)
+{
+    const quint32 antes = cambios(base);
+    try {
+        f();
+    } catch (const ErrorDatos &) {
+        const bool hecho = sqlite3_get_autocommit(base.getHandle()) != 0
+            && cambios(base) == antes + 1 && !tieneDiario(ruta);
+        if (!hecho)
+            throw;
+    }
 }
 
 } // namespace servidor

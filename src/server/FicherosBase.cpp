@@ -27,26 +27,6 @@ using namespace Qt::StringLiterals;
 
 namespace servidor {
 
-Fallo falloDeSistema(int codigo)
-{
-    switch (codigo) {
-    case ENOSPC:
-    case EFBIG:
-#ifdef EDQUOT
-    case EDQUOT:
-#endif
-        return Fallo::SinEspacio;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return Fallo::SoloLectura;
-    case ENOENT:
-        return Fallo::NoExiste;
-    default:
-        return Fallo::LecturaEscritura;
-    }
-}
-
 namespace {
 
 #ifdef Q_OS_UNIX
@@ -158,16 +138,26 @@ void Provisional::preparar() const
     } catch (const ErrorDatos &error) { // of a name that nobody else knows
         throw ErrorDatos(error.fallo(), m_destino, QString::fromUtf8(error.what()));
     }
-    // SQLite would replay a journal left behind by an earlier file of that name into the new one.
-    const QString diario = m_destino + u"-journal"_s;
-    if (QFile::exists(diario) && !QFile::exists(m_destino))
-        renombrar(diario, nombreApartado(diario));
+    if (!QFile::exists(m_destino))
+        for (const QString &resto : ajenos())
+            apartar(resto);
+}
+
+// SQLite would read what an earlier file of that name left behind into the new one.
+QStringList Provisional::ajenos() const
+{
+    QStringList hallados{m_destino + u"-journal"_s, m_destino + u"-wal"_s};
+    hallados.removeIf([](const QString &ruta) { return !QFile::exists(ruta); });
+    return hallados;
 }
 
 void Provisional::colocar()
 {
     preparar();
+    const QStringList delAnterior = ajenos(); // it may need them until it is replaced
     renombrar(m_ruta, m_destino);
+    for (const QString &resto : delAnterior)
+        apartar(resto);
 }
 
 bool Provisional::colocarSiVacio()
@@ -200,6 +190,11 @@ QString nombreApartado(const QString &ruta)
     return ruta + QDateTime::currentDateTime().toString(u".yyyyMMddHHmmsszzz");
 }
 
+void apartar(const QString &resto)
+{
+    renombrar(resto, nombreApartado(resto));
+}
+
 void rechazarEnlaceRoto(const QString &ruta)
 {
     if (QFileInfo(ruta).isSymLink() && !QFileInfo::exists(ruta))
@@ -218,8 +213,10 @@ void renombrar(const QString &origen, const QString &destino)
 void crearCarpeta(const QString &carpeta)
 {
     rechazarEnlaceRoto(QDir::cleanPath(carpeta));
-    if (!QDir().mkpath(carpeta))
-        throw ErrorDatos(Fallo::SoloLectura, carpeta, u"cannot create folder"_s);
+    std::error_code error;
+    std::filesystem::create_directories(QDir::cleanPath(carpeta).toStdU16String(), error);
+    if (error)
+        throw ErrorDatos(falloDeSistema(error.value()), carpeta, u"cannot create folder"_s);
 }
 
 namespace {

@@ -3,7 +3,7 @@
 #include "dataservice/ErrorDatos.h"
 #include "server/Comprobacion.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <SQLiteCpp/Database.h>
 #include <compare>
@@ -11,9 +11,6 @@
 #include <optional>
 
 namespace servidor {
-
-/// What an error number of the system means for the user.
-Fallo falloDeSistema(int codigo);
 
 /// Tells whether the file at a path is still the same one.
 struct Identidad
@@ -44,6 +41,7 @@ public:
 
 private:
     void preparar() const;
+    QStringList ajenos() const;
 
     QString m_destino;
     QString m_ruta;
@@ -54,6 +52,9 @@ std::optional<Fallo> falloAlCrear(const QString &ruta);
 
 /// Name under which a file that cannot be used is kept: its own with the time.
 QString nombreApartado(const QString &ruta);
+
+/// Gives what SQLite would read together with a database, and is another file's, another name.
+void apartar(const QString &resto);
 
 /// Throws ErrorDatos when a link that leads nowhere stands at `ruta`.
 void rechazarEnlaceRoto(const QString &ruta);

@@ -3,6 +3,7 @@
 #include "server/Comprobacion.h"
 #include "server/CopiaElegida.h"
 #include "server/CopiasAnteriores.h"
+#include "server/Diario.h"
 #include "server/FicherosBase.h"
 #include "server/Sentencia.h"
 
@@ -45,7 +46,7 @@ std::optional<SQLite::Database> abrirSiSirve(const QString &ruta)
 }
 
 // A file that cannot be used is never destroyed: it keeps another name, its journal with it.
-QString apartar(const QString &ruta)
+QString apartarBase(const QString &ruta)
 {
     if (!QFile::exists(ruta))
         return {};
@@ -184,9 +185,9 @@ void cSaveAsRestore::sustituir(CopiaElegida &copia)
         m_anteriores = seguridad;
         // Through SQLite, so that a journal left by a crash is dealt with, not replayed over it.
         conErrores(destino(), [&] { base->exec("PRAGMA synchronous = EXTRA"); });
-        copiarContenido(copia.base(), *base, destino());
+        terminarCambio(*base, destino(), [&] { copiarContenido(copia.base(), *base, destino()); });
     } else {
-        copiarFichero(copia.base(), destino(), [this] { m_anteriores = apartar(destino()); });
+        copiarFichero(copia.base(), destino(), [this] { m_anteriores = apartarBase(destino()); });
     }
 }
 

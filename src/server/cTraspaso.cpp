@@ -2,6 +2,7 @@
 
 #include "server/Comprobacion.h"
 #include "server/Conexion.h"
+#include "server/Diario.h"
 #include "server/Esquemas.h"
 #include "server/FicherosBase.h"
 
@@ -50,7 +51,7 @@ void migrar(const QString &ruta, const Formato &formato, std::span<const Paso> p
         return;
     auto base = abrirComprobada(ruta, formato, Version::ActualOMenor);
     copiarFichero(base, copiaAnterior(ruta, desde));
-    conErrores(ruta, [&] {
+    const auto pasar = [&] {
         // Foreign keys stay off meanwhile, so that a step may build a table anew.
         base.exec("PRAGMA foreign_keys = OFF; PRAGMA synchronous = EXTRA");
         SQLite::Transaction transaccion(base, SQLite::TransactionBehavior::IMMEDIATE);
@@ -59,7 +60,8 @@ void migrar(const QString &ruta, const Formato &formato, std::span<const Paso> p
         comprobarReferencias(base, ruta);
         base.exec("PRAGMA user_version = " + std::to_string(formato.esquema));
         transaccion.commit();
-    });
+    };
+    terminarCambio(base, ruta, [&] { conErrores(ruta, pasar); });
 }
 
 std::span<const Paso> pasosDatos()
