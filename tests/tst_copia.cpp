@@ -14,13 +14,7 @@
 #include <QRegularExpression>
 #include <QTableView>
 
-#include <chrono>
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <thread>
-
-using namespace std::chrono_literals;
 
 static const QStringList Enteras{u"OstrLec.mdb"_s, u"OstrMod.mdb"_s};
 
@@ -71,8 +65,6 @@ private:
                                [&dialogo] { static_cast<QDialog &>(dialogo).done(1); });
         });
     }
-    /// One declarant more than there was, once.
-    static void llenarMas() { llenar(rutas().datos, 1, u"UNO MAS"_s); }
 
 private Q_SLOTS:
     void init()
@@ -274,33 +266,6 @@ private Q_SLOTS:
                  u"No se ha podido hacer la copia de seguridad automática"_s);
     }
 
-    void discoLleno()
-    {
-        llenar(rutas().datos, 6000);
-        hacer({u"copia"_s});
-        llenarMas();
-        const QByteArray base = bytes(rutas().datos);
-        const QByteArray copia = bytes(copias(u"OstrMod_bak.mdb"_s));
-        const auto sinSitio = [] {
-            const rlimit limite{200'000, 200'000};
-            ::signal(SIGXFSZ, SIG_IGN);
-            ::setrlimit(RLIMIT_FSIZE, &limite);
-        };
-        for (const QString &orden : {u"copia"_s, u"restaurar"_s}) {
-            const QString lleno = orden == u"copia" ? copias(u"OstrMod_bak.mdb"_s) : rutas().datos;
-            rechazada(proceso({orden}, sinSitio),
-                      "No queda espacio en el disco para guardar el fichero «" + lleno.toUtf8()
-                          + "».");
-            QCOMPARE(bytes(rutas().datos), base);
-            QCOMPARE(en(copias()), QStringList(u"OstrMod_bak.mdb"_s));
-            QCOMPARE(bytes(copias(u"OstrMod_bak.mdb"_s)), copia);
-        }
-    }
-
-    /// Killed at any moment: the old one or the new one, whole, in its place.
-    void matarAlCopiar() { matar(u"copia"_s); }
-    void matarAlRestaurar() { matar(u"restaurar"_s); }
-
 private:
     void probarCandidata(const QString &caso, const char *motivo) const
     {
@@ -333,52 +298,6 @@ private:
         QCOMPARE(bytes(rutas().datos), buena);
         QCOMPARE(en(rutas().tablas), Enteras);
         QVERIFY(en(copias()).isEmpty());
-    }
-    void matar(const QString &orden)
-    {
-        llenar(rutas().datos, 8000);
-        hacer({u"copia"_s});
-        llenarMas();
-        const bool copia = orden == u"copia";
-        const QString ruta = copia ? copias(u"OstrMod_bak.mdb"_s) : rutas().datos;
-        const int veces = std::max(qEnvironmentVariableIntValue("OSTREL_MUERTES"), 10);
-        QElapsedTimer reloj;
-        reloj.start();
-        proceso({orden});
-        const int dura = int(reloj.elapsed());
-        // what shows that the file itself is being written, and stays when that is cut short
-        QDir junto(QFileInfo(ruta).path());
-        junto.setNameFilters({copia ? u"OstrMod_bak.mdb.nuevo-*"_s : u"OstrMod.mdb-journal"_s});
-        const auto escribiendo = [&] { return !junto.entryList(QDir::Files).isEmpty(); };
-        int enMedio = 0;
-        for (int i = 0; i < veces; ++i) {
-            if (!copia)
-                llenarMas();
-            QProcess matado;
-            iniciar(matado, {orden});
-            QVERIFY(matado.waitForStarted());
-            // at any moment, and while the file is being written
-            int espera = QRandomGenerator::global()->bounded(dura * 1200);
-            if (i % 2 == 0) {
-                while (!escribiendo() && !matado.waitForFinished(0))
-                    std::this_thread::sleep_for(50us);
-                espera %= 1500;
-            }
-            std::this_thread::sleep_for(std::chrono::microseconds(espera));
-            matado.kill();
-            matado.waitForFinished();
-            enMedio += escribiendo();
-            auto base = servidor::abrirComprobada(ruta, servidor::FormatoDatos);
-            QCOMPARE(base.execAndGet("PRAGMA integrity_check").getString(), "ok");
-            const int hay = base.execAndGet("SELECT count(*) FROM DECLARANTES").getInt();
-            QVERIFY2(hay == 8000 || hay == 8001, qPrintable(QString::number(hay)));
-            for (const QString &resto : junto.entryList(QDir::Files))
-                junto.remove(resto);
-        }
-        qInfo() << "killed while the file was being written:" << enMedio << "of" << veces;
-        // a few kills may all miss what takes a moment on a quick machine
-        QVERIFY(enMedio > 0 || veces < 50);
-        QCOMPARE(proceso({orden}).codigo, 0);
     }
 };
 

@@ -12,48 +12,6 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-#include <cerrno>
-#include <csignal>
-#include <sys/resource.h>
-#include <sys/syscall.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-/// Takes the place of the system's: fails as a broken disk does while the switch is on.
-static bool SincronizacionRota = false;
-extern "C" int fsync(int descriptor)
-{
-    if (SincronizacionRota) {
-        errno = EIO;
-        return -1;
-    }
-    return static_cast<int>(syscall(SYS_fsync, descriptor));
-}
-
-/// Saves a PDF over another in a child process that `restringir` has tied down: it has to be
-/// refused with a reason, and the other to stay as it was.
-static void guardarRestringido(const QString &carpeta, const QByteArray &bytes,
-                               void (*restringir)(), QFile::Permissions permisos,
-                               const QString &motivo)
-{
-    QVERIFY(QDir().mkpath(carpeta));
-    const QString ruta = carpeta + u"/a.pdf"_s;
-    QCOMPARE(guardarFichero(ruta, "antes"), QString());
-    const auto deAntes = QFile::permissions(carpeta);
-    QVERIFY(QFile::setPermissions(carpeta, permisos));
-    const pid_t hijo = fork();
-    if (hijo == 0) {
-        restringir();
-        _exit(guardarFichero(ruta, bytes) == motivo.arg(QDir::toNativeSeparators(ruta)) ? 3 : 4);
-    }
-    int estado = 0;
-    QCOMPARE(waitpid(hijo, &estado, 0), hijo);
-    QVERIFY(QFile::setPermissions(carpeta, deAntes));
-    QCOMPARE(WEXITSTATUS(estado), 3);
-    QCOMPARE(lineas::leer(ruta), QByteArray("antes"));
-    QCOMPARE(QDir(carpeta).entryList(QDir::Files).size(), 1);
-}
-
 /// The forms as PDF files and as pictures.
 class TstImpresoPdf : public QObject
 {
@@ -143,43 +101,6 @@ private Q_SLOTS:
     {
         for (const QString &modelo : {u"430"_s, u"480"_s})
             comparar(modelo);
-    }
-
-    /// A sync that fails is told, and the file is the old one.
-    void sincronizacionQueFalla()
-    {
-        const QString ruta = guardado(u"s.pdf"_s, "antes");
-        SincronizacionRota = true;
-        const QString motivo = guardarFichero(ruta, "nuevo");
-        SincronizacionRota = false;
-        QVERIFY2(motivo.startsWith(u"Error del disco"_s), qPrintable(motivo));
-        QCOMPARE(lineas::leer(ruta), QByteArray("antes"));
-    }
-
-    void guardadosQueFallan()
-    {
-        const QString motivo = guardarFichero(m_carpeta.filePath(u"no/esta.pdf"_s), "x");
-        QVERIFY(motivo.startsWith(u"No existe el fichero"_s));
-        QFile::setPermissions(m_carpeta.path(), QFile::Permissions(0x5755));
-        guardarRestringido(
-            m_carpeta.filePath(u"fija"_s), "nuevo",
-            [] {
-                // file modes do not hold for root
-                if (geteuid() == 0 && setuid(65534) != 0)
-                    _exit(9);
-            },
-            QFile::Permissions(0x5555),
-            u"No se puede escribir en el fichero «%1»: es de solo lectura."_s);
-        guardarRestringido(
-            m_carpeta.filePath(u"llena"_s), pdf(u"430"_s, u"AD"_s),
-            [] {
-                // no file can grow past 10 KB
-                const rlimit limite{10240, 10240};
-                std::signal(SIGXFSZ, SIG_IGN);
-                if (setrlimit(RLIMIT_FSIZE, &limite) != 0)
-                    _exit(9);
-            },
-            QFile::Permissions(0x7755), u"Error del disco al leer o escribir el fichero «%1»."_s);
     }
 };
 

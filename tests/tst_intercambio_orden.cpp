@@ -89,32 +89,6 @@ private Q_SLOTS:
         decir({u"exportar"_s, u"-"_s}, lineas::linea(1) + "\r\n");
     }
 
-    /// Whenever it is killed, what is stored are the first lines, and nothing is broken.
-    void matada()
-    {
-        const QByteArray todas = lineas::fichero(1, 20000);
-        escribir("uno.txt", todas);
-        hacer({u"listar"_s, u"declarantes"_s});
-        const qint64 vacia = QFileInfo(ruta("Tablas/OstrMod.mdb")).size();
-        for (const int transacciones : {1, 2}) {
-            QProcess importar;
-            iniciar(importar, {u"importar"_s, ruta("uno.txt")});
-            QVERIFY(importar.waitForStarted());
-            const auto escrito
-                = [&] { return QFileInfo(ruta("Tablas/OstrMod.mdb")).size() - vacia; };
-            while (escrito() <= transacciones * 700'000 && importar.state() == QProcess::Running)
-                importar.waitForFinished(1);
-            importar.kill();
-            QVERIFY(importar.waitForFinished());
-            const Salida salida = ostrel({u"exportar"_s, u"-"_s});
-            QCOMPARE(salida.codigo, 0);
-            QCOMPARE(salida.texto.size() % (155 * 5000), 0);
-            QVERIFY(todas.startsWith(salida.texto));
-        }
-        hacer({u"importar"_s, ruta("uno.txt")});
-        decir({u"exportar"_s, u"-"_s}, todas);
-    }
-
 private:
     QString ruta(const char *relativa) const { return carpeta + u'/' + QLatin1String(relativa); }
     void escribir(const char *relativa, const QByteArray &contenido) const

@@ -4,14 +4,10 @@
 #include "support/ServidorPrueba.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileInfo>
 
 #include <SQLiteCpp/SQLiteCpp.h>
-#include <csignal>
-#include <sqlite3.h>
 #include <sys/fsuid.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -159,32 +155,6 @@ private Q_SLOTS:
         QCOMPARE(QDir(nuevo.carpeta()).entryList(QDir::Files | QDir::Hidden).size(), 2);
     }
 
-    /// The journal is gone and the save in the file; only the folder could not be synced.
-    void ultimaSincronizacion()
-    {
-        auto *sistema = sqlite3_vfs_find(nullptr);
-        sqlite3_vfs averiado = *sistema;
-        averiado.zName = "broken";
-        static int sincronizadas;
-        sincronizadas = 0;
-        averiado.xDelete = [](sqlite3_vfs *, const char *nombre, int sincronizar) {
-            sincronizadas += sincronizar;
-            const int resultado
-                = sqlite3_vfs_find("unix")->xDelete(sqlite3_vfs_find("unix"), nombre, 0);
-            return resultado == SQLITE_OK && sincronizar ? SQLITE_IOERR_DIR_FSYNC : resultado;
-        };
-        QCOMPARE(sqlite3_vfs_register(&averiado, 1), SQLITE_OK);
-        const auto vuelta = qScopeGuard([&] {
-            sqlite3_vfs_unregister(&averiado);
-            sqlite3_vfs_register(sistema, 1);
-        });
-        const ServidorPrueba nuevo;
-        QVERIFY(!nuevo.traspaso());
-        QCOMPARE(falloDe([&] { nuevo.alta(u"12345678Z"_s, u"ANA"_s); }), std::nullopt);
-        QCOMPARE(sincronizadas, 1); // the removal of the journal has to survive a power cut
-        QCOMPARE(nuevo.generales(nuevo.datos())->NumeroDeclarantes(), 1);
-    }
-
     /// Each kind of error by what it is.
     void motivos()
     {
@@ -213,18 +183,6 @@ private Q_SLOTS:
         QCOMPARE(cuantos(), 0);
     }
 
-    void bloqueado()
-    {
-        auto otro = otroPrograma(m_servidor->datos());
-        otro.exec("BEGIN EXCLUSIVE");
-        QElapsedTimer reloj;
-        reloj.start();
-        QCOMPARE(falloDe(guardar), Fallo::EnUso);
-        QVERIFY2(reloj.elapsed() < 600, qPrintable(QString::number(reloj.elapsed())));
-        otro.exec("COMMIT");
-        QCOMPARE(falloDe(guardar), std::nullopt);
-    }
-
     void soloLectura()
     {
         const QByteArray carpeta = QFile::encodeName(m_servidor->carpeta());
@@ -249,28 +207,6 @@ private Q_SLOTS:
         ::setfsuid(65534);
         QCOMPARE(falloDe(guardar), std::nullopt);
         QCOMPARE(cuantos(), 2);
-    }
-
-    void discoLleno()
-    {
-        rlimit antes{};
-        QCOMPARE(::getrlimit(RLIMIT_FSIZE, &antes), 0);
-        const auto manejador = std::signal(SIGXFSZ, SIG_IGN);
-        const auto vuelta = qScopeGuard([&] {
-            ::setrlimit(RLIMIT_FSIZE, &antes);
-            std::signal(SIGXFSZ, manejador);
-        });
-        const auto tamano = static_cast<rlim_t>(QFileInfo(m_servidor->datos()).size());
-        const rlimit lleno{tamano, antes.rlim_max};
-        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &lleno), 0);
-        std::optional<Fallo> fallo;
-        int guardados = 1;
-        for (; !fallo && guardados < 1000; guardados += fallo ? 0 : 1)
-            fallo = falloDe([&] { m_servidor->alta(u"D%1"_s.arg(guardados), u"NOMBRE"_s); });
-        QCOMPARE(fallo, Fallo::SinEspacio);
-        QCOMPARE(cuantos(), guardados);
-        QVERIFY(!m_servidor->traspaso()); // whole, without a journal left
-        QVERIFY(!QFile::exists(m_servidor->datos() + u"-journal"_s));
     }
 
     void migracion()
