@@ -4,25 +4,34 @@
 #include <QElapsedTimer>
 
 #include <csignal>
+#include <linux/capability.h>
 #include <sched.h>
 #include <sys/fsuid.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
-/// Where this process may mount, seen by nobody else.
+static bool anotar(const QString &fichero, const QByteArray &texto)
+{
+    QFile destino(fichero);
+    return destino.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+        && destino.write(texto) == texto.size();
+}
+
+/// Where this process may mount, seen by nobody else; whoever is not root stays who he is.
 static bool mundoAparte()
 {
-    const uid_t yo = ::geteuid();
-    if (yo == 0)
+    const auto mismo = [](auto numero) {
+        return QByteArray::number(numero) + ' ' + QByteArray::number(numero) + " 1";
+    };
+    const QByteArray yo = mismo(::geteuid()), grupo = mismo(::getegid());
+    if (::geteuid() == 0)
         return ::unshare(CLONE_NEWNS) == 0
             && ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-    if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
-        return false;
-    const QByteArray mismo = QByteArray::number(yo) + ' ' + QByteArray::number(yo) + " 1";
-    QFile mapa(u"/proc/self/uid_map"_s);
-    return mapa.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
-        && mapa.write(mismo) == mismo.size();
+    return ::unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 && anotar(u"/proc/self/setgroups"_s, "deny")
+        && anotar(u"/proc/self/uid_map"_s, yo) && anotar(u"/proc/self/gid_map"_s, grupo);
 }
 
 static bool Aparte;
@@ -64,6 +73,10 @@ private Q_SLOTS:
     /// Root may do anything, and has to be somebody else meanwhile, for files only.
     void carpetaDeSoloLectura()
     {
+        __user_cap_header_struct cabecera{_LINUX_CAPABILITY_VERSION_3, 0};
+        __user_cap_data_struct ninguno[2]{}; // whoever may mount in his own world may do anything
+        if (::geteuid() != 0)
+            QCOMPARE(::syscall(SYS_capset, &cabecera, ninguno), 0);
         int rechazadas = 0;
         for (const Prueba &prueba : pruebas()) {
             const Extremos extremos = this->extremos(prueba);
