@@ -116,8 +116,11 @@ private Q_SLOTS:
                          qPrintable(QString::number(lineas)));
             else
                 QVERIFY2(alguno(6000) || (cual == u"restaurar" && alguno(5999)), "declarants lost");
-            QVERIFY(todos.startsWith(lista.texto));
             QVERIFY(cual != u"hoja" || hojas == 0 || hojas == 5000 || hojas == 5500);
+            QByteArray esperado = todos.first(lista.texto.size());
+            for (int n = 0; n < hojas; ++n)
+                esperado[155 * n + 145] = '1'; // returns of model 430 of each
+            QVERIFY(lista.texto == esperado);
             const int copiados = contarEn(ruta("backups/OstrMod_bak.mdb"), "DECLARANTES");
             QVERIFY(copiados == 5999 || (cual == u"copia" && copiados == 6000));
         }
