@@ -118,7 +118,8 @@ struct Pasada
 Pasada recorrer(SQLite::Database &base, const TablaProbada &tabla, const std::string &clave,
                 const std::string &sumas)
 {
-    const std::string mala = "(" + tabla.bien() + ") IS NOT TRUE";
+    const std::string bien = tabla.bien();
+    const std::string mala = '(' + bien + ") IS NOT TRUE";
     const std::string de = " FROM " + tabla.nombre + " NOT INDEXED";
     Pasada pasada;
     SQLite::Statement todas(base, "SELECT suma(" + mala + "), " + sumas + de);
