@@ -38,7 +38,7 @@ const QString &claveLatina(QChar letra)
 
 QString claveOrden(const QString &texto)
 {
-    const QString grande = texto.toUpper();
+    QString grande = texto.toUpper();
     const auto hasta = [&](char16_t fin) {
         return std::ranges::all_of(grande, [fin](QChar c) { return c.unicode() < fin; });
     };
