@@ -4,9 +4,9 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 . scripts/preparar.sh
+. packaging/comun.sh
 instalar lintian desktop-file-utils appstream bash-completion poppler-utils man-db file passwd dpkg-dev
 paquete=$(realpath "${1:-$(ls build/release/paquetes/ostrel_*.deb)}")
-version=$(sed -n 's/^project(ostrel VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 export DEBIAN_FRONTEND=noninteractive
 usuario=ostrel-prueba
 lugar=$(mktemp -d)
@@ -16,14 +16,6 @@ limpiar() {
     dpkg --purge ostrel >/dev/null 2>&1 || true
     userdel "$usuario" 2>/dev/null || true
     rm -rf "$lugar"
-}
-paso() { echo "== $*"; }
-fallo() {
-    echo "FAILED: $*" >&2
-    exit 1
-}
-es() { # WHAT IS EXPECTED
-    [ "$1" = "$2" ] || fallo "«$1» instead of «$2»"
 }
 como_usuario() { # in a home of its own, without a display
     (cd "$casa" && setpriv --reuid "$usuario" --regid "$usuario" --clear-groups \

@@ -4,6 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 . scripts/preparar.sh
+. packaging/comun.sh
 # shellcheck disable=SC2086
 instalar $paquetes_construir g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 dpkg-dev make tcl \
     nsis fp-utils librsvg2-bin icoutils
@@ -32,7 +33,6 @@ cmake -G Ninja -S . -B "$obra" -DCMAKE_TOOLCHAIN_FILE="$terceros/qt/lib/cmake/Qt
 cmake --build "$obra" -- --quiet
 
 packaging/windows/reunir.sh "$obra" "$terceros"
-version=$(sed -n 's/^project(ostrel VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$version" -DREUNIDO="$obra/reunido" -DICONO="$obra/ostrel.ico" \
     -DSALIDA="$obra/ostrel-setup.exe" packaging/windows/ostrel.nsi
 ls -l "$obra/ostrel-setup.exe"

@@ -5,6 +5,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 . scripts/preparar.sh
+. packaging/comun.sh
 instalar wine wine64 xvfb xauth openbox xdotool imagemagick poppler-utils fonts-liberation
 if [ -z "${OSTREL_PANTALLA:-}" ]; then
     OSTREL_PANTALLA=1 exec xvfb-run -a -s "-screen 0 1366x768x24" packaging/windows/probar.sh "$@"
@@ -13,7 +14,6 @@ fi
 obra=$PWD/build/windows
 setup=$obra/ostrel-setup.exe
 terceros=${OSTREL_TERCEROS:-$PWD/build/windows-terceros}
-version=$(sed -n 's/^project(ostrel VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 fotos=${1:-$obra/prueba}
 mkdir -p "$fotos"
 fotos=$(realpath "$fotos")
@@ -26,16 +26,8 @@ limpiar() {
     wineserver -w 2>/dev/null || true
     rm -rf "$lugar"
 }
-paso() { echo "== $*"; }
-fallo() {
-    import -window root "$fotos/fallo.png" || true
-    echo "FAILED: $*" >&2
-    exit 1
-}
-es() { # WHAT IS EXPECTED
-    [ "$1" = "$2" ] || fallo "«$1» instead of «$2»"
-}
 foto() { import -window root "$fotos/$1.png"; }
+al_fallar() { foto fallo; }
 codigo() { # COMMAND...: prints its exit code
     local valor=0
     "$@" >/dev/null 2>&1 || valor=$?
