@@ -1,25 +1,17 @@
 #include "Calco.h"
 
-#include <QMap>
-#include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
 
-static constexpr int Ppp = 1200; ///< of QPdfWriter
-
 namespace {
 
-class Motor : public QPaintEngine
+class Motor : public MotorLlano
 {
 public:
     explicit Motor(QList<Calco::Llamada> &llamadas)
-        : QPaintEngine(AllFeatures)
-        , m_llamadas(llamadas)
+        : m_llamadas(llamadas)
     {
     }
-    bool begin(QPaintDevice *) override { return true; }
-    bool end() override { return true; }
-    Type type() const override { return User; }
 
     void updateState(const QPaintEngineState &estado) override
     {
@@ -64,24 +56,9 @@ private:
 
 } // namespace
 
+// QPdfWriter's own: an A4 page of 1200 ppi
 Calco::Calco()
-    : m_motor(std::make_unique<Motor>(llamadas))
+    : PaginaLlana({9921, 14031}, 1200)
 {
-}
-
-Calco::~Calco() = default;
-
-QPaintEngine *Calco::paintEngine() const
-{
-    return m_motor.get();
-}
-
-int Calco::metric(PaintDeviceMetric que) const
-{
-    static const QMap<PaintDeviceMetric, int> medidas{
-        {PdmWidth, 9921},         {PdmHeight, 14031},
-        {PdmDpiX, Ppp},           {PdmDpiY, Ppp},
-        {PdmPhysicalDpiX, Ppp},   {PdmPhysicalDpiY, Ppp},
-        {PdmDevicePixelRatio, 1}, {PdmDevicePixelRatioScaled, int(devicePixelRatioFScale())}};
-    return medidas.contains(que) ? medidas[que] : QPaintDevice::metric(que);
+    motor = std::make_unique<Motor>(llamadas);
 }

@@ -1,30 +1,21 @@
 #pragma once
 
+#include "support/PaginaLlana.h"
+
 #include <QList>
-#include <QPaintDevice>
 
 #include <functional>
-#include <memory>
 
 class QPainter;
 
 /// A paint device of the size and resolution of a PDF's page that remembers what is drawn on it as
 /// plain calls of QPainter.
-class Calco : public QPaintDevice
+class Calco : public PaginaLlana
 {
 public:
     using Llamada = std::function<void(QPainter &)>;
 
     Calco();
-    ~Calco() override;
 
     QList<Llamada> llamadas;
-
-    QPaintEngine *paintEngine() const override;
-
-protected:
-    int metric(PaintDeviceMetric que) const override;
-
-private:
-    std::unique_ptr<QPaintEngine> m_motor;
 };

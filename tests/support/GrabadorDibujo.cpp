@@ -1,7 +1,6 @@
 #include "support/GrabadorDibujo.h"
 
 #include <QFontMetricsF>
-#include <QPaintEngine>
 #include <QPainterPath>
 
 static constexpr int Ppp = 254; ///< ten units a millimetre
@@ -9,17 +8,13 @@ static constexpr double UnidadesMm = Ppp / 25.4;
 
 namespace {
 
-class Motor : public QPaintEngine
+class Motor : public MotorLlano
 {
 public:
     explicit Motor(GrabadorDibujo &dueno)
-        : QPaintEngine(AllFeatures)
-        , m_dueno(dueno)
+        : m_dueno(dueno)
     {
     }
-    bool begin(QPaintDevice *) override { return true; }
-    bool end() override { return true; }
-    Type type() const override { return User; }
     void updateState(const QPaintEngineState &estado) override
     {
         const auto cambios = estado.state();
@@ -56,21 +51,7 @@ private:
 } // namespace
 
 GrabadorDibujo::GrabadorDibujo()
-    : m_motor(std::make_unique<Motor>(*this))
+    : PaginaLlana({2100, 2970}, Ppp)
 {
-}
-
-GrabadorDibujo::~GrabadorDibujo() = default;
-
-QPaintEngine *GrabadorDibujo::paintEngine() const
-{
-    return m_motor.get();
-}
-
-int GrabadorDibujo::metric(PaintDeviceMetric que) const
-{
-    static const QMap<PaintDeviceMetric, int> medidas{
-        {PdmWidth, 2100}, {PdmHeight, 2970},      {PdmDpiX, Ppp},
-        {PdmDpiY, Ppp},   {PdmPhysicalDpiX, Ppp}, {PdmPhysicalDpiY, Ppp}};
-    return medidas.contains(que) ? medidas[que] : QPaintDevice::metric(que);
+    motor = std::make_unique<Motor>(*this);
 }

@@ -1,15 +1,14 @@
 #pragma once
 
+#include "support/PaginaLlana.h"
+
 #include <QColor>
 #include <QList>
-#include <QPaintDevice>
 #include <QRectF>
 #include <QString>
 
-#include <memory>
-
 /// A paint device that remembers what is drawn on it, in millimetres.
-class GrabadorDibujo : public QPaintDevice
+class GrabadorDibujo : public PaginaLlana
 {
 public:
     struct Texto
@@ -25,16 +24,7 @@ public:
     };
 
     GrabadorDibujo();
-    ~GrabadorDibujo() override;
 
     QList<Texto> textos;
     QList<Recuadro> recuadros;
-
-    QPaintEngine *paintEngine() const override;
-
-protected:
-    int metric(PaintDeviceMetric que) const override;
-
-private:
-    std::unique_ptr<QPaintEngine> m_motor;
 };
