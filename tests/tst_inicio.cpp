@@ -51,6 +51,7 @@ private:
     }
 
 private Q_SLOTS:
+    void initTestCase() { QCoreApplication::setApplicationVersion(u"1.2.3"_s); }
     void init()
     {
         m_entorno.emplace();
@@ -92,9 +93,8 @@ private Q_SLOTS:
         QVERIFY(reloj.elapsed() >= Breves.normal.count() && principal && principal->isVisible());
         QVERIFY(!ventanaVisible(u"frmInicio"_s));
         QCOMPARE(visto,
-                 QStringList({u"Bertsioa/Versión "_s + qApp->applicationVersion(),
+                 QStringList({u"Bertsioa/Versión 1.2.3"_s,
                               u"Ostrel de Seguros"_s, QString()}));
-        QCOMPARE(qApp->applicationVersion().count(u'.'), 2);
         QVERIFY(!buscado);
     }
 

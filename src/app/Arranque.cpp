@@ -3,7 +3,6 @@
 #include "app/Estilo.h"
 #include "app/MDIOstrel.h"
 #include "app/frmInicio.h"
-#include "core/Plataforma.h"
 #include "core/Sesion.h"
 #include "core/Unico.h"
 #include "help/TeclaAyuda.h"
@@ -68,7 +67,6 @@ static void mostrarCentrada(QMainWindow &ventana)
 
 std::unique_ptr<MDIOstrel> Arranque::iniciar()
 {
-    QCoreApplication::setApplicationVersion(plataforma::version());
     const auto sesion = prepararSesion();
     if (sesion.terminar)
         return nullptr;

@@ -44,18 +44,13 @@ void anunciar()
     CreateMutexW(nullptr, FALSE, L"Ostrel de seguros");
 }
 
-static UINT &paginaAnterior()
-{
-    static UINT pagina = 0;
-    return pagina;
-}
-
 void prepararConsola()
 {
     // it belongs to whoever called, and stays after us
-    paginaAnterior() = GetConsoleOutputCP();
-    if (paginaAnterior() != 0 && SetConsoleOutputCP(CP_UTF8))
-        std::atexit([] { SetConsoleOutputCP(paginaAnterior()); });
+    static UINT anterior = 0;
+    anterior = GetConsoleOutputCP();
+    if (anterior != 0 && SetConsoleOutputCP(CP_UTF8))
+        std::atexit([] { SetConsoleOutputCP(anterior); });
 }
 
 #else
