@@ -55,6 +55,11 @@ inline QString nombreDanado(const Registro &registro)
     return sabido.isEmpty() ? QStringLiteral("#%1").arg(registro.value(RegDanado::CSCO).toInt())
                             : sabido.join(QStringLiteral(" - "));
 }
+/// A return of which it is not even sure whose it is, by its key: "430/480 #17".
+inline QString nombreDeclaracionDanada(qint32 CSDE)
+{
+    return QStringLiteral("430/480 #%1").arg(CSDE);
+}
 
 /// Validation record of a declarant: 8 texts.
 namespace RegValidacion {

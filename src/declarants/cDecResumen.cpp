@@ -167,7 +167,7 @@ QList<MesSinDeclarar> cDecResumen::MesesSinDeclarar() const
 void cDecResumen::BorrarDeclaracion(const DeclaracionListada &declaracion) const
 {
     if (declaracion.modelo.isEmpty()) // it may be anybody's
-        throw ErrorDatos(Fallo::RegistroDanado, u"430/480 #%1"_s.arg(declaracion.csde));
+        throw ErrorDatos(Fallo::RegistroDanado, nombreDeclaracionDanada(declaracion.csde));
     auto servicio = servicioDeclaracion();
     servicio->BorrarDatosNoComunes(declaracion.csde, declaracion.modelo);
     servicio->BorrarDeclaracion(declaracion.csde);

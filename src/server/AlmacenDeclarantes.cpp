@@ -143,8 +143,10 @@ qint32 claveDeDni(const PConexion &conexion, const std::string &dni)
     static const std::string sql
         = "SELECT CSCO, " + probadaDeclarantes().bien() + " FROM DECLARANTES WHERE DNI = ?";
     Sentencia fila(conexion, sql);
-    if (!fila.con(dni).fila())
+    if (!fila.con(dni).fila()) {
+        conexion->comprobarDnis();
         return 0;
+    }
     if (!filaBien(fila)) // the row, or the entry of the index that led to it
         declaranteDanado(conexion, fila.clave(0));
     return fila.clave(0);

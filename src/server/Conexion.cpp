@@ -76,10 +76,18 @@ void Conexion::comprobarEntera()
     m_entera = true;
 }
 
-void Conexion::comprobarFilas()
+void Conexion::comprobarTodo()
 {
+    comprobarEntera();
     const LecturaUnica vista(shared_from_this());
-    servidor::comprobarFilas(m_base, m_ruta);
+    comprobarFilas(m_base, m_ruta);
+}
+
+void Conexion::comprobarDnis()
+{
+    if (!m_dnis)
+        conErroresDe(*this, [this] { servidor::comprobarDnis(m_base, m_ruta); });
+    m_dnis = true;
 }
 
 std::unique_ptr<SQLite::Statement> Conexion::tomar(std::string_view sql)

@@ -39,8 +39,11 @@ public:
     bool soloLectura() const;
     /// Looks through the whole file unless that has been done; throws ErrorDatos.
     void comprobarEntera();
-    /// Looks at every row, as of one moment (Danados.h); throws ErrorDatos.
-    void comprobarFilas();
+    /// The same, and every row, as of one moment (Danados.h).
+    void comprobarTodo();
+    /// That no entry of the index of DNIs hides a declarant, unless that has been seen; throws
+    /// ErrorDatos. To be asked before one is said not to exist.
+    void comprobarDnis();
     /// Room for the pages of a work over the whole of a large database, or the usual one.
     enum class Paginas { Usuales, Muchas };
     void paginas(Paginas cuantas);
@@ -57,7 +60,7 @@ private:
     Identidad m_identidad;
     qint32 m_aplicacion;
     SQLite::Database m_base;
-    bool m_entera = false;
+    bool m_entera = false, m_dnis = false;
     std::map<std::string, std::unique_ptr<SQLite::Statement>, std::less<>> m_sentencias;
 };
 

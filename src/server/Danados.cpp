@@ -2,6 +2,7 @@
 
 #include "dataservice/Registros.h"
 #include "server/AlmacenDeclaraciones.h"
+#include "server/AlmacenDeclarantes.h"
 #include "server/Prueba.h"
 
 #include <QStringList>
@@ -70,6 +71,11 @@ CabeceraSegura cabeceraSegura(SQLite::Database &base, qint32 CSDE)
     return modeloDe(segura.modelo) ? segura : CabeceraSegura{};
 }
 
+CabeceraSegura cabeceraSegura(const PConexion &conexion, qint32 CSDE)
+{
+    return conErroresDe(*conexion, [&] { return cabeceraSegura(conexion->base(), CSDE); });
+}
+
 QString nombreDeclarante(SQLite::Database &base, qint32 CSCO)
 {
     const auto [dni, nombre] = declaranteSeguro(base, CSCO);
@@ -86,7 +92,7 @@ QString nombreDeclaracion(SQLite::Database &base, qint32 CSDE)
 {
     const auto [csco, ejercicio, periodo, modelo] = cabeceraSegura(base, CSDE);
     if (modelo.isEmpty())
-        return u"430/480 #%1"_s.arg(CSDE);
+        return nombreDeclaracionDanada(CSDE);
     return nombreDeclarante(base, csco) + u": "_s + nombreCabecera(modelo, ejercicio, periodo);
 }
 
@@ -162,10 +168,53 @@ void exigirNinguno(const QStringList &nombres)
 
 } // namespace
 
+namespace {
+
+constexpr const char *IndiceDni = "sqlite_autoindex_DECLARANTES_1";
+const std::string deDni = "suma(prueba(DNI, CSCO))";
+
+void exigirJuntas(bool juntas, const QString &ruta)
+{
+    if (!juntas)
+        throw ErrorDatos(Fallo::Danada, ruta, u"its tables and indexes do not agree"_s);
+}
+
+// A new key is one more than its counter, and has to fit in 31 bits.
+bool contadoresBien(SQLite::Database &base)
+{
+    return base.execAndGet("SELECT count(*) FROM sqlite_sequence WHERE name NOT IN "
+                           "('DECLARANTES', 'DECLARACIONES') OR typeof(seq) <> 'integer' OR seq < "
+                           "CASE name WHEN 'DECLARANTES' THEN (SELECT max(CSCO) FROM DECLARANTES) "
+                           "ELSE (SELECT max(CSDE) FROM DECLARACIONES) END OR seq > 2147483647")
+               .getInt()
+        == 0;
+}
+
+} // namespace
+
+void comprobarDnis(SQLite::Database &base, const QString &ruta)
+{
+    conErrores(ruta, [&] {
+        const auto enTabla
+            = base.execAndGet("SELECT " + deDni + " FROM DECLARANTES NOT INDEXED").getInt64();
+        exigirJuntas(enTabla == sumaIndice(base, deDni, "DECLARANTES", IndiceDni), ruta);
+    });
+}
+
+void exigirCuenta(const PConexion &conexion, qint32 CSCO)
+{
+    static const std::string sql
+        = "SELECT NUM430 + NUM480 = (SELECT count(*) FROM DECLARACIONES R INDEXED BY "
+          "sqlite_autoindex_DECLARACIONES_1 WHERE R.CSCO = D.CSCO), "
+        + probadaDeclarantes().bien() + " FROM DECLARANTES D WHERE CSCO = ?";
+    Sentencia fila(conexion, sql);
+    if (fila.con(CSCO).fila() && filaBien(fila)) // a damaged declarant is told as such
+        exigirJuntas(fila.entero(0) == 1, conexion->ruta());
+}
+
 void comprobarFilas(SQLite::Database &base, const QString &ruta)
 {
-    static const std::string deDni = "suma(prueba(DNI, CSCO))",
-                             deReciente = "suma(prueba(RECIENTE, CSCO))",
+    static const std::string deReciente = "suma(prueba(RECIENTE, CSCO))",
                              deUnica = "suma(prueba(CSCO, EJERCICIO, PERIODO, MODELO, CSDE))";
     conErrores(ruta, [&] {
         const auto declarantes = recorrer(base, probadaDeclarantes(), "CSCO",
@@ -192,14 +241,12 @@ void comprobarFilas(SQLite::Database &base, const QString &ruta)
         exigirNinguno(nombres);
         const bool juntas = static_cast<qint64>(figuras) == cabeceras.sumas[1]
             && declarantes.sumas[2] == cabeceras.sumas[2]
-            && declarantes.sumas[0]
-                == sumaIndice(base, deDni, "DECLARANTES", "sqlite_autoindex_DECLARANTES_1")
+            && declarantes.sumas[0] == sumaIndice(base, deDni, "DECLARANTES", IndiceDni)
             && declarantes.sumas[1]
                 == sumaIndice(base, deReciente, "DECLARANTES", "DECLARANTES_RECIENTE")
             && cabeceras.sumas[0]
                 == sumaIndice(base, deUnica, "DECLARACIONES", "sqlite_autoindex_DECLARACIONES_1");
-        if (!juntas)
-            throw ErrorDatos(Fallo::Danada, ruta, u"its tables and indexes do not agree"_s);
+        exigirJuntas(juntas && contadoresBien(base), ruta);
     });
 }
 

@@ -21,6 +21,7 @@ struct CabeceraSegura
     QString modelo;
 };
 CabeceraSegura cabeceraSegura(SQLite::Database &base, qint32 CSDE);
+CabeceraSegura cabeceraSegura(const PConexion &conexion, qint32 CSDE);
 
 /// What tells the user which one it is: "DNI - NAME", "DNI - NAME: 430 2026-03", and its key
 /// ("#17") where nothing is sure.
@@ -38,5 +39,12 @@ QString nombreCabecera(const QString &modelo, qint32 ejercicio, qint32 periodo);
 /// naming the declarants and returns that are not as they were written, Danada when the tables and
 /// their indexes do not belong together.
 void comprobarFilas(SQLite::Database &base, const QString &ruta);
+
+/// The same of the index of DNIs alone; throws Danada.
+void comprobarDnis(SQLite::Database &base, const QString &ruta);
+
+/// Throws Danada when the index of the returns leads to fewer, or more, than a declarant counts:
+/// for a list of them, or before one is said not to exist.
+void exigirCuenta(const PConexion &conexion, qint32 CSCO);
 
 } // namespace servidor

@@ -99,20 +99,22 @@ QVariant importeDe(const Sentencia &fila, int columna)
 bool estaGuardada(const PConexion &conexion, const Registro &cabecera)
 {
     using namespace RegCabecera;
-    return Sentencia(conexion,
-                     "SELECT 1 FROM DECLARACIONES WHERE CSCO = ? AND EJERCICIO = ? AND PERIODO = ? "
-                     "AND MODELO = ?")
-        .con(cabecera[CSCO].toLongLong(), cabecera[EJERCICIO].toLongLong(),
-             cabecera[PERIODO].toLongLong(), cabecera[MODELO].toString())
-        .fila();
+    const bool hay = Sentencia(conexion,
+                               "SELECT 1 FROM DECLARACIONES WHERE CSCO = ? AND EJERCICIO = ? AND "
+                               "PERIODO = ? AND MODELO = ?")
+                         .con(cabecera[CSCO].toLongLong(), cabecera[EJERCICIO].toLongLong(),
+                              cabecera[PERIODO].toLongLong(), cabecera[MODELO].toString())
+                         .fila();
+    if (!hay)
+        exigirCuenta(conexion, cabecera[CSCO].toInt());
+    return hay;
 }
 
 /// What is sure of a damaged header, as camposComunes; 0 and empty when it is not even sure that it
 /// is one of that declarant.
 Registro camposSeguros(const PConexion &conexion, qint32 CSDE, qint32 CSCO)
 {
-    const auto segura
-        = conErroresDe(*conexion, [&] { return cabeceraSegura(conexion->base(), CSDE); });
+    const auto segura = cabeceraSegura(conexion, CSDE);
     const Modelo *modelo = segura.csco == CSCO ? modeloDe(segura.modelo) : nullptr;
     if (!modelo)
         return {0, 0, 0, QString(), 0};
@@ -128,8 +130,7 @@ void exigirSeguras(const PConexion &conexion, qint32 CSDE, const QString &modelo
     Sentencia fila(conexion, sql);
     if (!fila.con(CSDE, modelo).fila() || filaBien(fila))
         return;
-    const auto segura
-        = conErroresDe(*conexion, [&] { return cabeceraSegura(conexion->base(), CSDE); });
+    const auto segura = cabeceraSegura(conexion, CSDE);
     if (fila.entero(0) == 0 || fila.clave(1) != segura.csco)
         declaracionDanada(conexion, CSDE);
 }
@@ -146,16 +147,20 @@ Registro buscarDeclaracion(const PConexion &conexion, const Registro &buscada)
     static const std::string sqlDeclarante
         = "SELECT CSCO, " + probadaDeclarantes().bien() + " FROM DECLARANTES WHERE DNI = ?";
     Sentencia declarante(conexion, sqlDeclarante);
-    if (!declarante.con(dni).fila())
+    if (!declarante.con(dni).fila()) {
+        conexion->comprobarDnis();
         return {0, 0, 0.0};
+    }
     const qint32 csco = declarante.clave(0);
     if (!filaBien(declarante))
         return {csco, 0, QVariant()};
     static const std::string sql = "SELECT CSDE, IMPORTE, " + probadaDeclaraciones().bien()
         + " FROM DECLARACIONES WHERE CSCO = ? AND EJERCICIO = ? AND PERIODO = ? AND MODELO = ?";
     Sentencia sentencia(conexion, sql);
-    if (!sentencia.con(csco, ejercicio, periodo, modelo).fila())
+    if (!sentencia.con(csco, ejercicio, periodo, modelo).fila()) {
+        exigirCuenta(conexion, csco);
         return {csco, 0, 0.0};
+    }
     return {csco, sentencia.clave(0), importeDe(sentencia, 1)};
 }
 
@@ -215,8 +220,7 @@ void leerEstados(const PConexion &conexion, const Pedida &pedida, Estados &estad
                    static_cast<double>(fila.entero(5)));
             continue;
         }
-        const auto segura
-            = conErroresDe(*conexion, [&] { return cabeceraSegura(conexion->base(), csde); });
+        const auto segura = cabeceraSegura(conexion, csde);
         if (segura.modelo.isEmpty())
             declaracionDanada(conexion, csde);
         contar(estados, pedida, csde, segura, QVariant());
@@ -242,6 +246,7 @@ qint32 cDeclaracion::dameResultado(Filas &filas, qint32 CSCO)
         fila += importeDe(sentencia, 6);
         leidas.append(QVariant(fila));
     }
+    exigirCuenta(conexion, CSCO);
     filas = std::move(leidas);
     return static_cast<qint32>(filas.size());
 }

@@ -10,6 +10,7 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -38,37 +39,45 @@ QHash<qint64, QString> nombresProvincias(const PConexion &lectura, qint16 idioma
     return nombres;
 }
 
+/// The RegDeclarante of a stored one, or its RegDanado.
+std::optional<Registro> leer(const PConexion &conexion, qint32 CSCO)
+{
+    Sentencia sentencia(conexion, seleccionDeclarante("WHERE CSCO = ?"));
+    if (!sentencia.con(CSCO).fila())
+        return {};
+    return registroListado(conexion, sentencia);
+}
+
+std::optional<Registro> leerBien(const PConexion &conexion, qint32 CSCO)
+{
+    auto leida = leer(conexion, CSCO);
+    if (leida && esDanado(*leida))
+        declaranteDanado(conexion, CSCO);
+    return leida;
+}
+
 } // namespace
 
 void cDeclarante::CargarDeclarante(qint32 &CSCO, Registro &registro)
 {
-    const PConexion conexion = Conexion::datos(m_datos);
-    Sentencia sentencia(conexion, seleccionDeclarante("WHERE CSCO = ?"));
-    if (!sentencia.con(CSCO).fila())
+    const auto leida = leerBien(Conexion::datos(m_datos), CSCO);
+    if (!leida)
         sinDeclarante();
-    if (!filaBien(sentencia))
-        declaranteDanado(conexion, CSCO);
-    registro = registroDeclarante(sentencia);
+    registro = *leida;
 }
 
 void cDeclarante::CargarListado(qint32 CSCO, Registro &registro)
 {
-    const PConexion conexion = Conexion::datos(m_datos);
-    Sentencia sentencia(conexion, seleccionDeclarante("WHERE CSCO = ?"));
-    if (!sentencia.con(CSCO).fila())
+    const auto leida = leer(Conexion::datos(m_datos), CSCO);
+    if (!leida)
         sinDeclarante();
-    registro = registroListado(conexion, sentencia);
+    registro = *leida;
 }
 
 QByteArray cDeclarante::Huella(qint32 CSCO)
 {
-    const PConexion conexion = Conexion::datos(m_datos);
-    Sentencia sentencia(conexion, seleccionDeclarante("WHERE CSCO = ?"));
-    if (!sentencia.con(CSCO).fila())
-        return {};
-    if (!filaBien(sentencia))
-        declaranteDanado(conexion, CSCO);
-    return huella(registroDeclarante(sentencia).first(RegDeclarante::NUM430));
+    const auto leida = leerBien(Conexion::datos(m_datos), CSCO);
+    return leida ? huella(leida->first(RegDeclarante::NUM430)) : QByteArray();
 }
 
 qint16 cDeclarante::GuardarDeclarante(const Registro &registro)
@@ -204,20 +213,27 @@ void cDeclarante::ObtenerUltimosDeclarantes(Filas &filas)
     filas = std::move(leidas);
 }
 
+// All of the declarant's: an entry of the index with another year or model would hide a month.
 bool cDeclarante::ObtListDecl430(Filas &filas, qint16 ejercicio, qint32 CSCO)
 {
     const PConexion conexion = Conexion::datos(m_datos);
-    static const std::string sql = "SELECT CSDE, PERIODO, " + probadaDeclaraciones().bien()
-        + " FROM DECLARACIONES WHERE CSCO = ? AND EJERCICIO = ? AND MODELO = '430' "
-          "ORDER BY PERIODO";
+    static const std::string sql = "SELECT CSDE, PERIODO, EJERCICIO, MODELO, "
+        + probadaDeclaraciones().bien() + " FROM DECLARACIONES WHERE CSCO = ? ORDER BY PERIODO";
     Sentencia sentencia(conexion, sql);
-    sentencia.con(CSCO, ejercicio);
+    sentencia.con(CSCO);
     Filas leidas;
     while (sentencia.fila()) {
-        if (!filaBien(sentencia))
-            declaracionDanada(conexion, sentencia.clave(0));
-        leidas.append(QVariant(QVariantList{sentencia.clave(0), sentencia.clave(1)}));
+        const qint32 csde = sentencia.clave(0);
+        if (!filaBien(sentencia)) {
+            const auto segura = cabeceraSegura(conexion, csde);
+            if (segura.modelo.isEmpty()
+                || (segura.ejercicio == ejercicio && segura.modelo == Modelo430))
+                declaracionDanada(conexion, csde);
+        } else if (sentencia.clave(2) == ejercicio && sentencia.texto(3) == Modelo430) {
+            leidas.append(QVariant(QVariantList{csde, sentencia.clave(1)}));
+        }
     }
+    exigirCuenta(conexion, CSCO);
     filas = std::move(leidas);
     return !filas.isEmpty();
 }

@@ -119,8 +119,7 @@ void cSaveAsRestore::CrearBackup()
 {
     atender(Dialogos::Trabajo::Copia, [this] {
         const PConexion datos = Conexion::datos(origen());
-        datos->comprobarEntera();
-        datos->comprobarFilas();
+        datos->comprobarTodo();
         crearCarpeta(QFileInfo(destino()).path());
         copiarFichero(datos->base(), destino(),
                       [this] { conservarAnterior(destino(), copiasAnteriores()); });
@@ -142,8 +141,7 @@ bool cSaveAsRestore::copiarDelDia()
     if (QFile::exists(ruta))
         return false;
     const PConexion datos = Conexion::datos(origen());
-    datos->comprobarEntera();
-    datos->comprobarFilas();
+    datos->comprobarTodo();
     crearCarpeta(QFileInfo(ruta).path());
     copiarFichero(datos->base(), ruta);
     podarDelDia(m_rutaDestino, m_archivoOrigen, std::max(1, copiasAnteriores()));

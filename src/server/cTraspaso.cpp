@@ -115,9 +115,7 @@ bool cTraspaso::Traspaso()
 
 void cTraspaso::Comprobar()
 {
-    const PConexion conexion = Conexion::datos(m_datos);
-    conexion->comprobarEntera();
-    conexion->comprobarFilas();
+    Conexion::datos(m_datos)->comprobarTodo();
 }
 
 } // namespace servidor

@@ -34,7 +34,10 @@ inline QByteArray contenidoDe(const QString &ruta)
             return "damaged";
         SQLite::Statement tablas(base, "SELECT name FROM sqlite_schema WHERE type = 'table'");
         while (tablas.executeStep()) {
-            SQLite::Statement filas(base, "SELECT * FROM " + tablas.getColumn(0).getString());
+            const std::string tabla = tablas.getColumn(0).getString();
+            if (tabla == "sqlite_sequence") // any counter above the keys is as good
+                continue;
+            SQLite::Statement filas(base, "SELECT * FROM " + tabla);
             while (filas.executeStep()) {
                 for (int i = 0; i < filas.getColumnCount(); ++i)
                     todo += filas.getColumn(i).getString() + '|';
