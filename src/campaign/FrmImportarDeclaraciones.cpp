@@ -126,6 +126,7 @@ void FrmImportarDeclaraciones::Anadir_captions()
     m_lblFichero->setText(msj(Msj::FicheroDeDeclaraciones));
     m_txtFichero->setAccessibleName(msj(Msj::FicheroDeDeclaraciones));
     m_cmdFichero->setText(msj(Msj::BotonSeleccionarFichero));
+    m_cmdFichero->setToolTip(msj(Msj::PistaElegirOrigen));
     m_lblArrastre->setText(msj(Msj::ArrastreFichero));
     m_lblGuia->setText(msj(Msj::GuiaHoja));
     m_flxHoja->setAccessibleName(msj(Msj::AccesibleFilasHoja));

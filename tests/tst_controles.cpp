@@ -1,0 +1,127 @@
+#include "app/MDIOstrel.h"
+#include "app/Pantallas.h"
+#include "campaign/cPendientes.h"
+#include "declarations/cDatos430.h"
+#include "declarations/cDatos480.h"
+#include "maintenance/FrmIdioma.h"
+#include "maintenance/FrmSinConexion.h"
+#include "maintenance/FrmVersionCheck.h"
+#include "support/Entorno.h"
+#include "support/LineasPrueba.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QMenu>
+#include <QTest>
+
+/// What every control of every screen says, in both languages and in the order of Tab: its text,
+/// its tip, what screen readers are told, the titles of its columns.
+class TstControles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void todas()
+    {
+        QCoreApplication::setApplicationVersion(u"1.2.3"_s);
+        const Entorno entorno;
+        qputenv("HOME", entorno.ruta(u"."_s).toUtf8());
+        qputenv("CUPS_SERVER", "/no"); // the same without printers as with some
+        const qint32 csco = Entorno::altaDeclarante();
+        Entorno::altaDeclaracion(csco, 2026, 3);
+        QByteArray dicho;
+        for (int i = int(Pantalla::Ninguna) + 1; i <= int(Pantalla::AcercaDe); ++i) {
+            const DatosPantalla &datos = *datosPantalla(Pantalla(i));
+            preparar(csco, datos.cual);
+            QString pantalla = enLosDosIdiomas([&] { return datos.crear(nullptr); });
+            if (datos.cual == Pantalla::Pendientes)
+                pantalla.replace(
+                    QString::number(cPendientes::UltimaTerminada(QDate::currentDate()).ejercicio),
+                    u"AAAA"_s);
+            dicho += pantalla.toUtf8();
+        }
+        for (const auto &crear :
+             {nueva<FrmIdioma>, nueva<FrmVersionCheck>, nueva<FrmSinConexion>, nueva<MDIOstrel>})
+            dicho += enLosDosIdiomas(crear).toUtf8();
+        for (const QString &dia : {u"dd/MM/yyyy"_s, u"yyyy/MM/dd"_s})
+            dicho.replace(QDate::currentDate().toString(dia).toUtf8(), "HOY");
+        dicho.replace(QFileInfo(entorno.ruta(u"."_s)).canonicalFilePath().toUtf8(), "CARPETA");
+        const QString ruta = QStringLiteral(OSTREL_REFERENCIAS "/controles.txt");
+        if (qEnvironmentVariableIsSet("OSTREL_NUEVAS_REFERENCIAS"))
+            lineas::escribir(ruta, dicho);
+        const auto dichas = dicho.split('\n'), debidas = lineas::leer(ruta).split('\n');
+        for (qsizetype i = 0; i < std::min(dichas.size(), debidas.size()); ++i)
+            QCOMPARE(dichas[i], debidas[i]);
+        QCOMPARE(dichas.size(), debidas.size());
+    }
+
+private:
+    static void preparar(qint32 csco, Pantalla cual)
+    {
+        auto &resumen = unico::la<cDecResumen>();
+        resumen.CSCO(csco);
+        resumen.EJERCICIO(2026);
+        resumen.CambiarModelo(cual == Pantalla::Datos430 ? u"430"_s : u"480"_s);
+        resumen.PERIODO(12);
+        unico::la<cDatos430>().MODO(u"A"_s);
+        unico::la<cDatos480>().MODO(u"A"_s);
+        unico::la<cDecDatos>().MODO(u"A"_s);
+    }
+
+    template <class T> static QWidget *nueva() { return new T; }
+
+    static QString enLosDosIdiomas(const std::function<QWidget *()> &crear)
+    {
+        unico::la<CEntrada>().IDI(u"C"_s);
+        const std::unique_ptr<QWidget> pantalla(crear());
+        pantalla->resize(pantalla->sizeHint());
+        pantalla->show();
+        QTest::qWait(1); // what is read once the screen stands
+        const QString dicho = u"\n== %1\n"_s.arg(pantalla->objectName()) + lo(*pantalla);
+        Entorno::pasarAEuskera(*pantalla);
+        QTest::qWait(1);
+        return dicho + lo(*pantalla);
+    }
+
+    static QString lo(QWidget &pantalla)
+    {
+        QStringList filas{pantalla.windowTitle()};
+        for (auto *control = pantalla.nextInFocusChain(); control != &pantalla;
+             control = control->nextInFocusChain())
+            if ((!control->objectName().isEmpty() && !control->objectName().startsWith(u"qt_"))
+                || control->inherits("QLabel"))
+                filas += fila(*control);
+        for (const auto *menu : pantalla.findChildren<QMenu *>())
+            filas += fila(*menu);
+        for (const auto *accion : pantalla.findChildren<QAction *>())
+            if (!accion->objectName().isEmpty())
+                filas += unidas({accion->objectName(), accion->isEnabled() ? QString() : u"-"_s,
+                                 accion->text(), accion->toolTip(), accion->statusTip(),
+                                 accion->shortcut().toString()});
+        return filas.join(u'\n') + u'\n';
+    }
+    static QString fila(const QWidget &control)
+    {
+        QStringList partes{control.objectName(),
+                           (control.isEnabled() ? QString() : u"-"_s)
+                               + (control.isVisible() ? QString() : u"?"_s)};
+        for (const char *propiedad : {"text", "title", "placeholderText", "toolTip",
+                                      "accessibleName", "accessibleDescription"})
+            partes += control.property(propiedad).toString();
+        if (const auto *vista = qobject_cast<const QAbstractItemView *>(&control);
+            vista && vista->model())
+            for (int c = 0; c < vista->model()->columnCount(); ++c)
+                for (const auto papel : {Qt::DisplayRole, Qt::ToolTipRole})
+                    partes += vista->model()->headerData(c, Qt::Horizontal, papel).toString();
+        return unidas(partes);
+    }
+    static QString unidas(QStringList partes)
+    {
+        while (!partes.isEmpty() && partes.constLast().isEmpty())
+            partes.removeLast();
+        return partes.join(u'|').replace(u'\n', u'¶');
+    }
+};
+
+QTEST_MAIN(TstControles)
+#include "tst_controles.moc"
