@@ -196,6 +196,15 @@ private Q_SLOTS:
              [&] {
                  declaraciones->ValidarDatosComunes({2026, 2, 12, 2020, 1, 2030, 12, u"480"_s, 2});
              }});
+        for (const char *esquema :
+             {"sql = replace(sql, 'NUM430 + (', 'NUM430 - (') WHERE type = 'trigger'",
+              "sql = replace(sql, 'UNIQUE', 'NOT NULL') WHERE name = 'DECLARANTES'",
+              "tbl_name = 'DATOS480' WHERE name = 'DATOS430'"}) {
+            poner(bueno);
+            cambiar(std::string("PRAGMA writable_schema = ON; UPDATE sqlite_schema SET ")
+                    + esquema);
+            QCOMPARE(falloDe([&] { m_servidor->comprobar(); }), Fallo::Danada);
+        }
         for (const char *contadores :
              {"SET seq = 1 WHERE name = 'DECLARANTES'", "SET seq = 3 WHERE name = 'DECLARACIONES'",
               "SET seq = 2147483648", "SET name = 'OTRO'", "SET seq = 'X'"}) {

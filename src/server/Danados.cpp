@@ -3,7 +3,7 @@
 #include "dataservice/Registros.h"
 #include "server/AlmacenDeclaraciones.h"
 #include "server/AlmacenDeclarantes.h"
-#include "server/Prueba.h"
+#include "server/Esquemas.h"
 
 #include <QStringList>
 
@@ -201,6 +201,15 @@ void comprobarDnis(SQLite::Database &base, const QString &ruta)
     });
 }
 
+void exigirTodas(const PConexion &conexion, const TablaProbada &tabla, qint64 leidas)
+{
+    Sentencia fila(conexion,
+                   "SELECT count(*) FROM " + tabla.nombre + " INDEXED BY sqlite_autoindex_"
+                       + tabla.nombre + "_1");
+    fila.filaDebida();
+    exigirJuntas(fila.entero(0) == leidas, conexion->ruta());
+}
+
 void exigirCuenta(const PConexion &conexion, qint32 CSCO)
 {
     static const std::string sql
@@ -216,6 +225,7 @@ void comprobarFilas(SQLite::Database &base, const QString &ruta)
 {
     static const std::string deReciente = "suma(prueba(RECIENTE, CSCO))",
                              deUnica = "suma(prueba(CSCO, EJERCICIO, PERIODO, MODELO, CSDE))";
+    comprobarEsquema(base, ruta);
     conErrores(ruta, [&] {
         const auto declarantes = recorrer(base, probadaDeclarantes(), "CSCO",
                                           deDni + ", " + deReciente

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "server/Conexion.h"
+#include "server/Prueba.h"
 
 #include <QString>
 
@@ -37,11 +38,15 @@ QString nombreCabecera(const QString &modelo, qint32 ejercicio, qint32 periodo);
 
 /// Looks at every row of a model database of today's schema. Throws ErrorDatos: RegistroDanado
 /// naming the declarants and returns that are not as they were written, Danada when the tables and
-/// their indexes do not belong together.
+/// their indexes do not belong together, or are not ours (Esquemas.h).
 void comprobarFilas(SQLite::Database &base, const QString &ruta);
 
 /// The same of the index of DNIs alone; throws Danada.
 void comprobarDnis(SQLite::Database &base, const QString &ruta);
+
+/// Throws Danada when a passage over a whole table (DECLARANTES or DECLARACIONES) came by another
+/// number of rows than its index has; in the same LecturaUnica.
+void exigirTodas(const PConexion &conexion, const TablaProbada &tabla, qint64 leidas);
 
 /// Throws Danada when the index of the returns leads to fewer, or more, than a declarant counts:
 /// for a list of them, or before one is said not to exist.

@@ -112,16 +112,47 @@ std::string sqlDesdeEsquema1()
         + disparador("DECLARACION_BAJA", "DELETE", " - ", "OLD");
 }
 
+namespace {
+
 // A new one takes the steps of an old one, so that both are the same.
+void llenarDatos(SQLite::Database &base)
+{
+    registrarPrueba(base);
+    base.exec(TablasDatos);
+    base.exec(modelo430().crear);
+    base.exec(modelo480().crear);
+    base.exec(sqlDesdeEsquema1());
+}
+
+} // namespace
+
+void comprobarEsquema(SQLite::Database &base, const QString &ruta)
+{
+    SQLite::Database nuestra(":memory:", SQLite::OPEN_READWRITE);
+    llenarDatos(nuestra);
+    conErrores(ruta, [&] {
+        SQLite::Statement debida(nuestra, "SELECT type, name, tbl_name, sql FROM sqlite_schema");
+        SQLite::Statement hay(base,
+                              "SELECT tbl_name = ?3 AND sql IS ?4 FROM sqlite_schema "
+                              "WHERE type = ?1 AND name = ?2");
+        for (; debida.executeStep(); hay.reset()) {
+            hay.clearBindings();
+            for (int i = 0; i < debida.getColumnCount(); ++i)
+                if (!debida.getColumn(i).isNull()) // an index that comes with its table
+                    hay.bind(i + 1, debida.getColumn(i).getString());
+            if (!hay.executeStep())
+                throw ErrorDatos(Fallo::Incompleta, ruta,
+                                 u"a table, index or trigger is missing"_s);
+            if (hay.getColumn(0).getInt() == 0)
+                throw ErrorDatos(Fallo::Danada, ruta, u"a table, index or trigger is not ours"_s);
+        }
+    });
+}
+
 bool crearDatos(const QString &ruta)
 {
-    return crearFichero(ruta, FormatoDatos, Lugar::Vacio, [](SQLite::Database &base) {
-        registrarPrueba(base);
-        base.exec(TablasDatos);
-        base.exec(modelo430().crear);
-        base.exec(modelo480().crear);
-        base.exec(sqlDesdeEsquema1());
-    });
+    return crearFichero(ruta, FormatoDatos, Lugar::Vacio,
+                        [](SQLite::Database &base) { llenarDatos(base); });
 }
 
 namespace {

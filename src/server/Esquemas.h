@@ -12,6 +12,10 @@ namespace servidor {
 /// program has put one there meanwhile.
 bool crearDatos(const QString &ruta);
 
+/// Throws ErrorDatos (Incompleta, Danada) unless every table, index and trigger of a model database
+/// of today's schema is there, and as crearDatos() makes it; others may stand beside them.
+void comprobarEsquema(SQLite::Database &base, const QString &ruta);
+
 /// SQL that takes a model database from schema 1 to 2: the check value of each row.
 std::string sqlDesdeEsquema1();
 

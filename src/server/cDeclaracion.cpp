@@ -212,7 +212,8 @@ void leerEstados(const PConexion &conexion, const Pedida &pedida, Estados &estad
     static const std::string sql = "SELECT CSDE, CSCO, EJERCICIO, PERIODO, MODELO, IMPORTE, "
         + probadaDeclaraciones().bien() + " FROM DECLARACIONES NOT INDEXED";
     Sentencia fila(conexion, sql);
-    while (fila.fila()) {
+    qint64 leidas = 0;
+    for (; fila.fila(); ++leidas) {
         const qint32 csde = fila.clave(0);
         if (filaBien(fila)) {
             contar(estados, pedida, csde,
@@ -225,6 +226,7 @@ void leerEstados(const PConexion &conexion, const Pedida &pedida, Estados &estad
             declaracionDanada(conexion, csde);
         contar(estados, pedida, csde, segura, QVariant());
     }
+    exigirTodas(conexion, probadaDeclaraciones(), leidas);
 }
 
 } // namespace
@@ -360,7 +362,8 @@ void cDeclaracion::RecorrerPendientes(qint16 ejercicio, const QString &modelo, q
     static const std::string sql = "SELECT CSCO, DNI, NOMBRE, " + probadaDeclarantes().bien()
         + " FROM DECLARANTES ORDER BY CLAVE, DNI";
     Sentencia sentencia(conexion, sql);
-    while (sentencia.fila()) {
+    qint64 leidas = 0;
+    for (; sentencia.fila(); ++leidas) {
         if (!filaBien(sentencia)) {
             if (!visitar(registroDanado(conexion, sentencia.clave(0))))
                 return;
@@ -372,6 +375,7 @@ void cDeclaracion::RecorrerPendientes(qint16 ejercicio, const QString &modelo, q
                       e.primero, e.cuantos, e.anteriores}))
             return;
     }
+    exigirTodas(conexion, probadaDeclarantes(), leidas);
 }
 
 void cDeclaracion::BorrarDatosNoComunes(qint32 CSDE, const QString &modelo)

@@ -131,6 +131,7 @@ qint32 cDeclarante::dameResultado(Filas &filas, quint8 orden, qint16 idioma)
 {
     const auto provincias = nombresProvincias(Conexion::lectura(m_lectura), idioma);
     const PConexion conexion = Conexion::datos(m_datos);
+    const LecturaUnica lectura(conexion);
     static const std::string sql
         = "SELECT CSCO, DNI, NOMBRE, NOMMUN, CODPROV, NUM430, NUM480, CLAVE, "
         + probadaDeclarantes().bien() + " FROM DECLARANTES";
@@ -151,6 +152,7 @@ qint32 cDeclarante::dameResultado(Filas &filas, quint8 orden, qint16 idioma)
                                   static_cast<double>(sentencia.entero(5)),
                                   static_cast<double>(sentencia.entero(6))}));
     }
+    exigirTodas(conexion, probadaDeclarantes(), std::ssize(leidas));
     std::ranges::sort(leidas, {}, &std::pair<std::string, QVariant>::first);
     Filas ordenadas;
     ordenadas.reserve(static_cast<qsizetype>(leidas.size()));
@@ -178,8 +180,13 @@ void cDeclarante::RecorrerExportar(quint8 orden,
     // the rows of another order than the table's lie anywhere in it
     conexion->paginas(orden == 0 ? Conexion::Paginas::Usuales : Conexion::Paginas::Muchas);
     const auto vuelta = qScopeGuard([&] { conexion->paginas(Conexion::Paginas::Usuales); });
+    const LecturaUnica lectura(conexion);
     Sentencia sentencia(conexion, seleccionDeclarante(orderBy(orden)));
-    while (sentencia.fila() && visitar(registroListado(conexion, sentencia))) {}
+    qint64 leidas = 0;
+    for (; sentencia.fila(); ++leidas)
+        if (!visitar(registroListado(conexion, sentencia)))
+            return;
+    exigirTodas(conexion, probadaDeclarantes(), leidas);
 }
 
 void cDeclarante::RecorrerLista(const std::function<bool(const Registro &)> &visitar)
@@ -188,16 +195,20 @@ void cDeclarante::RecorrerLista(const std::function<bool(const Registro &)> &vis
     const PConexion conexion = Conexion::datos(m_datos);
     static const std::string sql = "SELECT CSCO, DNI, NOMBRE, NOMMUN, CODPROV, NUM430, NUM480, "
         + probadaDeclarantes().bien() + " FROM DECLARANTES";
+    const LecturaUnica lectura(conexion);
     Sentencia fila(conexion, sql);
     Registro registro(Total);
-    for (bool seguir = true; seguir && fila.fila();) {
+    qint64 leidas = 0;
+    for (; fila.fila(); ++leidas) {
         for (int columna = 0; const Campo texto : {DNI, NOMBRE, NOMMUN})
             registro[texto] = fila.texto(++columna);
         for (int columna = 3; const Campo numero : {CODPROV, NUM430, NUM480})
             registro[numero] = fila.clave(++columna);
         registro[CSCO] = fila.clave(0);
-        seguir = visitar(filaBien(fila) ? registro : registroDanado(conexion, fila.clave(0)));
+        if (!visitar(filaBien(fila) ? registro : registroDanado(conexion, fila.clave(0))))
+            return;
     }
+    exigirTodas(conexion, probadaDeclarantes(), leidas);
 }
 
 void cDeclarante::ObtenerUltimosDeclarantes(Filas &filas)
