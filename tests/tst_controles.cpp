@@ -15,7 +15,8 @@
 #include <QTest>
 
 /// What every control of every screen says, in both languages and in the order of Tab: its text,
-/// its tip, what screen readers are told, the titles of its columns.
+/// its tip, what screen readers are told, the titles of its columns; and the button to leave
+/// leaves.
 class TstControles : public QObject
 {
     Q_OBJECT
@@ -80,7 +81,13 @@ private:
         const QString dicho = u"\n== %1\n"_s.arg(pantalla->objectName()) + lo(*pantalla);
         Entorno::pasarAEuskera(*pantalla);
         QTest::qWait(1);
-        return dicho + lo(*pantalla);
+        const QString ambos = dicho + lo(*pantalla);
+        for (const char *salida : {"cmdCancelar", "btnCancelar", "cmdCerrar"})
+            if (auto *boton = pantalla->findChild<QWidget *>(QString::fromLatin1(salida))) {
+                QTest::mouseClick(boton, Qt::LeftButton);
+                [&] { QVERIFY2(!pantalla->isVisible(), qPrintable(pantalla->objectName())); }();
+            }
+        return ambos;
     }
 
     static QString lo(QWidget &pantalla)

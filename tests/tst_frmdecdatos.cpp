@@ -182,22 +182,25 @@ private Q_SLOTS:
     /// Told once on leaving the box, and again when it is to be saved all the same.
     void dniRepetido()
     {
-        Formulario f;
-        Entorno::altaDeclarante();
-        const QString repetido = msj(Msj::ErrorAltaDniExiste);
-        f.manos->escribir("txtdni", u"12345678z"_s);
-        f.mensajes.responder(QMessageBox::Ok);
-        f.manos->tecla(Qt::Key_Tab);
-        QCOMPARE(f.mensajes.texto(), repetido);
-        QTRY_COMPARE(f.manos->foco(), u"txtdni"_s);
-        QApplication::setActiveWindow(f.pantalla.get());
-        f.rellenar();
-        f.responderYPulsar(QMessageBox::Ok, "cmdAceptar");
-        QCOMPARE(f.mensajes.texto(), repetido);
-        QCOMPARE(registro().CSCO(), 0);
-        f.manos->escribir("txtdni", u"00000001R"_s);
-        f.manos->pulsar("cmdAceptar");
-        QVERIFY(registro().ObtenerCodigoDeclarante(u"00000001R"_s) > 0);
+        for (const auto &[guardado, repetido] :
+             {std::pair{false, Msj::ErrorAltaDniExiste}, {true, Msj::ErrorCambioDniExiste}}) {
+            Formulario f(guardado);
+            Entorno::altaDeclarante(u"00000001R"_s);
+            f.manos->escribir("txtdni", u"00000001r"_s);
+            f.mensajes.responder(QMessageBox::Ok);
+            f.manos->tecla(Qt::Key_Tab);
+            QCOMPARE(f.mensajes.texto(), msj(repetido));
+            QTRY_COMPARE(f.manos->foco(), u"txtdni"_s);
+            QApplication::setActiveWindow(f.pantalla.get());
+            f.rellenar();
+            f.manos->escribir("txtdni", u"00000001r"_s);
+            f.responderYPulsar(QMessageBox::Ok, "cmdAceptar");
+            QCOMPARE(f.mensajes.texto(), msj(repetido));
+            QCOMPARE(registro().CSCO(), f.csco);
+            f.manos->escribir("txtdni", u"A58818501"_s);
+            f.manos->pulsar("cmdAceptar");
+            QVERIFY(registro().ObtenerCodigoDeclarante(u"A58818501"_s) > 0);
+        }
     }
 
     /// A save over what another copy of the program has stored meanwhile.

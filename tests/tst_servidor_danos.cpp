@@ -121,6 +121,18 @@ private Q_SLOTS:
         QCOMPARE(dichoPor([&] { m_servidor->comprobar(); }), QString());
     }
 
+    /// Five are named, and that there are others.
+    void muchas()
+    {
+        poblar(3);
+        cambiar("UPDATE DECLARACIONES SET IMPORTE = -1 WHERE CSDE < 6");
+        const QString cinco = u"D1 - N1: 430 2026-03; D1 - N1: 480 2026; D2 - ÑANDÚ: 430 2026-03; "
+                              "D2 - ÑANDÚ: 480 2026; D3 - N3: 430 2026-03"_s;
+        QCOMPARE(dichoPor([&] { m_servidor->comprobar(); }), cinco);
+        cambiar("UPDATE DECLARACIONES SET IMPORTE = -1");
+        QCOMPARE(dichoPor([&] { m_servidor->comprobar(); }), cinco + u"; …"_s);
+    }
+
     /// A file of the schema before keeps its rows, gets their values, and is then as a new one.
     void migracion()
     {

@@ -20,8 +20,9 @@ static QChar plegar(QChar c)
 {
     static const auto latinas = [] {
         std::array<QChar, TotalLatinas> tabla;
-        for (char16_t i = 0; i < TotalLatinas; ++i)
-            tabla[i] = mayusculaSinTilde(QChar(i));
+        char16_t latina = 0;
+        for (QChar &c : tabla)
+            c = mayusculaSinTilde(QChar(latina++));
         return tabla;
     }();
     return c.unicode() < TotalLatinas ? latinas[c.unicode()] : mayusculaSinTilde(c);
