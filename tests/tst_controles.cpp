@@ -93,11 +93,18 @@ private:
     static QString lo(QWidget &pantalla)
     {
         QStringList filas{pantalla.windowTitle()};
+        QSet<QKeySequence> teclas;
         for (auto *control = pantalla.nextInFocusChain(); control != &pantalla;
              control = control->nextInFocusChain())
             if ((!control->objectName().isEmpty() && !control->objectName().startsWith(u"qt_"))
-                || control->inherits("QLabel"))
+                || control->inherits("QLabel")) {
                 filas += fila(*control);
+                const auto tecla = QKeySequence::mnemonic(control->property("text").toString());
+                if (tecla.isEmpty() || !control->isVisible())
+                    continue;
+                [&] { QVERIFY2(!teclas.contains(tecla), qPrintable(filas.constLast())); }();
+                teclas += tecla;
+            }
         for (const auto *menu : pantalla.findChildren<QMenu *>())
             filas += fila(*menu);
         for (const auto *accion : pantalla.findChildren<QAction *>())
@@ -109,9 +116,10 @@ private:
     }
     static QString fila(const QWidget &control)
     {
-        QStringList partes{control.objectName(),
-                           (control.isEnabled() ? QString() : u"-"_s)
-                               + (control.isVisible() ? QString() : u"?"_s)};
+        QString estado = control.isEnabled() ? QString() : u"-"_s;
+        estado += control.isVisible() ? QString() : u"?"_s;
+        estado += control.focusPolicy() & Qt::TabFocus ? u"*"_s : QString();
+        QStringList partes{control.objectName(), estado};
         for (const char *propiedad : {"text", "title", "placeholderText", "toolTip",
                                       "accessibleName", "accessibleDescription"})
             partes += control.property(propiedad).toString();

@@ -50,7 +50,6 @@ private Q_SLOTS:
     void nuevaEnLosDosIdiomas()
     {
         Formulario f;
-        QCOMPARE(f.pantalla->windowTitle(), u"Declaración - Liquidación 430"_s);
         compararRetrato(
             *f.pantalla,
             u"12345678Z SEGUROS UNO Ejercicio (txtejer=2026) Período (txtper=01) ENERO\n"
@@ -63,7 +62,6 @@ private Q_SLOTS:
                  u"chkrect txtbrect txtcrect cmdAceptar cmdCancelar txtbliq"_s);
         f.manos->escribir("txtbliq", u"500"_s); // only typed yet
         Entorno::pasarAEuskera(*f.pantalla);
-        QCOMPARE(f.pantalla->windowTitle(), u"Aitorpen - Likidazioa 430"_s);
         compararRetrato(
             *f.pantalla,
             u"12345678Z SEGUROS UNO Ekitaldia (txtejer=2026) Zergaldia (txtper=01) URTARRILA\n"
@@ -71,7 +69,6 @@ private Q_SLOTS:
             "Likidazioa [txtbliq=500,00] (txttliq=8,00) (txtcliq=40,00)\n"
             "<Aurreko zergaldien zuzenketa>\nZuzenketa [txtbrect=] [txtcrect=]\n"
             "Guztira (txtbtot=500,00) (txtttot=8,00) (txtctot=40,00)\n<Ados> <Utzi>"_s);
-        QCOMPARE(f.manos->control("txtcrect")->accessibleName(), u"Zuzenketa: Kuota"_s);
     }
 
     void existenteSeMuestraYSeGuardaEntera()

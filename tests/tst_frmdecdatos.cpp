@@ -54,21 +54,6 @@ static cDecDatos &registro()
     return unico::la<cDecDatos>();
 }
 
-/// No two access keys alike, and a name on every box.
-static void accesosDistintos(const Formulario &f)
-{
-    QStringList letras;
-    for (const auto *hijo : f.pantalla->findChildren<QWidget *>()) {
-        if (hijo->inherits("QLineEdit"))
-            QVERIFY2(!hijo->accessibleName().isEmpty(), qPrintable(hijo->objectName()));
-        const auto clave = QKeySequence::mnemonic(hijo->property("text").toString());
-        if (!clave.isEmpty())
-            letras += clave.toString();
-    }
-    QVERIFY(letras.size() >= 12);
-    QCOMPARE(QSet<QString>(letras.begin(), letras.end()).size(), letras.size());
-}
-
 /// What a person sees of a box and does with it: its label, how much it takes, what is typed and
 /// what it shows then. Enter leads to the next.
 static const QStringList Renglones
@@ -371,24 +356,10 @@ private Q_SLOTS:
         f.manos->tecla(Qt::Key_Tab);
         QCOMPARE(f.manos->texto("txtnomprov"), u"VIZCAYA"_s);
         f.manos->escribir("txtnombre", u"a medias"_s);
-        accesosDistintos(f);
         Entorno::pasarAEuskera(*f.pantalla);
-        accesosDistintos(f);
-        QCOMPARE(f.pantalla->windowTitle(), u"Aitortzailearen datuak"_s);
         QCOMPARE(f.manos->textos("txtnomprov txtviaaux txtnombre"), u"BIZKAIA|KALEA|A MEDIAS"_s);
         QCOMPARE(f.lista("lstCodProv")->findItems(u"BIZKAIA"_s, Qt::MatchExactly).size(), 1);
         QVERIFY(f.lista("lstCodProv")->findItems(u"VIZCAYA"_s, Qt::MatchExactly).isEmpty());
-    }
-
-    void ordenDelTeclado()
-    {
-        Formulario f;
-        f.manos->control("txtdni")->setFocus();
-        QCOMPARE(
-            vueltaConTab(*f.pantalla),
-            u"txtdni txtnombre txtvia cmdVia txtdomicilio txtnumero txtletra txtescalera txtpiso "
-            "txtmano txtcodprov cmdProvincia txtcodpos txtcodmun cmdMunicipio txttelefono "
-            "cmdAceptar cmdCancelar"_s);
     }
 };
 

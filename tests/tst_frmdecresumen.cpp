@@ -83,7 +83,6 @@ private Q_SLOTS:
                         u"SEGUROS UNO\nDNI-CIF: 12345678Z\n"
                         "4 declaraciones seleccionadas <Nueva Declaración>\n<Datos>\n<Imprimir>\n"
                         "<Eliminar declaración>\n<Declarante>\n<Cerrar>"_s);
-        QCOMPARE(r.titulos(), u"Ejercicio|Período|Modelo|Importe"_s);
         QCOMPARE(r.fila(0), u"%1|2025|1|ENERO|430|1|0,00|1"_s.arg(r.claves[0]));
         QCOMPARE(r.fila(1), u"%1|2025|1|MARZO|430|1|9.876,54|3"_s.arg(clave));
         QCOMPARE(r.fila(3), u"%1|2025|2|ANUAL|480|2|0,00|12"_s.arg(r.claves[2]));

@@ -38,16 +38,6 @@ struct Opciones : PantallaAbierta<FrmImOf>
     static cImOf &peticion() { return unico::la<cImOf>(); }
     QString fecha() const { return manos->texto("txtFechaPresentacion"); }
     /// The captions of the whole screen.
-    QString rotulos() const
-    {
-        QStringList lista{pantalla->windowTitle()};
-        for (const char *grupo : {"frameTipoImpreso", "fraDestinatario", "fraFechaDePresentacion"})
-            lista += manos->control(grupo)->property("title").toString();
-        lista += manos->textos("optTipoImpreso0 optTipoImpreso1 chkCopiaInteresado "
-                               "chkCopiaAdministracion btnOpcionesImpresora btnAceptar "
-                               "btnCancelar");
-        return lista.join(u'|').remove(u'&');
-    }
 
     qint32 csde = 0;
 };
@@ -63,9 +53,6 @@ private Q_SLOTS:
     void alCargarYCambioDeIdioma()
     {
         Opciones o(u"430"_s);
-        QCOMPARE(o.rotulos(),
-                 u"Imprimir|Tipo de impreso|Destinatario|Fecha de presentación|Oficial|Borrador|"
-                 "Copia interesado|Copia administración|Opciones impresora|Aceptar|Cancelar"_s);
         QCOMPARE(o.fecha(), QDate::currentDate().toString(u"dd/MM/yyyy"_s));
         QCOMPARE(unico::la<cDatos430>().CSDE(), o.csde);
         // the request starts afresh
@@ -78,10 +65,6 @@ private Q_SLOTS:
             QCOMPARE(o.manos->texto("lblImpresora"), u"Impresora: ninguna"_s);
         o.manos->escribir("txtFechaPresentacion", u"29/02/2024"_s);
         Entorno::pasarAEuskera(*o.pantalla);
-        QCOMPARE(o.rotulos(),
-                 u"Inprimatu|Inprimaki mota|Hartzailea|Aurkezpen data|Ofiziala|Zirriborroa|"
-                 "Interesatuaren kopia|Administrazioaren kopia|Inprimagailuaren aukerak|Ados|"
-                 "Utzi"_s);
         QCOMPARE(o.fecha(), u"2024/02/29"_s);
         QVERIFY(o.manos->texto("lblDeclaracion").startsWith(u"430 URTARRILA 2026"_s));
         QCOMPARE(Opciones(u"430"_s, u"E"_s).fecha(),

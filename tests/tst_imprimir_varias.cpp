@@ -221,7 +221,6 @@ private Q_SLOTS:
             QTimer::singleShot(0, &dialogo,
                                [&dialogo] { static_cast<QDialog &>(dialogo).accept(); });
         });
-        QCOMPARE(p.titulos(), u"DNI|Razón social|Declaración|Resultado|Fichero|Motivo"_s);
         QCOMPARE(p.manos->texto("lblResumen"), u"Declaraciones que se imprimirán: 4"_s);
         p.manos->control("optTipoImpreso0")->setFocus();
         for (const char *siguiente :

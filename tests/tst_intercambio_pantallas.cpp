@@ -74,14 +74,9 @@ private Q_SLOTS:
     void listas()
     {
         Exportar e;
-        QCOMPARE(e.pantalla->windowTitle(), u"Exportar declarante"_s);
-        QCOMPARE(
-            e.manos->textos("lblTitulo lblayuda"),
-            u"Exportar declarante|Seleccione en la lista inferior los DNI que desea exportar"_s);
         QCOMPARE(e.nombres(), u"CBA|"_s);
         QCOMPARE(e.vacio("flxContriExp"), u"Todavía no se ha elegido ningún declarante."_s);
         const auto *modelo = e.grid("flxContri")->model();
-        QCOMPARE(modelo->headerData(0, Qt::Horizontal).toString(), u"NºCon."_s);
         QCOMPARE(modelo->index(0, 1).data().toString(), lineas::dni(1));
         QVERIFY(!e.manos->control("cmdExportar")->isEnabled());
         e.grid("flxContri")->setFocus();
@@ -116,7 +111,6 @@ private Q_SLOTS:
         QTest::keyClick(e.grid("flxContri"), Qt::Key_Escape);
         QCOMPARE(e.nombres(), u"AB|C"_s);
         Entorno::pasarAEuskera(*e.pantalla);
-        QCOMPARE(e.pantalla->windowTitle(), u"Esportatu aitortzaileak"_s);
         QCOMPARE(e.manos->textos("lblResultado1 lblresultado2"),
                  u"2 aitortzaile hautatu d(ir)a|1 aitortzaile hautatu dira esportatzeko"_s);
         e.abrir(); // begins afresh
@@ -218,8 +212,6 @@ private Q_SLOTS:
             i.manos->pulsar("chkauto");
         }
         Entorno::pasarAEuskera(*i.pantalla);
-        QCOMPARE(i.pantalla->windowTitle(), u"Inportatu aitortzaileak"_s);
-        QCOMPARE(i.manos->texto("chkauto").remove(u'&'), u"Automatikoa"_s);
         i.mensajes.responder(QMessageBox::NoToAll);
         i.responderYPulsar(QMessageBox::Ok, "cmdImportar");
         QCOMPARE(i.mensajes.tomar().value(0).texto,

@@ -108,19 +108,6 @@ private Q_SLOTS:
         m_entorno.reset();
     }
 
-    void textosEnEuskera()
-    {
-        enEuskera();
-        QStringList textos{m_ventana->windowTitle(), accion("salir")->toolTip()};
-        for (const auto *una : m_ventana->findChildren<QAction *>()) {
-            if (!una->text().isEmpty())
-                textos += una->text();
-        }
-        QCOMPARE(
-            textos.join(u'|'),
-            u"Aseguruen Ostrel|Irten aplikaziotik|&Aitortzailea|Aitortzaile &berria|&Ireki aitortzailea|&Deuseztatu aitortzailea|I&rten|A&ukerak|Aurkezteko &dauden aitorpenak|Ai&torpenak inportatu|&Esportatu aitortzaileak|&Inportatu aitortzaileak|Segurtasun kopia sortu|Segurtasun kopia leheneratu|Lehentasunak|&Laguntza|&Edukia eta aurkibidea|On-line laguntza|Deskripzioa|&Honi buruz...|Tresna-barra|Aitortzaile berria|Ireki aitortzailea|Deuseztatu aitortzailea|Aurkezteko dauden aitorpenak|Laguntza|Irten aplikaziotik"_s);
-    }
-
     void cadaPantallaEnLosDosIdiomas()
     {
         static constexpr const char *entradas[][2] = {{"mnuDeclarante", "mnuAbrirDeclarante"},
@@ -271,18 +258,6 @@ private Q_SLOTS:
         QTRY_COMPARE(m_ventana->findChildren<PantallaBase *>().size(), 1);
         QCOMPARE(unico::la<cDecResumen>().DNI(), u"12345678Z"_s);
         QCOMPARE(Manos(*pantalla("FrmDecResumen")).texto("lblnombre"), u"GOMEZ & HIJOS"_s);
-    }
-
-    void acercaDe()
-    {
-        elegir("mnuAyuda", "mnuacerca");
-        const QPointer<QWidget> acerca = m_ventana->findChild<QWidget *>(u"frmAbout"_s);
-        QVERIFY(acerca && acerca->isVisible());
-        const Manos manos(*acerca);
-        QCOMPARE(manos.texto("lblVersion"), u"Versión 1.2.3"_s);
-        QCOMPARE(manos.texto("lblTitulo"), u"Ostrel de Seguros"_s);
-        manos.tecla(Qt::Key_Return);
-        QTRY_VERIFY(!acerca);
     }
 
     void cerrarNoVuelveAMostrarNinguna()

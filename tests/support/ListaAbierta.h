@@ -22,15 +22,6 @@ template <class T> struct ListaAbierta : PantallaAbierta<T>
             celdas += celda(numero, i);
         return celdas.join(u'|');
     }
-    /// The headings of the columns that are seen.
-    QString titulos() const
-    {
-        QStringList textos;
-        for (int i = 0; i < grid()->model()->columnCount(); ++i)
-            if (!grid()->isColumnHidden(i))
-                textos += grid()->model()->headerData(i, Qt::Horizontal, 0).toString();
-        return textos.join(u'|');
-    }
     QPoint lugar(int fila) const
     {
         return grid()->visualRect(grid()->model()->index(fila, 1)).center();
