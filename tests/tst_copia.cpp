@@ -262,8 +262,9 @@ private Q_SLOTS:
         ConductorMensajes mensajes;
         mensajes.responder(QMessageBox::Ok);
         QVERIFY(!servicioCopia(false)->CrearBackupDelDia());
-        QCOMPARE(mensajes.texto().section(u'.', 0, 0),
-                 u"No se ha podido hacer la copia de seguridad automática"_s);
+        QCOMPARE(mensajes.ficha().section(u'.', 0, 0),
+                 u"Warning|Crear copia de seguridad|No se ha podido hacer la copia de seguridad "
+                 "automática"_s);
     }
 
 private:

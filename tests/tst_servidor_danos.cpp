@@ -226,6 +226,20 @@ private Q_SLOTS:
         }
     }
 
+    /// The first write looks at what it has nothing to do with, too.
+    void primeraEscritura()
+    {
+        poblar(1);
+        QByteArray malo = bytes(ruta());
+        const int pagina
+            = otro().execAndGet("SELECT rootpage FROM sqlite_schema WHERE name = 'DATOS480'");
+        malo[(pagina - 1) * 4096] = 0x55;
+        Conexion::olvidar(ruta());
+        escribir(ruta(), malo);
+        QCOMPARE(falloDe([&] { m_servidor->alta(dni(2), u"N"_s); }), Fallo::Danada);
+        QCOMPARE(bytes(ruta()), malo);
+    }
+
     /// OSTREL_BITS=1000 for the long run.
     void unBit()
     {

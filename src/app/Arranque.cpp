@@ -103,9 +103,9 @@ void Arranque::mostrarInicio()
 static QString motivoSinVentana(int argc, char **argv)
 {
     QString plataforma = qEnvironmentVariable("QT_QPA_PLATFORM");
-    for (int i = 1; i + 1 < argc; ++i)
-        if (qstrcmp(argv[i], "-platform") == 0)
-            plataforma = QString::fromLocal8Bit(argv[i + 1]);
+    for (int i = 1; i < argc; ++i)
+        if (qstrcmp(argv[i - 1], "-platform") == 0)
+            plataforma = QString::fromLocal8Bit(argv[i]);
     leerIdiomaGuardado();
     return plataforma.isEmpty() ? msj(Msj::SinPantalla)
                                 : msj(Msj::PlataformaDesconocida, plataforma);

@@ -22,7 +22,8 @@ struct FilaDeclaraciones
     };
 
     qint64 linea = 0; ///< of the file, its heading being 1
-    QStringList campos; ///< as they stand in the file
+    QByteArray texto; ///< as it stands in the file
+    QStringList campos; ///< of it, until its return has been computed
     QString dni;
     CabeceraListada cabecera;
     double importe = 0; ///< cents, as computed
