@@ -1,6 +1,7 @@
 #include "printing/Lienzo.h"
 #include "printing/Listado.h"
 #include "printing/cImOf.h"
+#include "support/LineasPrueba.h"
 #include "support/ValoresPrueba.h"
 
 #include <QPainter>
@@ -46,12 +47,34 @@ private:
                 continue;
             ++valores;
             const bool enCaja = std::ranges::any_of(g.recuadros, [&](const auto &r) {
-                return r.blanco && r.caja.contains(hecho.caja) && r.caja.height() < 10;
+                return r.relleno == u"#ffffff" && r.caja.contains(hecho.caja)
+                    && r.caja.height() < 10;
             });
             QVERIFY2(enCaja, qPrintable(hecho.texto));
         }
         QCOMPARE(g.textos.size(), esperados.size());
         QCOMPARE(valores, hayValores);
+    }
+
+    static qint64 decimas(double mm) { return std::lround(mm * 10); }
+
+    /// Every box and shade, in tenths of a millimetre.
+    static void probarTrazos(const QString &modelo)
+    {
+        GrabadorDibujo g;
+        grabar(g, modelo, CopiaAdministracion.toString());
+        QByteArray trazos;
+        for (const auto &[caja, relleno] : std::as_const(g.recuadros))
+            trazos += u"%1 %2 %3 %4 %5\n"_s.arg(decimas(caja.left()))
+                          .arg(decimas(caja.top()))
+                          .arg(decimas(caja.width()))
+                          .arg(decimas(caja.height()))
+                          .arg(relleno)
+                          .toUtf8();
+        const QString ruta = QStringLiteral(OSTREL_REFERENCIAS "/%1-trazos.txt").arg(modelo);
+        if (qEnvironmentVariableIsSet("OSTREL_NUEVAS_REFERENCIAS"))
+            lineas::escribir(ruta, trazos);
+        QCOMPARE(trazos.split('\n'), lineas::leer(ruta).split('\n'));
     }
 
 private Q_SLOTS:
@@ -61,6 +84,8 @@ private Q_SLOTS:
     {
         probarPagina(u"430"_s, 11 + 4 + 1 + 5);
         probarPagina(u"480"_s, 9 + 2 + 1 + 72 + 9 + 2);
+        probarTrazos(u"430"_s);
+        probarTrazos(u"480"_s);
     }
 
     void marcas()

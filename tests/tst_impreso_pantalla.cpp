@@ -180,7 +180,7 @@ private Q_SLOTS:
             if (unoSolo)
                 QVERIFY(lineas::leer(carpeta.filePath(u"x_AD-IT.pdf"_s)).contains("/Count 2"));
             const QString dicho = o.mensajes.ficha();
-            QVERIFY(dicho.startsWith(u"Information|"));
+            QVERIFY(dicho.startsWith(u"Information|Guardar como PDF|"));
             QVERIFY(dicho.contains(unoSolo ? u"x_AD-IT.pdf"_s : u"x_IT.pdf"_s));
             QVERIFY(!o.pantalla->isVisible());
             QCOMPARE(o.siguiente, Pantalla::Resumen);

@@ -1,3 +1,5 @@
+#include "core/Unico.h"
+#include "printing/cImOf.h"
 #include "support/LineasPrueba.h"
 #include "support/Ostrel.h"
 
@@ -240,6 +242,8 @@ private Q_SLOTS:
         };
         comprobar("--modelo 430 --periodo 2", "250,00 20,00 LA_ADMINISTRACIÓN EL_INTERESADO",
                   "100,00 BORRADOR");
+        QCOMPARE(unico::la<cImOf>().FECHAPRE(),
+                 QDate::currentDate().toString(u"yyyyMMdd"_s).toInt());
         comprobar("--modelo 430 --periodo 1 --copias adm", "100,00 LA_ADMINISTRACIÓN",
                   "EL_INTERESADO BORRADOR");
         comprobar("--modelo 430 --periodo 1 --copias int", "EL_INTERESADO",

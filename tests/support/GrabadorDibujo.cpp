@@ -31,7 +31,7 @@ public:
     void drawPath(const QPainterPath &camino) override
     {
         m_dueno.recuadros += {m_transformacion.mapRect(camino.boundingRect()),
-                              m_brocha == QBrush(Qt::white, Qt::SolidPattern)};
+                              m_brocha == Qt::NoBrush ? QString() : m_brocha.color().name()};
     }
     void drawTextItem(const QPointF &base, const QTextItem &item) override
     {

@@ -20,7 +20,7 @@ public:
     struct Recuadro
     {
         QRectF caja;
-        bool blanco = false; ///< filled with white
+        QString relleno; ///< "#rrggbb"; empty when it has none
     };
 
     GrabadorDibujo();
