@@ -1,9 +1,12 @@
+#include "app/DialogosVentana.h"
 #include "app/Estilo.h"
 #include "app/MDIOstrel.h"
 #include "declarants/cDecLista.h"
+#include "server/Servidor.h"
 #include "support/ConductorMensajes.h"
 #include "support/Entorno.h"
 #include "support/Manos.h"
+#include "widgets/Navegador.h"
 #include "widgets/PantallaBase.h"
 
 #include <QMdiArea>
@@ -258,6 +261,32 @@ private Q_SLOTS:
         QTRY_COMPARE(m_ventana->findChildren<PantallaBase *>().size(), 1);
         QCOMPARE(unico::la<cDecResumen>().DNI(), u"12345678Z"_s);
         QCOMPARE(Manos(*pantalla("FrmDecResumen")).texto("lblnombre"), u"GOMEZ & HIJOS"_s);
+    }
+
+    void asistencia()
+    {
+        DialogosVentana dialogos;
+        registrarServidor(&dialogos);
+        QList<QUrl> abiertas;
+        for (const bool hayNavegador : {true, false}) {
+            navegador::sustituir([&](const QUrl &url) {
+                abiertas += url;
+                return hayNavegador;
+            });
+            if (!hayNavegador)
+                m_mensajes->responder(QMessageBox::Ok);
+            elegir("mnuAyuda", "mnuAsistenciaOnline");
+        }
+        navegador::sustituir({});
+        QCOMPARE(m_mensajes->ficha(),
+                 u"Warning|Navegador no encontrado|No se ha encontrado el navegador|Ok"_s);
+        QVERIFY(abiertas.size() == 2 && abiertas[0].host() == u"www.varlenda.example");
+        m_mensajes->responder(QMessageBox::Ok);
+        elegir("mnuAyuda", "mnuDescripAsisOnline");
+        QCOMPARE(m_mensajes->ficha(),
+                 u"Information|Descripción del servicio|La asistencia on-line está en la dirección "
+                 "%1 y se abre con el navegador. El programa no envía ningún dato suyo.|Ok"_s.arg(
+                     abiertas[0].toString()));
     }
 
     void cerrarNoVuelveAMostrarNinguna()

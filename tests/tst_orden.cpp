@@ -453,6 +453,9 @@ private Q_SLOTS:
         rechazar(partes("imprimir --todas --ejercicio 2026 --modelo 430 --periodo 1 --pdf .")
                      .replaceInStrings(u"."_s, carpeta),
                  "430 2026-01»" + dicho);
+        lineas::escribir(carpeta + u"/hoja.csv"_s,
+                         "DNI;EJERCICIO;PERIODO;BASE\nA58818501;2026;3;1\n");
+        rechazar({u"declarar"_s, u"--desde"_s, carpeta + u"/hoja.csv"_s}, "«A58818501»" + dicho);
         rechazar(partes("copia"),
                  "«A58818501; 12345678Z - SEGUROS ÑANDÚ: 430 2026-02; 12345678Z - "
                  "SEGUROS ÑANDÚ: 430 2026-01»"
