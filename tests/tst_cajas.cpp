@@ -86,6 +86,11 @@ private Q_SLOTS:
         QTest::keyClick(m_pantalla->importe, Qt::Key_Delete);
         QTest::keyClick(m_pantalla->importe, Qt::Key_Tab);
         QCOMPARE(m_pantalla->importe->text(), u"999.999.999.999,99"_s);
+        // and one more like those around it
+        m_pantalla->texto->mostrar(u"AA"_s);
+        m_pantalla->texto->setCursorPosition(1);
+        QTest::keyClicks(m_pantalla->texto, u"a"_s);
+        QCOMPARE(m_pantalla->texto->text(), u"AAA"_s);
     }
 
     void importesIlegibles()

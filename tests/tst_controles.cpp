@@ -39,7 +39,7 @@ private Q_SLOTS:
                 pantalla.replace(
                     QString::number(cPendientes::UltimaTerminada(QDate::currentDate()).ejercicio),
                     u"AAAA"_s);
-            dicho += pantalla.toUtf8();
+            dicho += pantalla.toUtf8() + "frame " + QByteArray::number(datos.marco) + '\n';
         }
         for (const auto &crear :
              {nueva<FrmIdioma>, nueva<FrmVersionCheck>, nueva<FrmSinConexion>, nueva<MDIOstrel>})

@@ -99,6 +99,10 @@ private Q_SLOTS:
         QCOMPARE(cabecera().CSDE(), clave);
         QCOMPARE(r.grid()->currentIndex().row(), 1);
         QVERIFY(r.manos->control("cmdDatos")->isEnabled());
+        cabecera().ENTRADA(u"P"_s);
+        cabecera().CSDE(r.claves[0]);
+        r.abrir();
+        QCOMPARE(r.grid()->currentIndex().row(), 0);
         r.manos->pulsar("cmdDeclarante");
         QCOMPARE(r.siguiente, Pantalla::DatosDeclarante);
         const auto &datos = unico::la<cDecDatos>();
