@@ -132,12 +132,6 @@ private Q_SLOTS:
         QCOMPARE(filas("flxPendientes", "FrmPendientes", {1, 2}),
                  u"ÁLVAREZ|Aurkezteke\nMEDIA|Aurreko hil bat falta da\n"
                  "ZETA|Aurreko hil bat falta da"_s);
-        compararRetrato(
-            *pantalla("FrmPendientes"),
-            u"&Ekitaldia [txtejer=2026] &Zergaldia [=URTEKOA] E&rakutsi [=GUZTIAK]\n"
-            "3 aitortzaile: 0 gordeta, 3 aurkezteke Erakutsitakoen batura: 0,00\n"
-            "Idatzi zerrendan izenaren edo NAren arabera bilatzeko.\n"
-            "<Datuak> <Txantiloia…> <Orria inportatu…> -<Gordetakoak inprimatu…> <Itxi>"_s);
     }
 
     /// The summary begins with the return looked at; back, the row is still chosen and tells what

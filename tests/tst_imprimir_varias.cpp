@@ -222,13 +222,6 @@ private Q_SLOTS:
                                [&dialogo] { static_cast<QDialog &>(dialogo).accept(); });
         });
         QCOMPARE(p.manos->texto("lblResumen"), u"Declaraciones que se imprimirán: 4"_s);
-        p.manos->control("optTipoImpreso0")->setFocus();
-        for (const char *siguiente :
-             {"chkCopiaInteresado", "chkCopiaAdministracion", "txtFechaPresentacion", "optDestino0",
-              "cmdCarpeta", "flxVarias", "cmdImprimir", "cmdCancelar"}) {
-            p.manos->tecla(Qt::Key_Tab);
-            QCOMPARE(p.manos->foco(), QString::fromLatin1(siguiente));
-        }
         p.manos->pulsar("cmdCarpeta");
         QCOMPARE(p.manos->texto("lblCarpeta"), u"Carpeta: "_s + m_destino->path());
         p.manos->pulsar("chkCopiaInteresado");

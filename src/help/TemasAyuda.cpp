@@ -18,12 +18,12 @@ namespace ayuda {
 
 static QString ruta(const QString &nombre)
 {
+    cargarRecursos();
     return u":/ayuda/"_s + elegir(u"c/"_s, u"e/"_s) + nombre;
 }
 
 static QString leer(const QString &nombre)
 {
-    cargarRecursos();
     QFile fichero(ruta(nombre));
     return fichero.open(QIODevice::ReadOnly) ? QString::fromUtf8(fichero.readAll()) : QString();
 }
@@ -53,7 +53,6 @@ QString portada()
 
 QString direccion(const QString &nombre)
 {
-    cargarRecursos();
     return u"qrc"_s + ruta(QFile::exists(ruta(nombre)) ? nombre : portada());
 }
 
@@ -105,7 +104,6 @@ QList<Entrada> buscar(const QString &palabras)
 
 QString temaDePantalla(const QString &pantalla)
 {
-    cargarRecursos();
     const QString nombre = pantalla.toLower() + u".htm"_s;
     return !pantalla.isEmpty() && QFile::exists(ruta(nombre)) ? nombre : QString();
 }
