@@ -1,3 +1,4 @@
+#include "app/Estilo.h"
 #include "app/MDIOstrel.h"
 #include "app/Pantallas.h"
 #include "campaign/cPendientes.h"
@@ -26,6 +27,7 @@ private Q_SLOTS:
     {
         QCoreApplication::setApplicationVersion(u"1.2.3"_s);
         const Entorno entorno;
+        aplicarEstilo();
         qputenv("HOME", entorno.ruta(u"."_s).toUtf8());
         qputenv("CUPS_SERVER", "/no"); // the same without printers as with some
         const qint32 csco = Entorno::altaDeclarante();
@@ -82,6 +84,8 @@ private:
         Entorno::pasarAEuskera(*pantalla);
         QTest::qWait(1);
         const QString ambos = dicho + lo(*pantalla);
+        const QImage pintada = pantalla->grab().toImage();
+        [&] { QVERIFY(pintada != QImage(pintada.size(), pintada.format())); }();
         for (const char *salida : {"cmdCancelar", "btnCancelar", "cmdCerrar"})
             if (auto *boton = pantalla->findChild<QWidget *>(QString::fromLatin1(salida))) {
                 QTest::mouseClick(boton, Qt::LeftButton);
@@ -134,7 +138,7 @@ private:
     {
         while (!partes.isEmpty() && partes.constLast().isEmpty())
             partes.removeLast();
-        return partes.join(u'|').replace(u'\n', u'¶');
+        return partes.join(u'|').replace(u'\n', u' ');
     }
 };
 

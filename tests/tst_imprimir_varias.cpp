@@ -250,6 +250,18 @@ private Q_SLOTS:
             p.manos->pulsar(destino);
             QCOMPARE(p.manos->textos(suyos, "enabled"), usables);
         }
+        // all in one, chosen in the dialogue; a printer only where there is one
+        const QString uno = m_destino->filePath(u"uno.pdf"_s);
+        ficheros::observar([&](QFileDialog &dialogo) {
+            dialogo.selectFile(uno);
+            QTimer::singleShot(0, &dialogo,
+                               [&dialogo] { static_cast<QDialog &>(dialogo).accept(); });
+        });
+        p.manos->pulsar("chkCopiaAdministracion");
+        p.manos->pulsar("optDestino1");
+        p.manos->pulsar("cmdImprimir");
+        QCOMPARE(paginas(uno), 4);
+        QCOMPARE(p.manos->texto("lblResumen"), u"Inprimatuak: 4. Inprimatu gabeak: 0."_s);
     }
 
     /// The stored ones of those selected, or of all that are shown.

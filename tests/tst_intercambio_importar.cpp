@@ -139,6 +139,18 @@ private Q_SLOTS:
         cExportar e;
         e.CargarDeclarantes();
         e.MoverElementos(cExportar::Contri, {1, 2});
+        // by positions, as a person counts them; each goes back to its place
+        e.COPIARELEMENTOENTRETABLAS(cExportar::ContriExp, 2);
+        e.TablaContriExpBORRAR(2);
+        e.TablaContriExpBORRAR(9);
+        e.COPIARELEMENTOENTRETABLAS(cExportar::ContriExp, 1);
+        QCOMPARE(e.TablaContriELEMENTO(1).dni + e.TablaContriELEMENTO(2).dni,
+                 lineas::dni(1) + lineas::dni(2));
+        e.COPIARELEMENTOENTRETABLAS(cExportar::Contri, 2);
+        QCOMPARE(e.TablaContriExpELEMENTO(2).dni, lineas::dni(2));
+        QVERIFY(e.TablaContriExpPERTENECE(e.TablaContriELEMENTO(2).csco));
+        e.TablaContriCLEAR();
+        QCOMPARE(e.TablaContriCOUNT() + e.TablaContriExpCOUNT(), 2);
         auto raro = e.TablaContriExpELEMENTO(2);
         raro.csco = 99;
         raro.registro[RegDeclarante::NOMBRE] = u"Ω"_s;

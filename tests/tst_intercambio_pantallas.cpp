@@ -158,6 +158,17 @@ private Q_SLOTS:
         QCOMPARE(textos, u"Exportar a...|*.txt|*.*"_s);
         QCOMPARE(e.manos->texto("txtFichero"),
                  QDir::toNativeSeparators(e.entorno.ruta(u"Contri.txt"_s)));
+        Importar i(lineas::fichero(1, 2));
+        i.manos->escribir("txtFichero", QString());
+        for (const bool elegido : {true, false}) { // given up, it stays as it was
+            ficheros::observar([&](QFileDialog &dialogo) {
+                dialogo.selectFile(i.origen());
+                QTimer::singleShot(0, &dialogo, elegido ? &QDialog::accept : &QDialog::reject);
+            });
+            i.manos->pulsar("cmdFichero");
+            QCOMPARE(i.manos->texto("txtFichero"), QDir::toNativeSeparators(i.origen()));
+        }
+        ficheros::observar({});
     }
 
     void importarPreguntando()

@@ -359,7 +359,9 @@ private Q_SLOTS:
     {
         const auto caso
             = [this](const char *orden, const char *motivo) { rechazar(partes(orden), motivo, 2); };
-        caso("volar", "Orden desconocida: volar");
+        caso("volar",
+             "Orden desconocida: volar\nEscriba «ostrel --help» para ver las órdenes y sus "
+             "opciones.\n");
         caso("listar todo", "Orden desconocida: listar todo");
         caso("listar declarantes --color", "Opción desconocida: --color");
         caso("listar declarantes -x", "Opción desconocida: -x");

@@ -71,7 +71,9 @@ private Q_SLOTS:
         QVERIFY(objeto->ValidarDatosImportar(registro, 10000).isEmpty());
         registro[VIA] = u"##"_s;
         registro[CODMUN] = u"999"_s;
-        QCOMPARE(columna(objeto->ValidarDatosImportar(registro, 10000), 0).size(), 2);
+        QCOMPARE(columna(objeto->ValidarDatosImportar(registro, 10000), 0),
+                 (QVariantList{u"Ez dago horrelako bide motarik"_s,
+                               u"Ez dago horrelako udalerri koderik"_s}));
         registro[CODMUN] = u"001"_s;
         QCOMPARE(columna(objeto->ValidarDatosImportar(registro, 10000), 0),
                  QVariantList{u"Ez dago horrelako bide motarik"_s});

@@ -1,4 +1,5 @@
 #include "core/Textos.h"
+#include "dataservice/ErrorDatos.h"
 #include "resources/TablaMensajes.h"
 
 #include <QFile>
@@ -125,6 +126,28 @@ private Q_SLOTS:
         QCOMPARE(msj(Msj::RamoVida), u"Bizi aseguruak"_s);
         QCOMPARE(palabraPeriodicidad(PeriodicidadAnual), u"URTEKOA"_s);
         QCOMPARE(textoPeriodo(PeriodicidadMensual, 2), u"OTSAILA"_s);
+    }
+
+    /// Each failure by its own sentence.
+    void fallos()
+    {
+        using enum Msj;
+        const QList<Msj> debidos{FalloNoExiste,       FalloDanada,
+                                 FalloAjena,          FalloMasNueva,
+                                 FalloEnUso,          FalloSinEspacio,
+                                 FalloSoloLectura,    FalloLecturaEscritura,
+                                 FalloEnlaceRoto,     FalloLectura,
+                                 FalloIncompleta,     FalloRestriccion,
+                                 FalloTiposDeMas,     FalloSinDeclarante,
+                                 FalloSinDeclaracion, FalloNoEsFichero,
+                                 FalloEsElPropio,     AvisoTieneDeclaraciones,
+                                 FalloRegistroDanado};
+        for (int i = 0; i < debidos.size(); ++i) {
+            const bool deUnaFila
+                = debidos[i] == FalloSinDeclarante || debidos[i] == FalloSinDeclaracion;
+            QCOMPARE(textoFallo(ErrorDatos(Fallo(i), u"x"_s)),
+                     msj(debidos[i], deUnaFila ? u" «x»"_s : u"x"_s));
+        }
     }
 
     void meses()
