@@ -137,19 +137,23 @@ private Q_SLOTS:
 
     void filas480()
     {
-        QCOMPARE(leer("DNI,EJERCICIO,01,67,73,76,79,80\n"
-                      "12345678Z,2026,\"1.000,00\",500,1500,,5,-10.5\n"
-                      "A58818501,2026,1000,,1000,1,,\n"
-                      "A58818501,2025,1000,,900,,,\n"
-                      "A58818501,2024,x,,,,,\n"
-                      "A58818501,2021,600,400,1000,,,"),
-                 u"2 new 109,50 0,00 : \n"
-                 "3 refused 0,00 0,00 76: El ejercicio 2026 tiene un solo tipo impositivo: la "
-                 "casilla 76 no se rellena.\n"
-                 "4 refused 0,00 0,00 : La casilla Total No Exento debe ser igual a la suma de las "
-                 "bases imponibles\n"
-                 "5 refused 0,00 0,00 01: «x» no es un importe.\n"
-                 "6 new 80,00 0,00 : "_s);
+        QCOMPARE(
+            leer("DNI,EJERCICIO,01,67,73,76,79,80\n"
+                 "12345678Z,2026,\"1.000,00\",500,1500,,5,-10.5\n"
+                 "A58818501,2026,1000,,1000,1,,\n"
+                 "A58818501,2025,1000,,900,,,\n"
+                 "A58818501,2024,x,,,,,\n"
+                 "A58818501,2021,600,400,1000,,,\n"
+                 "A58818501,2020,9999999999999,9999999999999,1,,,"),
+            u"2 new 109,50 0,00 : \n"
+            "3 refused 0,00 0,00 76: El ejercicio 2026 tiene un solo tipo impositivo: la "
+            "casilla 76 no se rellena.\n"
+            "4 refused 0,00 0,00 : La casilla Total No Exento debe ser igual a la suma de las "
+            "bases imponibles\n"
+            "5 refused 0,00 0,00 01: «x» no es un importe.\n"
+            "6 new 80,00 0,00 : \n"
+            "7 refused 0,00 0,00 67: No se admite el cambio: el total «Totales» tendría más de 13 "
+            "cifras enteras."_s);
     }
 
     /// What was chosen is stored as if it had been typed; what the session had in hand stays.

@@ -322,7 +322,7 @@ private Q_SLOTS:
     /// Each month shows the totals of its return, rectification included.
     void listaDeMensuales()
     {
-        for (const int mes : {3, 1})
+        for (const int mes : {3, 12, 1})
             servicioDeclaracion()->Guardar430({0, m_csco, 2026, 1, mes, u"430"_s, 1, u"X"_s, 1.0,
                                                8.0F, 2.0, 3.0, 4.0, 10000.0 * mes, 8.0F,
                                                1001.0 * mes});
@@ -337,9 +337,9 @@ private Q_SLOTS:
         QVERIFY(lista->isVisible() && !manos().control("lblNo430")->isVisible());
         QCOMPARE(filas(),
                  u"ENERO 100,00 10,01|FEBRERO  |MARZO 300,00 30,03|ABRIL  |MAYO  |JUNIO  |"
-                 "JULIO  |AGOSTO  |SEPTIEMBRE  |OCTUBRE  |NOVIEMBRE  |DICIEMBRE  "_s);
+                 "JULIO  |AGOSTO  |SEPTIEMBRE  |OCTUBRE  |NOVIEMBRE  |DICIEMBRE 1.200,00 120,12"_s);
         QCOMPARE(manos().textos("lblTotales430 lblTotalBase lblTotalCuota"),
-                 u"Total|400,00|40,04"_s);
+                 u"Total|1.600,00|160,16"_s);
         QVERIFY(manos().control("picCuotas")->accessibleDescription().contains(u"MARZO: 30,03"_s));
         Entorno::pasarAEuskera(*m_pagina);
         QVERIFY(filas().startsWith(u"URTARRILA 100,00 10,01|OTSAILA"_s));

@@ -113,6 +113,12 @@ private Q_SLOTS:
         rechazado([&] { declarantes->GuardarDeclarante(registro); });
         rechazado([&] { declaraciones->Guardar430(ServidorPrueba::datos430(1, 2026, 3, 9.0, 1)); });
         rechazado([&] { declaraciones->Guardar480(ServidorPrueba::datos480(2, 2026, 4)); });
+        // of a set the others are stored
+        QCOMPARE(
+            declaraciones->GuardarConjunto({QVariant(ServidorPrueba::datos480(2, 2026, 4)),
+                                            QVariant(ServidorPrueba::datos430(2, 2026, 3, 9.0, 3))},
+                                           false),
+            (Registro{0, 3}));
         for (const auto &[csde, modelo] : {std::pair{1, u"430"_s}, {2, u"480"_s}, {4, u"480"_s}}) {
             declaraciones->BorrarDatosNoComunes(csde, modelo);
             declaraciones->BorrarDeclaracion(csde);

@@ -74,6 +74,12 @@ private Q_SLOTS:
         QCOMPARE(columna(objeto->ValidarDatosImportar(registro, 10000), 0),
                  (QVariantList{u"Ez dago horrelako bide motarik"_s,
                                u"Ez dago horrelako udalerri koderik"_s}));
+        registro[NUMERO] = u"100000"_s;
+        registro[CODPROV] = u"100"_s;
+        QVERIFY(columna(objeto->ValidarDatosImportar(registro, 0), 0)
+                    .contains(u"El número de la calle debe ser un número."_s));
+        registro[NUMERO] = u"1"_s;
+        registro[CODPROV] = u"20"_s;
         registro[CODMUN] = u"001"_s;
         QCOMPARE(columna(objeto->ValidarDatosImportar(registro, 10000), 0),
                  QVariantList{u"Ez dago horrelako bide motarik"_s});

@@ -276,6 +276,7 @@ TextosQt::TextosQt()
 
 QString TextosQt::translate(const char *, const char *texto, const char *, int) const
 {
-    const auto hallado = m_textos.constFind(QByteArray::fromRawData(texto, qstrlen(texto)));
+    const auto hallado = m_textos.constFind(
+        QByteArray::fromRawData(texto, static_cast<qsizetype>(qstrlen(texto))));
     return hallado == m_textos.constEnd() ? QString() : elegir(hallado->first, hallado->second);
 }

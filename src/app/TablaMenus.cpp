@@ -6,8 +6,6 @@ static constexpr DatosMenu TitulosMenu[] = {
     {"mnuAyuda", Msj::MenuAyuda},
 };
 
-static constexpr std::monostate Venidera;
-
 static constexpr EntradaMenu Entradas[] = {
     {0, "mnuNuevoDeclarante", Msj::MenuNuevoDeclarante, Msj::PistaMenuNuevoDeclarante, Icono::Nuevo,
      Mando::Nuevo, SinEdicion, "Ctrl+N"},

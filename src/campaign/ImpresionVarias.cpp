@@ -114,7 +114,7 @@ QString enFichero(cImprimirVarias &varias, const QString &ruta, const Seguir &se
         return pintor.isActive() && recorrer(varias, seguir, anadir) && !vacio && pintor.end();
     };
     const QString titulo = msj(Msj::TituloDocumentoVarias, QString::number(varias.filas().size()));
-    const QString motivo = guardarFichero(ruta, [&](QFileDevice &fichero) {
+    QString motivo = guardarFichero(ruta, [&](QFileDevice &fichero) {
         entero = escribirPdf(fichero, titulo,
                              [&](QPagedPaintDevice &d) { return dibujar(d, fichero); });
         return entero;

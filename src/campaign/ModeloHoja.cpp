@@ -88,7 +88,8 @@ static QVariant alineacion(int columna)
 {
     const bool cifras = columna == ModeloHoja::Importe || columna == ModeloHoja::Anterior
         || columna == ModeloHoja::Linea;
-    return QVariant::fromValue<int>((cifras ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    return QVariant::fromValue(Qt::Alignment(cifras ? Qt::AlignRight : Qt::AlignLeft)
+                               | Qt::AlignVCenter);
 }
 
 QVariant ModeloHoja::data(const QModelIndex &indice, int papel) const

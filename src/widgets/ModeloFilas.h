@@ -111,7 +111,7 @@ private:
     static size_t posicion(int numero) { return static_cast<size_t>(numero); }
     static QVariant alineacion(const ColumnaLista<Fila> &columna)
     {
-        return QVariant::fromValue<int>(columna.alineacion | Qt::AlignVCenter);
+        return QVariant::fromValue(columna.alineacion | Qt::AlignVCenter);
     }
 
     void presentarTodas()
