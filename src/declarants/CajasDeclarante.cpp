@@ -54,7 +54,7 @@ QString presentar(Cual caja, const cDecDatos &datos)
     if (!esCampo(caja))
         return {};
     const auto &campo = campos::definicion(tabla[caja].campo);
-    const QString guardado = campos::leer(campo.campo, datos);
+    QString guardado = campos::leer(campo.campo, datos);
     if (campo.clase == campos::Clase::Contador)
         return guardado == u"0" ? QString() : textoImporte(guardado.toDouble() * 100).chopped(3);
     if (campo.clase != campos::Clase::Numero && caja != CODMUN) // shown without its zeros

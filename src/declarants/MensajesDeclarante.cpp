@@ -47,7 +47,7 @@ QString textoCabecera(qint16 codigo)
 {
     if (codigo < qint16(ReglaCabecera::Ejercicio) || codigo > qint16(ReglaCabecera::Existe))
         return {};
-    const QString texto = msjDesde(Msj::ErrorEjercicioVacio, codigo - 1);
+    QString texto = msjDesde(Msj::ErrorEjercicioVacio, codigo - 1);
     if (codigo != qint16(ReglaCabecera::Fuera))
         return texto;
     const auto &entrada = unico::la<CEntrada>();

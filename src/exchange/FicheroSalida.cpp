@@ -13,7 +13,7 @@
 #include <io.h>
 #endif
 
-static constexpr qsizetype Bloque = 64 * 1024;
+static constexpr qsizetype Bloque = 65'536;
 
 static ErrorDatos errorDe(const QFile &fichero)
 {

@@ -54,7 +54,7 @@ static QString temaDe(const QWidget *desde)
         const auto *area = widget->isWindow() ? widget->findChild<QMdiArea *>() : nullptr;
         const auto *delante = area ? area->activeSubWindow() : nullptr;
         const auto *pantalla = delante && delante->widget() ? delante->widget() : widget;
-        const QString tema = ayuda::temaDePantalla(pantalla->objectName());
+        QString tema = ayuda::temaDePantalla(pantalla->objectName());
         if (!tema.isEmpty())
             return tema;
     }

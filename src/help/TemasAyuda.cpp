@@ -97,8 +97,9 @@ QList<Entrada> buscar(const QString &palabras)
         if (std::ranges::all_of(buscadas, esta))
             hallados.append({tema.titulo, tema.nombre});
     }
-    std::ranges::stable_partition(
-        hallados, [&](const Entrada &e) { return plegar(e.texto).contains(buscadas.first()); });
+    std::stable_partition(hallados.begin(), hallados.end(), [&](const Entrada &e) {
+        return plegar(e.texto).contains(buscadas.first());
+    });
     return hallados;
 }
 

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 // A plain socket: QNetworkAccessManager takes header lines without any bound, and once it is at
 // them it cannot be stopped for seconds.
 
-static constexpr qint64 BytesMaximos = 64 * 1024;
+static constexpr qint64 BytesMaximos = 65'536;
 static constexpr int RedireccionesMaximas = 3;
 
 namespace {

@@ -113,7 +113,7 @@ QByteArray documentoPdf(const QString &titulo, const DibujoPdf &dibujar)
 QString motivoRutasRechazadas(const QStringList &rutas)
 {
     for (const QString &ruta : rutas)
-        if (const QString rechazo = motivoRutaRechazada(ruta); !rechazo.isEmpty())
+        if (QString rechazo = motivoRutaRechazada(ruta); !rechazo.isEmpty())
             return rechazo;
     return {};
 }
@@ -134,7 +134,7 @@ QStringList rutasPdf(const QString &ruta, const QStringList &copias, bool unoSol
 
 QString guardarPdfs(TrabajoImpresion &trabajo, const QStringList &rutas)
 {
-    if (const QString rechazo = motivoRutasRechazadas(rutas); !rechazo.isEmpty())
+    if (QString rechazo = motivoRutasRechazadas(rutas); !rechazo.isEmpty())
         return rechazo;
     const QStringList copias = trabajo.copias();
     QList<QByteArray> documentos;
@@ -144,7 +144,7 @@ QString guardarPdfs(TrabajoImpresion &trabajo, const QStringList &rutas)
             return msj(Msj::PdfVacio);
     }
     for (qsizetype i = 0; i < rutas.size(); ++i)
-        if (const QString motivo = guardarFichero(rutas[i], documentos[i]); !motivo.isEmpty())
+        if (QString motivo = guardarFichero(rutas[i], documentos[i]); !motivo.isEmpty())
             return motivo;
     return {};
 }
