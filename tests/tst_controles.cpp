@@ -10,10 +10,14 @@
 #include "support/Entorno.h"
 #include "support/LineasPrueba.h"
 
-#include <QAbstractItemView>
 #include <QAction>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QMenu>
+#include <QShortcut>
+#include <QTableView>
 #include <QTest>
+#include <QTimer>
 
 /// What every control of every screen says, in both languages and in the order of Tab: its text,
 /// its tip, what screen readers are told, the titles of its columns; and the button to leave
@@ -71,7 +75,7 @@ private:
         unico::la<cDecDatos>().MODO(u"A"_s);
     }
 
-    template <class T> static QWidget *nueva() { return new T; }
+    template <class T> static QWidget *nueva() { return new T(nullptr); }
 
     static QString enLosDosIdiomas(const std::function<QWidget *()> &crear)
     {
@@ -110,13 +114,40 @@ private:
                 teclas += tecla;
             }
         for (const auto *menu : pantalla.findChildren<QMenu *>())
-            filas += fila(*menu);
+            if (!menu->objectName().isEmpty())
+                filas += fila(*menu) + entradas(*menu);
+        for (const auto *atajo : pantalla.findChildren<QShortcut *>())
+            filas += atajo->parent()->objectName() + u": "_s + atajo->key().toString();
+        for (auto *lista : pantalla.findChildren<QTableView *>())
+            filas += lista->objectName() + menuDe(*lista);
         for (const auto *accion : pantalla.findChildren<QAction *>())
             if (!accion->objectName().isEmpty())
                 filas += unidas({accion->objectName(), accion->isEnabled() ? QString() : u"-"_s,
                                  accion->text(), accion->toolTip(), accion->statusTip(),
                                  accion->shortcut().toString()});
         return filas.join(u'\n') + u'\n';
+    }
+    static QString entradas(const QMenu &menu)
+    {
+        QString textos;
+        for (const auto *accion : menu.actions())
+            textos += u'|' + (accion->isSeparator() ? u"--"_s : accion->text());
+        return textos;
+    }
+    /// What the right button offers.
+    static QString menuDe(QTableView &lista)
+    {
+        QString textos;
+        QTimer::singleShot(0, &lista, [&] {
+            if (auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget())) {
+                textos = entradas(*menu);
+                menu->close();
+            }
+        });
+        QContextMenuEvent evento(QContextMenuEvent::Mouse, {5, 5}, lista.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(lista.viewport(), &evento);
+        QCoreApplication::processEvents();
+        return textos;
     }
     static QString fila(const QWidget &control)
     {

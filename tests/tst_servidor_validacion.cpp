@@ -15,7 +15,7 @@ private Q_SLOTS:
             QVERIFY2(servidor::nifValido(bueno), bueno);
         for (const char *malo : {"", "12345678", "12345678A", "123456789", "1234567AZ", "12345678z",
                                  "A5881850A", "A58818502", "Q28260008", "I58818501", "Ñ58818501",
-                                 "12345678ZZ", "X123 567L", "-1234567L", "12A45678G"})
+                                 "12345678ZZ", "X123 567L", "-1234567L", "12A45678G", "12A45678N"})
             QVERIFY2(!servidor::nifValido(malo), malo);
     }
 
