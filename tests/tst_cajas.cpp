@@ -86,11 +86,14 @@ private Q_SLOTS:
         QTest::keyClick(m_pantalla->importe, Qt::Key_Delete);
         QTest::keyClick(m_pantalla->importe, Qt::Key_Tab);
         QCOMPARE(m_pantalla->importe->text(), u"999.999.999.999,99"_s);
-        // and one more like those around it
-        m_pantalla->texto->mostrar(u"AA"_s);
-        m_pantalla->texto->setCursorPosition(1);
-        QTest::keyClicks(m_pantalla->texto, u"a"_s);
-        QCOMPARE(m_pantalla->texto->text(), u"AAA"_s);
+        // and one like those around it, where there is room and where there is none
+        for (const auto &[antes, despues] :
+             {std::pair{u"AA"_s, u"AAA"_s}, {u"AAAAAA"_s, u"AAAAAA"_s}}) {
+            m_pantalla->texto->mostrar(antes);
+            m_pantalla->texto->setCursorPosition(1);
+            QTest::keyClicks(m_pantalla->texto, u"A"_s);
+            QCOMPARE(m_pantalla->texto->text(), despues);
+        }
     }
 
     void importesIlegibles()
