@@ -33,6 +33,10 @@ protected:
         case PdmPhysicalDpiX:
         case PdmPhysicalDpiY:
             return m_ppp;
+        case PdmDevicePixelRatio:
+            return 1;
+        case PdmDevicePixelRatioScaled:
+            return static_cast<int>(devicePixelRatioFScale());
         default:
             return QPaintDevice::metric(que);
         }
