@@ -210,12 +210,16 @@ void exigirTodas(const PConexion &conexion, const TablaProbada &tabla, qint64 le
     exigirJuntas(fila.entero(0) == leidas, conexion->ruta());
 }
 
+std::string cuadran()
+{
+    return "NUM430 + NUM480 = (SELECT count(*) FROM DECLARACIONES R INDEXED BY "
+           "sqlite_autoindex_DECLARACIONES_1 WHERE R.CSCO = D.CSCO)";
+}
+
 void exigirCuenta(const PConexion &conexion, qint32 CSCO)
 {
-    static const std::string sql
-        = "SELECT NUM430 + NUM480 = (SELECT count(*) FROM DECLARACIONES R INDEXED BY "
-          "sqlite_autoindex_DECLARACIONES_1 WHERE R.CSCO = D.CSCO), "
-        + probadaDeclarantes().bien() + " FROM DECLARANTES D WHERE CSCO = ?";
+    static const std::string sql = "SELECT " + cuadran() + ", " + probadaDeclarantes().bien()
+        + " FROM DECLARANTES D WHERE CSCO = ?";
     Sentencia fila(conexion, sql);
     if (fila.con(CSCO).fila() && filaBien(fila)) // a damaged declarant is told as such
         exigirJuntas(fila.entero(0) == 1, conexion->ruta());

@@ -51,5 +51,7 @@ void exigirTodas(const PConexion &conexion, const TablaProbada &tabla, qint64 le
 /// Throws Danada when the index of the returns leads to fewer, or more, than a declarant counts:
 /// for a list of them, or before one is said not to exist.
 void exigirCuenta(const PConexion &conexion, qint32 CSCO);
+/// SQL of the same for a row of DECLARANTES called D: 1 when it holds.
+std::string cuadran();
 
 } // namespace servidor

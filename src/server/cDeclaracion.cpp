@@ -144,21 +144,23 @@ Registro buscarDeclaracion(const PConexion &conexion, const Registro &buscada)
     const qint32 periodo = lector.entero(RegBuscada::PERIODO, 0, Periodo);
     const QString modelo = lector.texto(RegBuscada::MODELO);
     lector.exigirValido();
-    static const std::string sqlDeclarante
-        = "SELECT CSCO, " + probadaDeclarantes().bien() + " FROM DECLARANTES WHERE DNI = ?";
+    static const std::string sqlDeclarante = "SELECT CSCO, " + cuadran() + ", "
+        + probadaDeclarantes().bien() + " FROM DECLARANTES D WHERE DNI = ?";
     Sentencia declarante(conexion, sqlDeclarante);
     if (!declarante.con(dni).fila()) {
         conexion->comprobarDnis();
         return {0, 0, 0.0};
     }
     const qint32 csco = declarante.clave(0);
+    const bool cuentaBien = declarante.entero(1) == 1;
     if (!filaBien(declarante))
         return {csco, 0, QVariant()};
     static const std::string sql = "SELECT CSDE, IMPORTE, " + probadaDeclaraciones().bien()
         + " FROM DECLARACIONES WHERE CSCO = ? AND EJERCICIO = ? AND PERIODO = ? AND MODELO = ?";
     Sentencia sentencia(conexion, sql);
     if (!sentencia.con(csco, ejercicio, periodo, modelo).fila()) {
-        exigirCuenta(conexion, csco);
+        if (!cuentaBien)
+            exigirCuenta(conexion, csco);
         return {csco, 0, 0.0};
     }
     return {csco, sentencia.clave(0), importeDe(sentencia, 1)};
