@@ -203,7 +203,11 @@ private Q_SLOTS:
                   "\x03\x11\x01"
                   "D3\x02",
                   {[&] { m_servidor->declarantes()->ObtenerCodigoDeclarante(u"D2"_s); },
-                   [&] { buscar(u"D2"_s); }});
+                   [&] { buscar(u"D2"_s); },
+                   [&] {
+                       m_servidor->declarantes()->GuardarDeclarante(
+                           ServidorPrueba::registro(u"D2"_s, u"OTRO"_s));
+                   }});
         escondido(
             "\x02\x07\xEA\x0C"
             "480\x04",

@@ -116,6 +116,7 @@ Transaccion::Transaccion(PConexion conexion)
         m_conexion = Conexion::datos(m_conexion->ruta());
     }
     m_conexion->comprobarEntera();
+    m_conexion->comprobarDnis();
     Sentencia(m_conexion, "BEGIN IMMEDIATE").ejecutar();
 }
 

@@ -42,7 +42,8 @@ public:
     /// The same, and every row, as of one moment (Danados.h).
     void comprobarTodo();
     /// That no entry of the index of DNIs hides a declarant, unless that has been seen; throws
-    /// ErrorDatos. To be asked before one is said not to exist.
+    /// ErrorDatos. Asked before one is said not to exist, and before the first write: two of one
+    /// DNI.
     void comprobarDnis();
     /// Room for the pages of a work over the whole of a large database, or the usual one.
     enum class Paginas { Usuales, Muchas };

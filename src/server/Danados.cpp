@@ -201,13 +201,21 @@ void comprobarDnis(SQLite::Database &base, const QString &ruta)
     });
 }
 
-void exigirTodas(const PConexion &conexion, const TablaProbada &tabla, qint64 leidas)
+bool recorrerTodas(const PConexion &conexion, const TablaProbada &tabla, std::string_view sql,
+                   const std::function<bool(const Sentencia &)> &visitar)
 {
-    Sentencia fila(conexion,
-                   "SELECT count(*) FROM " + tabla.nombre + " INDEXED BY sqlite_autoindex_"
-                       + tabla.nombre + "_1");
-    fila.filaDebida();
-    exigirJuntas(fila.entero(0) == leidas, conexion->ruta());
+    const LecturaUnica lectura(conexion);
+    Sentencia fila(conexion, sql);
+    qint64 leidas = 0;
+    for (; fila.fila(); ++leidas)
+        if (!visitar(fila))
+            return false;
+    Sentencia entradas(conexion,
+                       "SELECT count(*) FROM " + tabla.nombre + " INDEXED BY sqlite_autoindex_"
+                           + tabla.nombre + "_1");
+    entradas.filaDebida();
+    exigirJuntas(entradas.entero(0) == leidas, conexion->ruta());
+    return true;
 }
 
 std::string cuadran()

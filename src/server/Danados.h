@@ -2,8 +2,12 @@
 
 #include "server/Conexion.h"
 #include "server/Prueba.h"
+#include "server/Sentencia.h"
 
 #include <QString>
+
+#include <functional>
+#include <string_view>
 
 namespace servidor {
 
@@ -44,9 +48,11 @@ void comprobarFilas(SQLite::Database &base, const QString &ruta);
 /// The same of the index of DNIs alone; throws Danada.
 void comprobarDnis(SQLite::Database &base, const QString &ruta);
 
-/// Throws Danada when a passage over a whole table (DECLARANTES or DECLARACIONES) came by another
-/// number of rows than its index has; in the same LecturaUnica.
-void exigirTodas(const PConexion &conexion, const TablaProbada &tabla, qint64 leidas);
+/// Every row of a whole table (DECLARANTES or DECLARACIONES), as of one moment, by a SELECT over it
+/// that has no condition; false when `visitar` ended it by returning false. Throws Danada when
+/// there were not as many rows as its index has.
+bool recorrerTodas(const PConexion &conexion, const TablaProbada &tabla, std::string_view sql,
+                   const std::function<bool(const Sentencia &)> &visitar);
 
 /// Throws Danada when the index of the returns leads to fewer, or more, than a declarant counts:
 /// for a list of them, or before one is said not to exist.

@@ -213,22 +213,20 @@ void leerEstados(const PConexion &conexion, const Pedida &pedida, Estados &estad
 {
     static const std::string sql = "SELECT CSDE, CSCO, EJERCICIO, PERIODO, MODELO, IMPORTE, "
         + probadaDeclaraciones().bien() + " FROM DECLARACIONES NOT INDEXED";
-    Sentencia fila(conexion, sql);
-    qint64 leidas = 0;
-    for (; fila.fila(); ++leidas) {
+    recorrerTodas(conexion, probadaDeclaraciones(), sql, [&](const Sentencia &fila) {
         const qint32 csde = fila.clave(0);
         if (filaBien(fila)) {
             contar(estados, pedida, csde,
                    {fila.clave(1), fila.clave(2), fila.clave(3), fila.texto(4)},
                    static_cast<double>(fila.entero(5)));
-            continue;
+            return true;
         }
         const auto segura = cabeceraSegura(conexion, csde);
         if (segura.modelo.isEmpty())
             declaracionDanada(conexion, csde);
         contar(estados, pedida, csde, segura, QVariant());
-    }
-    exigirTodas(conexion, probadaDeclaraciones(), leidas);
+        return true;
+    });
 }
 
 } // namespace
@@ -363,21 +361,14 @@ void cDeclaracion::RecorrerPendientes(qint16 ejercicio, const QString &modelo, q
     static const Estado ninguno;
     static const std::string sql = "SELECT CSCO, DNI, NOMBRE, " + probadaDeclarantes().bien()
         + " FROM DECLARANTES ORDER BY CLAVE, DNI";
-    Sentencia sentencia(conexion, sql);
-    qint64 leidas = 0;
-    for (; sentencia.fila(); ++leidas) {
-        if (!filaBien(sentencia)) {
-            if (!visitar(registroDanado(conexion, sentencia.clave(0))))
-                return;
-            continue;
-        }
-        const auto hallado = estados.find(sentencia.clave(0));
+    recorrerTodas(conexion, probadaDeclarantes(), sql, [&](const Sentencia &fila) {
+        if (!filaBien(fila))
+            return visitar(registroDanado(conexion, fila.clave(0)));
+        const auto hallado = estados.find(fila.clave(0));
         const Estado &e = hallado == estados.end() ? ninguno : hallado->second;
-        if (!visitar({sentencia.clave(0), sentencia.texto(1), sentencia.texto(2), e.csde, e.importe,
-                      e.primero, e.cuantos, e.anteriores}))
-            return;
-    }
-    exigirTodas(conexion, probadaDeclarantes(), leidas);
+        return visitar({fila.clave(0), fila.texto(1), fila.texto(2), e.csde, e.importe, e.primero,
+                        e.cuantos, e.anteriores});
+    });
 }
 
 void cDeclaracion::BorrarDatosNoComunes(qint32 CSDE, const QString &modelo)

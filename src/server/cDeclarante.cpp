@@ -131,28 +131,25 @@ qint32 cDeclarante::dameResultado(Filas &filas, quint8 orden, qint16 idioma)
 {
     const auto provincias = nombresProvincias(Conexion::lectura(m_lectura), idioma);
     const PConexion conexion = Conexion::datos(m_datos);
-    const LecturaUnica lectura(conexion);
     static const std::string sql
         = "SELECT CSCO, DNI, NOMBRE, NOMMUN, CODPROV, NUM430, NUM480, CLAVE, "
         + probadaDeclarantes().bien() + " FROM DECLARANTES";
-    Sentencia sentencia(conexion, sql);
     std::vector<std::pair<std::string, QVariant>> leidas;
-    while (sentencia.fila()) {
-        if (!filaBien(sentencia)) {
-            leidas.emplace_back(std::string(), registroDanado(conexion, sentencia.clave(0)));
-            continue;
+    recorrerTodas(conexion, probadaDeclarantes(), sql, [&](const Sentencia &fila) {
+        if (!filaBien(fila)) {
+            leidas.emplace_back(std::string(), registroDanado(conexion, fila.clave(0)));
+            return true;
         }
-        std::string clave = sentencia.texto(1).toStdString();
+        std::string clave = fila.texto(1).toStdString();
         if (orden == PorNombre)
-            clave.insert(0, sentencia.texto(7).toStdString() + '\0');
-        leidas.emplace_back(
-            std::move(clave),
-            QVariant(QVariantList{sentencia.clave(0), sentencia.texto(1), sentencia.texto(2),
-                                  sentencia.texto(3), provincias.value(sentencia.entero(4)),
-                                  static_cast<double>(sentencia.entero(5)),
-                                  static_cast<double>(sentencia.entero(6))}));
-    }
-    exigirTodas(conexion, probadaDeclarantes(), std::ssize(leidas));
+            clave.insert(0, fila.texto(7).toStdString() + '\0');
+        leidas.emplace_back(std::move(clave),
+                            QVariant(QVariantList{fila.clave(0), fila.texto(1), fila.texto(2),
+                                                  fila.texto(3), provincias.value(fila.entero(4)),
+                                                  static_cast<double>(fila.entero(5)),
+                                                  static_cast<double>(fila.entero(6))}));
+        return true;
+    });
     std::ranges::sort(leidas, {}, &std::pair<std::string, QVariant>::first);
     Filas ordenadas;
     ordenadas.reserve(static_cast<qsizetype>(leidas.size()));
@@ -180,13 +177,8 @@ void cDeclarante::RecorrerExportar(quint8 orden,
     // the rows of another order than the table's lie anywhere in it
     conexion->paginas(orden == 0 ? Conexion::Paginas::Usuales : Conexion::Paginas::Muchas);
     const auto vuelta = qScopeGuard([&] { conexion->paginas(Conexion::Paginas::Usuales); });
-    const LecturaUnica lectura(conexion);
-    Sentencia sentencia(conexion, seleccionDeclarante(orderBy(orden)));
-    qint64 leidas = 0;
-    for (; sentencia.fila(); ++leidas)
-        if (!visitar(registroListado(conexion, sentencia)))
-            return;
-    exigirTodas(conexion, probadaDeclarantes(), leidas);
+    recorrerTodas(conexion, probadaDeclarantes(), seleccionDeclarante(orderBy(orden)),
+                  [&](const Sentencia &fila) { return visitar(registroListado(conexion, fila)); });
 }
 
 void cDeclarante::RecorrerLista(const std::function<bool(const Registro &)> &visitar)
@@ -195,20 +187,17 @@ void cDeclarante::RecorrerLista(const std::function<bool(const Registro &)> &vis
     const PConexion conexion = Conexion::datos(m_datos);
     static const std::string sql = "SELECT CSCO, DNI, NOMBRE, NOMMUN, CODPROV, NUM430, NUM480, "
         + probadaDeclarantes().bien() + " FROM DECLARANTES";
-    const LecturaUnica lectura(conexion);
-    Sentencia fila(conexion, sql);
     Registro registro(Total);
-    qint64 leidas = 0;
-    for (; fila.fila(); ++leidas) {
+    recorrerTodas(conexion, probadaDeclarantes(), sql, [&](const Sentencia &fila) {
+        if (!filaBien(fila))
+            return visitar(registroDanado(conexion, fila.clave(0)));
         for (int columna = 0; const Campo texto : {DNI, NOMBRE, NOMMUN})
             registro[texto] = fila.texto(++columna);
         for (int columna = 3; const Campo numero : {CODPROV, NUM430, NUM480})
             registro[numero] = fila.clave(++columna);
         registro[CSCO] = fila.clave(0);
-        if (!visitar(filaBien(fila) ? registro : registroDanado(conexion, fila.clave(0))))
-            return;
-    }
-    exigirTodas(conexion, probadaDeclarantes(), leidas);
+        return visitar(registro);
+    });
 }
 
 void cDeclarante::ObtenerUltimosDeclarantes(Filas &filas)
