@@ -3,8 +3,9 @@
 version=$(sed -n 's/^project(ostrel VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 
 paso() { echo "== $*"; }
+al_fallar() { :; } # what else a failure does; whoever sources this may say it anew
 fallo() {
-    ! declare -F al_fallar >/dev/null || al_fallar || true
+    al_fallar || true
     echo "FAILED: $*" >&2
     exit 1
 }

@@ -15,7 +15,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <span>
 
 using namespace Qt::StringLiterals;
 
@@ -117,7 +116,6 @@ void cImportarDeclaraciones::leerFila(QByteArrayView linea, qint64 numero)
     if (!campos) {
         rechazar(fila, ColumnaCsv::Ninguna, msj(entera ? Msj::CsvFilaIlegible : Msj::CsvFilaLarga));
     } else {
-        fila.texto = linea.toByteArray();
         fila.campos = *campos;
         if (fila.campos.size() > m_encabezado.columnas.size())
             rechazar(fila, ColumnaCsv::Ninguna, msj(Msj::CsvSobranCampos));
@@ -195,8 +193,6 @@ void cImportarDeclaraciones::leerBuscadas(qsizetype desde)
     for (qsizetype i = desde, hallada = 0; i < m_filas.size(); ++i)
         if (m_filas[i].estado != Fila::Rechazada)
             calcular(m_filas[i], halladas[hallada++].toList(), *servicio);
-    for (Fila &fila : std::span(m_filas).subspan(static_cast<std::size_t>(desde)))
-        fila.campos.clear(); // a file has many
 }
 
 void cImportarDeclaraciones::calcular(Fila &fila, const Registro &hallada,
@@ -367,8 +363,7 @@ QByteArray cImportarDeclaraciones::csvRechazadas() const
     for (const Fila &fila : m_filas) {
         if (fila.motivo.isEmpty())
             continue;
-        auto campos = csv::partir(fila.texto, m_encabezado.separador, MaximoColumnasCsv)
-                          .value_or(QStringList());
+        QStringList campos = fila.campos;
         campos.resize(motivo < 0 ? titulos.size() + 1 : titulos.size());
         campos[motivo < 0 ? titulos.size() : motivo] = fila.textoMotivo();
         texto += csv::linea(campos);

@@ -22,8 +22,7 @@ struct FilaDeclaraciones
     };
 
     qint64 linea = 0; ///< of the file, its heading being 1
-    QByteArray texto; ///< as it stands in the file
-    QStringList campos; ///< of it, until its return has been computed
+    QStringList campos; ///< as they stand in the file
     QString dni;
     CabeceraListada cabecera;
     double importe = 0; ///< cents, as computed

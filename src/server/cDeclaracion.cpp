@@ -99,15 +99,15 @@ QVariant importeDe(const Sentencia &fila, int columna)
 bool estaGuardada(const PConexion &conexion, const Registro &cabecera)
 {
     using namespace RegCabecera;
-    const bool hay = Sentencia(conexion,
-                               "SELECT 1 FROM DECLARACIONES WHERE CSCO = ? AND EJERCICIO = ? AND "
-                               "PERIODO = ? AND MODELO = ?")
-                         .con(cabecera[CSCO].toLongLong(), cabecera[EJERCICIO].toLongLong(),
-                              cabecera[PERIODO].toLongLong(), cabecera[MODELO].toString())
-                         .fila();
-    if (!hay)
-        exigirCuenta(conexion, cabecera[CSCO].toInt());
-    return hay;
+    Sentencia guardada(conexion,
+                       "SELECT 1 FROM DECLARACIONES WHERE CSCO = ? AND EJERCICIO = ? AND "
+                       "PERIODO = ? AND MODELO = ?");
+    guardada.con(cabecera[CSCO].toLongLong(), cabecera[EJERCICIO].toLongLong(),
+                 cabecera[PERIODO].toLongLong(), cabecera[MODELO].toString());
+    if (guardada.fila())
+        return true;
+    exigirCuenta(conexion, cabecera[CSCO].toInt());
+    return false;
 }
 
 /// What is sure of a damaged header, as camposComunes; 0 and empty when it is not even sure that it
