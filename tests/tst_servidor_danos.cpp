@@ -173,7 +173,8 @@ private Q_SLOTS:
         QCOMPARE(otro(copiaAnterior(ruta(), 1)).execAndGet("PRAGMA user_version").getInt(), 1);
     }
 
-    /// An index whose entry leads elsewhere: what it hides is not said to be missing.
+    /// An index whose entry leads elsewhere, a page that lost a row: what they hide is not said to
+    /// be missing.
     void indicesQueEsconden()
     {
         poblar(2);
@@ -182,16 +183,29 @@ private Q_SLOTS:
             escribir(ruta(), base);
             Conexion::olvidar(ruta()); // which sees what SQLite writes, not this
         };
+        const auto probar
+            = [&](const QByteArray &malo, const QList<std::function<void()>> &preguntas) {
+                  for (const auto &pregunta : preguntas) {
+                      poner(bueno);
+                      pregunta();
+                      poner(malo);
+                      QCOMPARE(falloDe(pregunta), Fallo::Danada);
+                  }
+                  QVERIFY(falloDe([&] { m_servidor->comprobar(); }));
+              };
         const auto escondido = [&](const QByteArray &entrada, const QByteArray &otra,
                                    const QList<std::function<void()>> &preguntas) {
             QCOMPARE(bueno.count(entrada), 1);
-            for (const auto &pregunta : preguntas) {
-                poner(bueno);
-                pregunta();
-                poner(QByteArray(bueno).replace(entrada, otra));
-                QCOMPARE(falloDe(pregunta), Fallo::Danada);
-            }
-            QCOMPARE(falloDe([&] { m_servidor->comprobar(); }), Fallo::Danada);
+            probar(QByteArray(bueno).replace(entrada, otra), preguntas);
+        };
+        /// The page of a table has a row less.
+        const auto sinUna = [&](const char *tabla, const QList<std::function<void()>> &preguntas) {
+            poner(bueno);
+            const int pagina = otro().execAndGet(
+                std::string("SELECT rootpage FROM sqlite_schema WHERE name = '") + tabla + "'");
+            QByteArray malo = bueno;
+            --malo[(pagina - 1) * 4096 + 4];
+            probar(malo, preguntas);
         };
         const auto declaraciones = m_servidor->declaraciones();
         Filas filas;
@@ -218,6 +232,16 @@ private Q_SLOTS:
              [&] {
                  declaraciones->ValidarDatosComunes({2026, 2, 12, 2020, 1, 2030, 12, u"480"_s, 2});
              }});
+        const auto pendientes = [&] {
+            declaraciones->RecorrerPendientes(2026, u"430"_s, 3,
+                                              [](const Registro &) { return true; });
+        };
+        const auto declarantes = m_servidor->declarantes();
+        sinUna("DECLARACIONES", {pendientes});
+        sinUna("DECLARANTES",
+               {pendientes, [&] { declarantes->dameResultado(filas, 2, 0); },
+                [&] { declarantes->dameResultadoExportar(filas, 1); },
+                [&] { declarantes->RecorrerLista([](const Registro &) { return true; }); }});
         for (const char *esquema :
              {"sql = replace(sql, 'NUM430 + (', 'NUM430 - (') WHERE type = 'trigger'",
               "sql = replace(sql, 'UNIQUE', 'NOT NULL') WHERE name = 'DECLARANTES'",
