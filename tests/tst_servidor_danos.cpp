@@ -103,6 +103,10 @@ private Q_SLOTS:
         declaraciones->dameResultado(filas, 1);
         QCOMPARE(filas[0].toList(), (Registro{1, 2026, 1, 3, u"430"_s, 1, QVariant()}));
         QCOMPARE(filas[1].toList(), (Registro{2, 2026, 2, 12, u"480"_s, 2, 56.0}));
+        // a month that is damaged is one of its own year's
+        QCOMPARE(falloDe([&] { declarantes->ObtListDecl430(filas, 2026, 1); }),
+                 Fallo::RegistroDanado);
+        QVERIFY(!declarantes->ObtListDecl430(filas, 2025, 1) && filas.isEmpty());
         const QByteArray antes = bytes(ruta());
         const auto rechazado = [&](const std::function<void()> &f) {
             QCOMPARE(falloDe(f), Fallo::RegistroDanado);
