@@ -107,6 +107,12 @@ static void declaraciones(MDIOstrel &ventana)
     pulsar(resumen, u"cmdImprimir"_s);
     guardar(buscar(u"FrmImOf"_s), u"FrmImOf"_s);
     pulsar(u"FrmImOf"_s, u"btnCancelar"_s);
+    static_cast<QTableView &>(buscar(u"flxDeclaraciones"_s)).selectAll();
+    pulsar(resumen, u"cmdImprimir"_s);
+    const QString varias = buscar(u"FrmImprimirVarias"_s).objectName();
+    guardar(ventana, varias);
+    pulsar(varias, u"cmdCancelar"_s);
+    elegir(ventana, "d1");
     pulsar(resumen, u"cmdCerrar"_s);
 }
 
